@@ -1,0 +1,48 @@
+# SPDX-License-Identifier: MIT
+# What `cmake --install` puts where: the libraries, their headers, the CMake package and the
+# pkg-config module. Nothing that is installed holds the prefix, so a host may move it.
+
+include(CMakePackageConfigHelpers)
+
+set(KTQTBASE_CMAKE_DIR ${CMAKE_INSTALL_LIBDIR}/cmake/KtQtBase)
+set(KTQTBASE_PC_DIR ${CMAKE_INSTALL_LIBDIR}/pkgconfig)
+
+# The two libraries lie side by side, and the loader is to find the second next to the first.
+if(APPLE)
+    set_target_properties(KtQtBase PROPERTIES INSTALL_RPATH "@loader_path")
+else()
+    set_target_properties(KtQtBase PROPERTIES INSTALL_RPATH "$ORIGIN")
+endif()
+
+install(TARGETS KtQtBase EXPORT KtQtBaseTargets)
+install(DIRECTORY include/KtQtBase DESTINATION ${CMAKE_INSTALL_INCLUDEDIR})
+install(EXPORT KtQtBaseTargets NAMESPACE KtQtBase:: DESTINATION ${KTQTBASE_CMAKE_DIR})
+
+# A host's own OS-base library stays where the host has it; the package only points there.
+if(KTQTBASE_HOST_OSBASE)
+    set(KTQTBASE_PC_OSBASE_LIBS "${KTQTBASE_HOST_OSBASE}")
+    set(KTQTBASE_PC_OSBASE_CFLAGS "-I${KTQTBASE_HOST_OSBASE_INCLUDE}")
+else()
+    set(KTQTBASE_PC_OSBASE_LIBS "-lKtOsBase")
+    install(TARGETS KtOsBase EXPORT KtOsBaseTargets)
+    install(DIRECTORY osbase/include/KtOsBase DESTINATION ${CMAKE_INSTALL_INCLUDEDIR})
+    install(EXPORT KtOsBaseTargets NAMESPACE KtOsBase:: DESTINATION ${KTQTBASE_CMAKE_DIR})
+endif()
+
+configure_package_config_file(cmake/KtQtBaseConfig.cmake.in
+    ${PROJECT_BINARY_DIR}/KtQtBaseConfig.cmake
+    INSTALL_DESTINATION ${KTQTBASE_CMAKE_DIR})
+write_basic_package_version_file(${PROJECT_BINARY_DIR}/KtQtBaseConfigVersion.cmake
+    COMPATIBILITY SameMajorVersion)
+install(FILES
+    ${PROJECT_BINARY_DIR}/KtQtBaseConfig.cmake
+    ${PROJECT_BINARY_DIR}/KtQtBaseConfigVersion.cmake
+    DESTINATION ${KTQTBASE_CMAKE_DIR})
+
+# The library folder may be one or two levels deep, so the module's way up to the prefix is measured.
+file(RELATIVE_PATH KTQTBASE_PC_PREFIX
+    ${CMAKE_INSTALL_FULL_LIBDIR}/pkgconfig ${CMAKE_INSTALL_PREFIX})
+file(RELATIVE_PATH KTQTBASE_PC_LIBDIR ${CMAKE_INSTALL_PREFIX} ${CMAKE_INSTALL_FULL_LIBDIR})
+file(RELATIVE_PATH KTQTBASE_PC_INCLUDEDIR ${CMAKE_INSTALL_PREFIX} ${CMAKE_INSTALL_FULL_INCLUDEDIR})
+configure_file(cmake/KtQtBase.pc.in ${PROJECT_BINARY_DIR}/KtQtBase.pc @ONLY)
+install(FILES ${PROJECT_BINARY_DIR}/KtQtBase.pc DESTINATION ${KTQTBASE_PC_DIR})

@@ -1,0 +1,41 @@
+# SPDX-License-Identifier: MIT
+# What a builder may switch, and the compile settings that every target of this project shares.
+
+option(KTQTBASE_BUILD_TESTS "Build the tests" ${PROJECT_IS_TOP_LEVEL})
+option(KTQTBASE_BUILD_EXAMPLES "Build the example programs" ${PROJECT_IS_TOP_LEVEL})
+option(KTQTBASE_WARNINGS_AS_ERRORS "Treat compiler warnings as errors" OFF)
+option(KTQTBASE_SANITIZE "Build with AddressSanitizer and UndefinedBehaviorSanitizer" OFF)
+option(KTQTBASE_COVERAGE "Build with coverage counters" OFF)
+set(KTQTBASE_HOST_OSBASE "" CACHE FILEPATH
+    "A host's own OS-base library to link instead of the bundled one")
+set(KTQTBASE_HOST_OSBASE_INCLUDE "" CACHE PATH
+    "The folder that holds KtOsBase/KtOsBase.h of the host's own OS-base library")
+
+# Settings for one target: C++17, hidden symbols (Objective-C++ takes neither from the C++ ones),
+# warnings, and the sanitizers or counters where they are asked for.
+function(ktqtbase_target_settings target)
+    set_target_properties(${target} PROPERTIES
+        CXX_STANDARD 17
+        CXX_STANDARD_REQUIRED ON
+        CXX_EXTENSIONS OFF
+        CXX_VISIBILITY_PRESET hidden
+        OBJCXX_STANDARD 17
+        OBJCXX_STANDARD_REQUIRED ON
+        OBJCXX_EXTENSIONS OFF
+        OBJCXX_VISIBILITY_PRESET hidden
+        VISIBILITY_INLINES_HIDDEN ON
+        POSITION_INDEPENDENT_CODE ON)
+    target_compile_options(${target} PRIVATE -Wall -Wextra -Wpedantic -Wshadow -Wconversion)
+    if(KTQTBASE_WARNINGS_AS_ERRORS)
+        target_compile_options(${target} PRIVATE -Werror)
+    endif()
+    if(KTQTBASE_SANITIZE)
+        set(sanitizers -fsanitize=address,undefined -fno-sanitize-recover=all)
+        target_compile_options(${target} PRIVATE ${sanitizers} -fno-omit-frame-pointer)
+        target_link_options(${target} PRIVATE ${sanitizers})
+    endif()
+    if(KTQTBASE_COVERAGE)
+        target_compile_options(${target} PRIVATE --coverage -fprofile-update=atomic)
+        target_link_options(${target} PRIVATE --coverage)
+    endif()
+endfunction()

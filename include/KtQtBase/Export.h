@@ -1,0 +1,13 @@
+// SPDX-License-Identifier: MIT
+//
+// KTQTBASE_EXPORT marks what the shared library shows to its hosts; all else stays hidden.
+#ifndef KTQTBASE_EXPORT_H
+#define KTQTBASE_EXPORT_H
+
+#if defined(__GNUC__)
+#define KTQTBASE_EXPORT __attribute__((visibility("default")))
+#else
+#define KTQTBASE_EXPORT
+#endif
+
+#endif

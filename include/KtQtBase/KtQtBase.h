@@ -1,0 +1,16 @@
+// SPDX-License-Identifier: MIT
+//
+// Everything of the library in one include.
+//
+//     #include <KtQtBase/KtQtBase.h>
+#ifndef KTQTBASE_KTQTBASE_H
+#define KTQTBASE_KTQTBASE_H
+
+#include <KtQtBase/Export.h>
+#include <KtQtBase/PathName.h>
+#include <KtQtBase/VolumeDescriptor.h>
+#include <KtQtBase/WideString.h>
+#include <KtQtBase/WindowsFunctions.h>
+#include <KtQtBase/WindowsTypes.h>
+
+#endif

@@ -1,0 +1,216 @@
+// SPDX-License-Identifier: MIT
+//
+// Volumes: what the names on one volume look like, and the process-wide list of volumes in which
+// path names look up their drive.
+//
+//     class DriveVolume : public CRbUiVolumeDescriptor { ... the two validations ... };
+//     volumeList.append(new DriveVolume(CStdStr<wchar_t>(L"C:")));
+//
+// A descriptor never asks the operating system about its volume: the file system's name is always
+// "nofilesystem", the free space a fixed large number, and every write fits.
+#ifndef KTQTBASE_VOLUMEDESCRIPTOR_H
+#define KTQTBASE_VOLUMEDESCRIPTOR_H
+
+#include <KtQtBase/Export.h>
+#include <KtQtBase/WideString.h>
+
+#include <QtCore/QList>
+
+#include <cstdio>
+
+// ---- Characters --------------------------------------------------------------------------------
+
+extern KTQTBASE_EXPORT const wchar_t kBackslash;
+extern KTQTBASE_EXPORT const wchar_t kColon;
+extern KTQTBASE_EXPORT const wchar_t kDoubleQuote;
+extern KTQTBASE_EXPORT const wchar_t kEOS; // the terminator, 0
+extern KTQTBASE_EXPORT const wchar_t kPeriod;
+extern KTQTBASE_EXPORT const wchar_t kSlash;
+extern KTQTBASE_EXPORT const wchar_t kSpace;
+extern KTQTBASE_EXPORT const wchar_t kAsterisk;
+extern KTQTBASE_EXPORT const wchar_t kQuestionmark;
+extern KTQTBASE_EXPORT const wchar_t kZero; // the digit
+
+// ---- File systems ------------------------------------------------------------------------------
+
+// The file system of a volume. Values without a name can be stored and mean nothing.
+enum FS_TYPE : int
+{
+    FS_NOFS = 0,
+    FS_NTFS = 2,
+    FS_FAT = 3, // 8.3 names: the longest component has 12 characters
+    FS_VFAT = 4,
+    FS_HPFS = 5,
+    FS_CDFS = 6,
+    FS_NFS = 8
+};
+
+// Writes the label of a file system and a line feed to a stream.
+//   stream    in: where the stream's pointer lies
+//   type      in: the file system
+// Result: what fwprintf returns: the characters written, or a negative number. A null stream gives
+// -1.
+//   FS_NOFS => "NOFS\n"   FS_NTFS => "NTFS\n"   FS_FAT  => "FAT\n"    FS_VFAT => "VFAT\n"
+//   FS_HPFS => "HPFS\n"   FS_CDFS => "CDFS\n"   FS_NFS  => "UFS\n"    all else => "???\n"
+// Kept: FS_NFS is labelled "UFS"; hosts compare dumps of theirs with older ones.
+KTQTBASE_EXPORT int dump_file_type(FILE** stream, FS_TYPE type);
+
+// Classifies a file system's name.
+//   fsName             in: the name, zero-terminated
+//   type               out: the file system; untouched when fsName is null
+//   maxComponentLen    in: longest component in characters; 12 tells FAT from VFAT
+//   L"NTFS"                     => FS_NTFS
+//   L"HPFS"                     => FS_HPFS
+//   L"CDFS"                     => FS_CDFS
+//   L"NFS", L"myNFS3"           => FS_NFS
+//   L"FAT" or anything else     => FS_FAT where maxComponentLen is 12, else FS_VFAT
+//   L"ntfs", 255                => FS_VFAT
+// Kept: case counts, so a lower-case name is none of the known ones; hosts pass the names in
+// capitals and rely on all others being FAT.
+KTQTBASE_EXPORT void GetDriveTypeByVol(wchar_t* fsName, FS_TYPE& type,
+                                       unsigned int maxComponentLen);
+
+// ---- Volume descriptor -------------------------------------------------------------------------
+
+// How names behave on one volume. Abstract: a derived class brings the two validations.
+// The order of the virtual functions and of the fields is part of the interface.
+class KTQTBASE_EXPORT CRbUiVolumeDescriptor
+{
+public:
+    // Leaves every field unset. Whoever derives from it sets them all before use, the three owned
+    // pointers (m_pLocalName, m_pAuxName, m_pConnectionName) before destruction too.
+    CRbUiVolumeDescriptor();
+
+    // Describes the volume of a local name.
+    //   localName    in: drive or share name such as L"C:", copied as it is
+    // Sets every field but m_fsType and bit 7 of m_flags, which keep what the memory held.
+    // Kept: bit 7 survives, for hosts that mark the memory before they construct in it.
+    explicit CRbUiVolumeDescriptor(const CStdStr<wchar_t>& localName);
+
+    // Deletes the three owned strings.
+    virtual ~CRbUiVolumeDescriptor();
+
+    CRbUiVolumeDescriptor(const CRbUiVolumeDescriptor&) = delete;
+    CRbUiVolumeDescriptor& operator=(const CRbUiVolumeDescriptor&) = delete;
+
+    // Whether the volume is read-only: bit 5 of m_flags.
+    virtual bool CheckReadOnly() const;
+
+    // Whether a text may be used as a whole name, or as one segment of a path, on this volume.
+    //   name, segment     in: the text
+    //   allowWildcards    in: whether asterisk and question mark may occur
+    virtual bool ValidateFilename(const CStdStr<wchar_t>* name, bool allowWildcards) const = 0;
+    virtual bool ValidateSegment(const CStdStr<wchar_t>* segment, bool allowWildcards) const = 0;
+
+    // Whether names that differ in case are different names: bit 6 of m_flags.
+    virtual bool IsCaseSensitive() const;
+
+    // Always true: names keep the case they were made with.
+    virtual bool PreservesCase() const;
+
+    // Always true.
+    virtual bool AllowsCaseSensitiveLookup() const;
+
+    // Puts a name into the volume's case convention; here the name stays as it is. Every parse of a
+    // name on the volume calls it.
+    //   name    in/out: the name, with its drive and with the path name's own separator
+    virtual void VolCase(CStdStr<wchar_t>& name) const;
+
+    // Whether two names are the same name on this volume: exactly where IsCaseSensitive() says so,
+    // else with both folded to lower case by the classic locale, up to the terminator of b.
+    //   a, b    in: the names
+    // Null: the first form gives false for either; the second only for b, and a must not be null.
+    //   L"Name", L"nAME"  => true, on a case-sensitive volume false
+    // Kept: the two forms treat a null a differently; a host's derived class may answer both.
+    virtual bool VolMatch(const wchar_t* a, const CStdStr<wchar_t>* b) const;
+    virtual bool VolMatch(const CStdStr<wchar_t>* a, const CStdStr<wchar_t>* b) const;
+
+    // The local name, owned by the descriptor.
+    virtual const CStdStr<wchar_t>* GetLocalName() const;
+
+    // Free space in bytes. Result: 0x7FFFFFFF always.
+    // On Windows: the volume is asked.
+    virtual unsigned int GetVolFreeSpace() const;
+
+    // Whether so many bytes fit. Result: true always.
+    // On Windows: the volume is asked.
+    virtual bool WillFit(unsigned int bytes) const;
+
+    // Whether the volume is what m_fsType says: true for every descriptor that was made from a name
+    // (bit 0 of m_flags) or is trusted by its creator (bit 4). Else false, since the file system's
+    // name is never known here.
+    virtual bool VolumeValid() const;
+
+    // Asks for the connection behind a share and puts the answer into m_pConnectionName.
+    // The answer is always "GetConnectionName Failed".
+    // Kept: the earlier string is not released by a second call, for hosts that still hold it.
+    // On Windows: the name of the network connection.
+    void GetConnectionName();
+
+    // The position of a character.
+    //   s     in: the text
+    //   ch    in: the character
+    // Result: the first position, or 0xFFFFFFFF. With m_bUseCSearch set, the search ends at the
+    // first terminator inside the text, and a search for the terminator finds it.
+    unsigned int Find(const CStdStr<wchar_t>& s, wchar_t ch) const;
+
+    // Whether a character is a forbidden control character. Result: false always.
+    bool IsControl(int ch) const;
+
+    FS_TYPE m_fsType;                    // not set by this class
+    unsigned char m_flags;               // bits 0 and 4 valid, 5 read-only, 6 case-sensitive
+    CStdStr<wchar_t>* m_pLocalName;      // owned
+    int m_maxComponentLen;               // longest segment; 255 unless the creator sets it
+    int m_maxPathLen;                    // longest whole name; 1023
+    wchar_t m_separator;                 // backslash
+    bool m_bUseCSearch;                  // Find uses wcschr
+    int m_reserved;                      // 0; read by nothing
+    CStdStr<wchar_t>* m_pAuxName;        // owned, null; for the creator's use
+    CStdStr<wchar_t>* m_pConnectionName; // owned, null until GetConnectionName
+    const wchar_t* m_pUncPrefix;         // two backslashes, not owned
+};
+
+// ---- The list of volumes -----------------------------------------------------------------------
+
+// The volumes of this process, in the order in which the host appended them; empty at load. The
+// host fills it before it parses names, from one thread. Its descriptors are deleted when the
+// library is unloaded; a null entry is passed over.
+extern KTQTBASE_EXPORT QList<CRbUiVolumeDescriptor*> volumeList;
+
+// Deletes every descriptor of volumeList when it is destroyed. The library holds one such object;
+// a host makes none.
+class KTQTBASE_EXPORT CDelVolumeList
+{
+public:
+    ~CDelVolumeList();
+};
+
+// ---- Functions without a counterpart here ------------------------------------------------------
+
+// Inert: the outputs stay untouched.
+// On Windows: they receive the file system's name, its longest component and its case rule.
+KTQTBASE_EXPORT void GetVolumeInfo(CStdStr<wchar_t>& volume, wchar_t* fsName,
+                                   unsigned int& maxComponentLen, bool& caseSensitive);
+
+// Inert: returns true; the outputs stay untouched.
+// On Windows: they receive the file system's name and the connection's.
+KTQTBASE_EXPORT bool GetVolumeInfo(CStdStr<wchar_t> volume, wchar_t* fsName,
+                                   CStdStr<wchar_t>* connection, int flags, unsigned int size);
+
+// Inert: no effect.
+// On Windows: the volume part of a name is taken apart.
+KTQTBASE_EXPORT void ParseVolumeStr(CStdStr<wchar_t>& volume, char* text, unsigned int size);
+
+// Inert: no effect.
+// On Windows: the volume's narrow name is prepared.
+KTQTBASE_EXPORT void InitVolumeChar(CStdStr<wchar_t>& volume, char* text);
+
+// Inert: returns 0.
+// On Windows: the code page for narrow names is chosen.
+KTQTBASE_EXPORT int InitModeMultiByte();
+
+// Deletes a string and forgets it, as ReleaseCStrPtr does.
+//   pp    in/out: where the owning pointer lies; set to null. Null is left as it is.
+KTQTBASE_EXPORT void ReleaseStringPtr(CStdStr<wchar_t>** pp);
+
+#endif

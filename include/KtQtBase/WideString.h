@@ -1,0 +1,102 @@
+// SPDX-License-Identifier: MIT
+//
+// CStdStr<wchar_t>, the wide string of every interface of this library: a standard wide string
+// with the MFC-style operations that ported code calls.
+//
+//     CStdStr<wchar_t> name = L"  Report.TXT ";
+//     name.TrimLeft().TrimRight();
+//     if (name.Find(L".TXT") != -1)
+//         name = name.Left(6) + L".txt";
+//
+// Text is UTF-32, one code point an element. Positions and lengths of the operations below are int,
+// -1 meaning not found. The class adds no data: it is as large as a standard wide string and may be
+// passed wherever one is expected.
+#ifndef KTQTBASE_WIDESTRING_H
+#define KTQTBASE_WIDESTRING_H
+
+#include <KtQtBase/Export.h>
+
+#include <locale>
+#include <string>
+#include <utility>
+
+// ---- The string --------------------------------------------------------------------------------
+
+template<class T>
+class CStdStr : public std::basic_string<T>
+{
+public:
+    using std::basic_string<T>::basic_string;
+    using std::basic_string<T>::operator=;
+
+    // An empty string.
+    CStdStr() = default;
+
+    // The same text as a standard string, so that `s = s + L"b"` compiles.
+    CStdStr(const std::basic_string<T>& text) : std::basic_string<T>(text) {}
+    CStdStr(std::basic_string<T>&& text) noexcept : std::basic_string<T>(std::move(text)) {}
+
+    // Looks for a text, by exact comparison of its characters.
+    //   sub    in: the text, zero-terminated; null counts as empty
+    // Result: the position of the first occurrence, or -1.
+    //   L"abcabc", L"ca"   => 2
+    //   L"abc",    L"B"    => -1
+    //   L"abc",    L""     => 0
+    //   L"",       L""     => 0
+    //   L"ab",     L"abc"  => -1
+    int Find(const T* sub) const;
+
+    // A part of the string.
+    //   first    in: position of its first character; negative counts as 0
+    //   count    in: how many characters; negative counts as 0, too many are cut
+    // Result: a new string; empty when first lies beyond the end.
+    //   L"abcdef", -3, 2       => L"ab"
+    //   L"abcdef", 4, 10       => L"ef"
+    //   L"abcdef", 4, INT_MAX  => L"ef"
+    //   L"abcdef", 10, 2       => L""
+    CStdStr Mid(int first, int count) const;
+
+    // The beginning of the string.
+    //   count    in: how many characters; below 1 gives an empty string, too many are cut
+    //   L"abc", 2   => L"ab"
+    //   L"abc", 99  => L"abc"
+    //   L"abc", -1  => L""
+    CStdStr Left(int count) const;
+
+    // Removes white space from the start, or from the end. White space is what the global
+    // std::locale classifies as such at the time of the call.
+    // Result: the string itself.
+    //   L"  a b ", TrimLeft   => L"a b "
+    //   L"  a b ", TrimRight  => L"  a b"
+    //   L" \t ",   either     => L""
+    CStdStr& TrimLeft();
+    CStdStr& TrimRight();
+
+    // Replaces every character in place by its upper-case, or lower-case, form in a locale.
+    //   locale    in: whose ctype<wchar_t> facet decides
+    // Result: the string itself.
+    // Kept: the two names begin with a small and a capital letter; hosts call both as they are.
+    CStdStr& toUpper(const std::locale& locale);
+    CStdStr& ToLower(const std::locale& locale);
+};
+
+// The operations exist once, in the library, for the wide string only.
+extern template class KTQTBASE_EXPORT CStdStr<wchar_t>;
+
+// ---- Helpers -----------------------------------------------------------------------------------
+
+namespace KtErrorEat {
+
+// Upper-cases, or lower-cases, a string in place by the global std::locale.
+//   s    in/out: the string
+KTQTBASE_EXPORT void strMakeUpper(CStdStr<wchar_t>& s);
+KTQTBASE_EXPORT void strMakeLower(CStdStr<wchar_t>& s);
+
+} // namespace KtErrorEat
+
+// Deletes a string and forgets it.
+//   pp    in/out: where the owning pointer lies; set to null. Null, or a null pointer there, is
+//         left as it is.
+KTQTBASE_EXPORT void ReleaseCStrPtr(CStdStr<wchar_t>** pp);
+
+#endif

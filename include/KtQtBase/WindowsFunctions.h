@@ -1,0 +1,20 @@
+// SPDX-License-Identifier: MIT
+//
+// Functions of the Windows API at global scope, and again in KtKernel32 where hosts call them so.
+//
+//     wchar_t name[1024] = {};
+//     GetTempFileName(L"/tmp/", L"kt", 0, name);
+//     CopyFile(source, name, false);
+//
+// The working ones stand by concern in the first headers below. The others have no counterpart
+// here: they do nothing, return a fixed value and write to none of their arguments; each carries
+// the word Inert. They stand by the Windows library that they come from.
+#ifndef KTQTBASE_WINDOWSFUNCTIONS_H
+#define KTQTBASE_WINDOWSFUNCTIONS_H
+
+#include <KtQtBase/windows/Files.h>
+#include <KtQtBase/windows/Modules.h>
+#include <KtQtBase/windows/ResourceStrings.h>
+#include <KtQtBase/windows/SystemInformation.h>
+
+#endif

@@ -1,0 +1,52 @@
+// SPDX-License-Identifier: MIT
+//
+// The clock, the screen's size, the last error, and the step to the next character.
+//
+//     unsigned int start = GetTickCount();
+//     work();
+//     unsigned int milliseconds = GetTickCount() - start;
+#ifndef KTQTBASE_WINDOWS_SYSTEMINFORMATION_H
+#define KTQTBASE_WINDOWS_SYSTEMINFORMATION_H
+
+#include <KtQtBase/Export.h>
+
+// A clock for differences of two readings.
+// Result: milliseconds of the wall clock since 1970, modulo 2^32; wraps about every 49.7 days and
+// jumps when the clock is set.
+// On Windows: milliseconds since the system started.
+KTQTBASE_EXPORT unsigned int GetTickCount();
+
+// The calling thread's errno as it stands. No function of this library sets an error code.
+// On Windows: the code that the last function set.
+KTQTBASE_EXPORT unsigned int GetLastError();
+
+// A size of the system's display.
+//   nIndex    in: SM_CXFULLSCREEN (16) or SM_CYFULLSCREEN (17)
+// Result: getDisplayWidth() or getDiaplayHeight(); 0 for every other index.
+// On Windows: the client area of a full-screen window, and many other sizes.
+KTQTBASE_EXPORT int GetSystemMetrics(int nIndex);
+
+// Width and height of the main screen's frame in points, cut to whole numbers; 0 without a main
+// screen. On Linux they come from Qt's primary screen, which exists with a QGuiApplication.
+// Kept: the second name is spelt as hosts call it.
+KTQTBASE_EXPORT int getDisplayWidth();
+KTQTBASE_EXPORT int getDiaplayHeight();
+
+// The next character of a text.
+//   lpsz    in: a place in a text
+// Result: lpsz + 1, also at the terminator.
+// On Windows: a place at the terminator is returned as it is.
+KTQTBASE_EXPORT const wchar_t* CharNext(const wchar_t* lpsz);
+
+// The same under the names of kernel32; each does what the global function does.
+namespace KtKernel32 {
+
+KTQTBASE_EXPORT unsigned int GetTickCount();
+KTQTBASE_EXPORT unsigned int GetLastError();
+
+// Whether a byte begins a two-byte character. Result: what the OS-base library answers.
+KTQTBASE_EXPORT int IsDBCSLeadByte(unsigned char TestChar);
+
+} // namespace KtKernel32
+
+#endif

@@ -1,0 +1,98 @@
+// SPDX-License-Identifier: MIT
+#include <KtQtBase/PathName.h>
+
+#include "pathname/ParsedState.h"
+
+#include <cwchar>
+
+namespace {
+
+// Not found, file, directory, and 5, which a host may set: the types that have a file name.
+constexpr unsigned int kTypesWithFileName = 0x3A;
+
+bool hasFileName(path_type type)
+{
+    const auto value = static_cast<unsigned int>(type);
+    return value < 32 && ((kTypesWithFileName >> value) & 1);
+}
+
+// Where the last component begins.
+std::size_t lastComponent(const CStdStr<wchar_t>& work, wchar_t separator)
+{
+    std::size_t position = work.rfind(separator);
+    if (position == work.npos)
+        position = work.rfind(kColon);
+    return position + 1;
+}
+
+} // namespace
+
+void CRbUiPathname::GetBasename(CStdStr<wchar_t>& out) const
+{
+    if (m_type != PT_NONE && m_pWork)
+        out.assign(*m_pWork, lastComponent(*m_pWork, m_separator), m_pWork->npos);
+}
+
+void CRbUiPathname::GetFilename(CStdStr<wchar_t>& out) const
+{
+    if (!hasFileName(m_type))
+        return;
+    CStdStr<wchar_t> base;
+    GetBasename(base);
+    if (!base.empty())
+        out.assign(base, 0, base.rfind(kPeriod));
+}
+
+void CRbUiPathname::GetExtension(CStdStr<wchar_t>& out) const
+{
+    CStdStr<wchar_t> base;
+    GetBasename(base);
+    const std::size_t dot = base.rfind(kPeriod);
+    if (dot != base.npos)
+        out.assign(base, dot + 1, base.npos);
+}
+
+wchar_t CRbUiPathname::GetLastCharacter(const CStdStr<wchar_t>& s)
+{
+    return s.empty() ? kEOS : s.back();
+}
+
+bool CRbUiPathname::GetFullPath(CStdStr<wchar_t>& out) const
+{
+    if (m_type == PT_NONE)
+        return false;
+    out.clear();
+    if (ktqtbase::isParsed(m_type) && m_category != PC_ROOTED && m_pRelPath) {
+        out = *m_pRelPath;
+        if (GetLastCharacter(out) != m_separator)
+            out.push_back(m_separator);
+    }
+    if (m_pWork)
+        out.append(*m_pWork);
+    return true;
+}
+
+bool CRbUiPathname::GetFullPath(wchar_t* out) const
+{
+    if (!out)
+        return false;
+    CStdStr<wchar_t> path;
+    const bool parsed = GetFullPath(path);
+    std::wcscpy(out, path.c_str());
+    return parsed;
+}
+
+const wchar_t* CRbUiPathname::GetPathString() const
+{
+    return m_pWork ? m_pWork->c_str() : nullptr;
+}
+
+wchar_t CRbUiPathname::GetSeparator() const
+{
+    return m_separator;
+}
+
+bool CRbUiPathname::ParseAndOSFind(const wchar_t*)
+{
+    return true;
+}

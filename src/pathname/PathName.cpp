@@ -1,0 +1,45 @@
+// SPDX-License-Identifier: MIT
+#include <KtQtBase/PathName.h>
+
+#include <memory>
+
+namespace {
+
+std::unique_ptr<CStdStr<wchar_t>> copyOf(const CStdStr<wchar_t>* text)
+{
+    return text ? std::make_unique<CStdStr<wchar_t>>(*text) : nullptr;
+}
+
+} // namespace
+
+CRbUiPathname::CRbUiPathname()
+    : m_type(PT_NONE), m_pVolume(nullptr), m_pWork(nullptr), m_pRelPath(nullptr),
+      m_separator(kSlash), m_bQualified(false)
+{}
+
+CRbUiPathname::~CRbUiPathname()
+{
+    Empty();
+}
+
+void CRbUiPathname::Empty()
+{
+    m_pVolume = nullptr;
+    m_type = PT_NONE;
+    ReleaseCStrPtr(&m_pRelPath);
+    ReleaseCStrPtr(&m_pWork);
+}
+
+void CRbUiPathname::AssignCopy(const CRbUiPathname& other)
+{
+    Empty();
+    auto work = copyOf(other.m_pWork);
+    auto relPath = copyOf(other.m_pRelPath);
+    m_pWork = work.release();
+    m_pRelPath = relPath.release();
+    m_type = other.m_type;
+    m_pVolume = other.m_pVolume;
+    m_category = other.m_category;
+    m_separator = other.m_separator;
+    m_bQualified = other.m_bQualified;
+}

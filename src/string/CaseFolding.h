@@ -1,0 +1,38 @@
+// SPDX-License-Identifier: MIT
+//
+// Comparison of names without regard to case, and the character tests of drive letters.
+#ifndef KTQTBASE_STRING_CASEFOLDING_H
+#define KTQTBASE_STRING_CASEFOLDING_H
+
+#include <cwctype>
+#include <locale>
+
+namespace ktqtbase {
+
+// Whether two terminated texts are equal, each character lower-cased by the classic locale. The
+// answer does not depend on a locale that the host has set.
+inline bool equalFolded(const wchar_t* a, const wchar_t* b)
+{
+    const auto& classes = std::use_facet<std::ctype<wchar_t>>(std::locale::classic());
+    while (*b && classes.tolower(*a) == classes.tolower(*b)) {
+        ++a;
+        ++b;
+    }
+    return classes.tolower(*a) == classes.tolower(*b);
+}
+
+// Whether a code point is a letter for the process's LC_CTYPE.
+inline bool isLetter(wchar_t ch)
+{
+    return std::iswalpha(static_cast<std::wint_t>(ch)) != 0;
+}
+
+// The upper-case form of a code point for the process's LC_CTYPE.
+inline wchar_t upperCase(wchar_t ch)
+{
+    return static_cast<wchar_t>(std::towupper(static_cast<std::wint_t>(ch)));
+}
+
+} // namespace ktqtbase
+
+#endif

@@ -1,0 +1,67 @@
+// SPDX-License-Identifier: MIT
+#include "string/TextConversion.h"
+
+#include "platform/Platform.h"
+
+#include <clocale>
+#include <cstdlib>
+#include <cstring>
+#include <cwchar>
+
+namespace {
+
+constexpr std::size_t kMostBytesPerCharacter = 4;
+
+} // namespace
+
+namespace ktqtbase {
+
+NarrowText::NarrowText(const wchar_t* wide)
+{
+    if (!wide)
+        return;
+    const std::size_t room = std::wcslen(wide) * kMostBytesPerCharacter + 1;
+    if (room <= kShortRoom) {
+        convert(wide, m_short, kShortRoom);
+        return;
+    }
+    m_long = std::make_unique<char[]>(room);
+    convert(wide, m_long.get(), room);
+}
+
+void NarrowText::convert(const wchar_t* wide, char* room, std::size_t size)
+{
+    const std::size_t length = std::wcstombs(room, wide, size);
+    // Also -1, for text that does not convert.
+    if (length >= size)
+        return;
+    m_text = room;
+    m_length = length;
+}
+
+bool widen(const char* narrow, wchar_t* wide, std::size_t size)
+{
+    if (!wide)
+        return true;
+    std::mbstate_t state{};
+    const char* const end = narrow + std::strlen(narrow) + 1;
+    for (std::size_t written = 0; written < size; ++written) {
+        const auto left = static_cast<std::size_t>(end - narrow);
+        const std::size_t bytes = std::mbrtowc(&wide[written], narrow, left, &state);
+        if (bytes == 0)
+            return true;
+        if (bytes > left) {
+            wide[written] = L'\0';
+            return false;
+        }
+        narrow += bytes;
+    }
+    return true;
+}
+
+void useUtf8Locale()
+{
+    std::setlocale(LC_CTYPE, platform::utf8LocaleName());
+}
+
+} // namespace ktqtbase

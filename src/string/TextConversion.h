@@ -1,0 +1,52 @@
+// SPDX-License-Identifier: MIT
+//
+// Wide text to the multibyte text of the current LC_CTYPE and back. Every conversion of the library
+// that libc does passes through here, so that a text that does not convert is met in one place.
+#ifndef KTQTBASE_STRING_TEXTCONVERSION_H
+#define KTQTBASE_STRING_TEXTCONVERSION_H
+
+#include <cstddef>
+#include <memory>
+
+namespace ktqtbase {
+
+// A wide text in multibyte form, or none where the text is null or does not convert.
+class NarrowText
+{
+public:
+    explicit NarrowText(const wchar_t* wide);
+    NarrowText(const NarrowText&) = delete;
+    NarrowText& operator=(const NarrowText&) = delete;
+
+    bool converted() const { return m_text; }
+
+    // The terminated text and its length in bytes. Only where converted() is true.
+    char* data() { return m_text; }
+    const char* c_str() const { return m_text; }
+    std::size_t length() const { return m_length; }
+
+private:
+    static constexpr std::size_t kShortRoom = 512;
+
+    void convert(const wchar_t* wide, char* room, std::size_t size);
+
+    char* m_text = nullptr;
+    std::size_t m_length = 0;
+    std::unique_ptr<char[]> m_long;
+    char m_short[kShortRoom];
+};
+
+// Converts multibyte text to wide text, as mbstowcs does: no terminator is written where the text
+// fills the whole area.
+//   narrow    in: the text, zero-terminated
+//   wide      out: the text; null writes nothing
+//   size      in: its room in characters
+// Result: false where a byte does not convert; wide then holds what lies before it, terminated.
+bool widen(const char* narrow, wchar_t* wide, std::size_t size);
+
+// Sets the process's LC_CTYPE to plain UTF-8, for good.
+void useUtf8Locale();
+
+} // namespace ktqtbase
+
+#endif

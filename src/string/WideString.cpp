@@ -1,0 +1,93 @@
+// SPDX-License-Identifier: MIT
+#include <KtQtBase/WideString.h>
+
+#include <algorithm>
+
+namespace {
+
+template<class T>
+const std::ctype<T>& characterClasses(const std::locale& locale)
+{
+    return std::use_facet<std::ctype<T>>(locale);
+}
+
+} // namespace
+
+template<class T>
+int CStdStr<T>::Find(const T* sub) const
+{
+    const std::size_t position = sub ? this->find(sub) : 0;
+    return position == this->npos ? -1 : static_cast<int>(position);
+}
+
+template<class T>
+CStdStr<T> CStdStr<T>::Mid(int first, int count) const
+{
+    const std::size_t start = static_cast<std::size_t>(std::max(first, 0));
+    if (start >= this->size())
+        return CStdStr();
+    return CStdStr(*this, start, static_cast<std::size_t>(std::max(count, 0)));
+}
+
+template<class T>
+CStdStr<T> CStdStr<T>::Left(int count) const
+{
+    return CStdStr(*this, 0, static_cast<std::size_t>(std::max(count, 0)));
+}
+
+template<class T>
+CStdStr<T>& CStdStr<T>::TrimLeft()
+{
+    const std::locale locale;
+    const T* begin = this->data();
+    const T* end = begin + this->size();
+    const T* kept = characterClasses<T>(locale).scan_not(std::ctype_base::space, begin, end);
+    this->erase(0, static_cast<std::size_t>(kept - begin));
+    return *this;
+}
+
+template<class T>
+CStdStr<T>& CStdStr<T>::TrimRight()
+{
+    const std::locale locale;
+    const std::ctype<T>& classes = characterClasses<T>(locale);
+    std::size_t length = this->size();
+    while (length > 0 && classes.is(std::ctype_base::space, (*this)[length - 1]))
+        --length;
+    this->resize(length);
+    return *this;
+}
+
+template<class T>
+CStdStr<T>& CStdStr<T>::toUpper(const std::locale& locale)
+{
+    characterClasses<T>(locale).toupper(&(*this)[0], &(*this)[0] + this->size());
+    return *this;
+}
+
+template<class T>
+CStdStr<T>& CStdStr<T>::ToLower(const std::locale& locale)
+{
+    characterClasses<T>(locale).tolower(&(*this)[0], &(*this)[0] + this->size());
+    return *this;
+}
+
+template class CStdStr<wchar_t>;
+
+void KtErrorEat::strMakeUpper(CStdStr<wchar_t>& s)
+{
+    s.toUpper(std::locale());
+}
+
+void KtErrorEat::strMakeLower(CStdStr<wchar_t>& s)
+{
+    s.ToLower(std::locale());
+}
+
+void ReleaseCStrPtr(CStdStr<wchar_t>** pp)
+{
+    if (!pp)
+        return;
+    delete *pp;
+    *pp = nullptr;
+}

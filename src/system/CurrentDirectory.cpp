@@ -1,0 +1,47 @@
+// SPDX-License-Identifier: MIT
+#include <KtQtBase/windows/Files.h>
+
+#include "platform/Platform.h"
+#include "string/TextConversion.h"
+
+#include <cstring>
+
+namespace {
+
+constexpr std::uint32_t kPathRoom = 1024;
+
+// Cuts a path at its last slash.
+void dropFileName(char* path)
+{
+    if (char* slash = std::strrchr(path, '/'))
+        *slash = '\0';
+}
+
+} // namespace
+
+unsigned int GetCurrentDirectoryW(unsigned int, wchar_t* lpBuffer)
+{
+    char path[kPathRoom] = {};
+    std::uint32_t size = kPathRoom;
+    ktqtbase::platform::executablePath(path, &size);
+    dropFileName(path);
+    // Half of a folder's name would be another folder.
+    if (!ktqtbase::widen(path, lpBuffer, kPathRoom))
+        lpBuffer[0] = L'\0';
+    return size;
+}
+
+int SetCurrentDirectoryW(const wchar_t*)
+{
+    return 0;
+}
+
+unsigned int KtKernel32::GetCurrentDirectoryW(unsigned int nBufferLength, wchar_t* lpBuffer)
+{
+    return ::GetCurrentDirectoryW(nBufferLength, lpBuffer);
+}
+
+int KtKernel32::SetCurrentDirectoryW(const wchar_t*)
+{
+    return 0;
+}

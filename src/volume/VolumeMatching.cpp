@@ -1,0 +1,18 @@
+// SPDX-License-Identifier: MIT
+#include <KtQtBase/VolumeDescriptor.h>
+
+#include "string/CaseFolding.h"
+
+bool CRbUiVolumeDescriptor::VolMatch(const wchar_t* a, const CStdStr<wchar_t>* b) const
+{
+    if (!a || !b)
+        return false;
+    if (IsCaseSensitive())
+        return b->compare(a) == 0;
+    return ktqtbase::equalFolded(a, b->c_str());
+}
+
+bool CRbUiVolumeDescriptor::VolMatch(const CStdStr<wchar_t>* a, const CStdStr<wchar_t>* b) const
+{
+    return b && CRbUiVolumeDescriptor::VolMatch(a->c_str(), b);
+}
