@@ -1,0 +1,44 @@
+# SPDX-License-Identifier: MIT
+# Builds a host's OS-base library, then this library against it, and runs a host program that ends
+# with 0 only where its own functions were called. Plain debug builds: what is asked here is which
+# library was linked, and the sanitizers would only slow that down.
+
+set(host_source ${CMAKE_CURRENT_LIST_DIR}/host)
+set(prefix ${WORK_DIR}/prefix)
+
+function(configure source build)
+    execute_process(COMMAND ${CMAKE_COMMAND} -S ${source} -B ${build} -G ${GENERATOR}
+        -DCMAKE_BUILD_TYPE=Debug
+        -DCMAKE_CXX_COMPILER=${COMPILER}
+        -DCMAKE_CXX_FLAGS=-g0
+        -DQt5_DIR=${Qt5_DIR}
+        ${ARGN} COMMAND_ERROR_IS_FATAL ANY)
+endfunction()
+
+function(build folder)
+    execute_process(COMMAND ${CMAKE_COMMAND} --build ${folder} ${ARGN} COMMAND_ERROR_IS_FATAL ANY)
+endfunction()
+
+file(REMOVE_RECURSE ${WORK_DIR})
+configure(${host_source}/osbase ${WORK_DIR}/osbase)
+build(${WORK_DIR}/osbase)
+file(GLOB host_library ${WORK_DIR}/osbase/libKtOsBase.*)
+
+configure(${PROJECT_DIR} ${WORK_DIR}/library
+    -DKTQTBASE_BUILD_TESTS=OFF
+    -DKTQTBASE_BUILD_EXAMPLES=OFF
+    -DKTQTBASE_HOST_OSBASE=${host_library}
+    -DKTQTBASE_HOST_OSBASE_INCLUDE=${host_source}/osbase/include
+    -DCMAKE_INSTALL_PREFIX=${prefix}
+    -DCMAKE_INSTALL_LIBDIR=${LIBDIR})
+build(${WORK_DIR}/library --target install)
+
+file(GLOB_RECURSE bundled ${prefix}/*KtOsBase*)
+if(bundled)
+    message(FATAL_ERROR "Installed beside the host's own: ${bundled}")
+endif()
+
+configure(${host_source}/program ${WORK_DIR}/program
+    -DKtQtBase_DIR=${prefix}/${LIBDIR}/cmake/KtQtBase)
+build(${WORK_DIR}/program)
+execute_process(COMMAND ${WORK_DIR}/program/host COMMAND_ERROR_IS_FATAL ANY)

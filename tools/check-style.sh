@@ -1,0 +1,54 @@
+#!/usr/bin/env bash
+# SPDX-License-Identifier: MIT
+# House rules that no compiler checks. Prints every line or file that breaks one, then fails.
+set -euo pipefail
+cd "$(dirname "$0")/.."
+failed=0
+
+# Prints a rule and the lines on standard input that break it.
+report() {
+    local offenders
+    offenders=$(cat)
+    if [ -n "$offenders" ]; then
+        printf '%s:\n%s\n' "$1" "$offenders"
+        failed=1
+    fi
+}
+
+long_sources() {
+    git ls-files -z include src osbase | xargs -0 awk 'FNR == 401 { print FILENAME }'
+}
+
+platform_conditionals() {
+    git grep -nE '^ *# *(if|ifdef|ifndef|elif)\b.*(__APPLE__|__linux__|_WIN32|Q_OS_)' -- \
+        '*.h' '*.cpp' '*.mm' ':!src/platform/' || true
+}
+
+# A script's first line belongs to the system, so the notice may stand on the second one.
+unlicensed() {
+    git ls-files -z '*.h' '*.cpp' '*.mm' '*.cmake' '*CMakeLists.txt' '*.in' '*.sh' '*.py' \
+        run .ci/run |
+        xargs -0 awk 'FNR == 1 { seen = 0 } /SPDX-License-Identifier: MIT/ { seen = 1 }
+            FNR == 2 && !seen { print FILENAME }'
+}
+
+# Sources speak for themselves: none sends its reader to a document that is not here. The brackets
+# keep the pattern from matching itself.
+outside_references() {
+    local words='\bsp[e]c(ification)?\b|\b[i]nterface\.md\b|\bsha[r]ed/|\b[P]art [0-9]|\b[i]ssue #?[0-9]'
+    git grep -nIiE "$words" -- ':!*.svg' ':!*.json' || true
+}
+
+untested_headers() {
+    local header
+    for header in $(git ls-files 'include/*.h'); do
+        grep -q "^ *${header#include/KtQtBase/}\\b" tests/headers/CMakeLists.txt || echo "$header"
+    done
+}
+
+report "Over 400 lines" < <(long_sources)
+report "Platform conditional outside src/platform/" < <(platform_conditionals)
+report "No licence notice" < <(unlicensed)
+report "Reference to an outside document" < <(outside_references)
+report "Public header that tests/headers does not compile" < <(untested_headers)
+exit "$failed"
