@@ -6,9 +6,9 @@
 
 int main()
 {
-    CRnUiPathname name;
+    CRbUiPathname name;
     CStdStr<wchar_t> basename;
-    const int parsed = name.Parse(L" \"\\nowhere\\report.txt\" ");
+    const int parsed = name.Parse(L" \"\\nowhere\\report.txt\" ", false);
     name.GetBasename(basename);
     return parsed == 0 && basename == L"report.txt" && IsDBCSLeadByte('r') == 0 ? 0 : 1;
 }
