@@ -17,4 +17,10 @@
 #include <KtQtBase/windows/ResourceStrings.h>
 #include <KtQtBase/windows/SystemInformation.h>
 
+#include <KtQtBase/windows/GdiStubs.h>
+#include <KtQtBase/windows/KernelStubs.h>
+#include <KtQtBase/windows/ShellStubs.h>
+#include <KtQtBase/windows/SpoolerStubs.h>
+#include <KtQtBase/windows/UserStubs.h>
+
 #endif

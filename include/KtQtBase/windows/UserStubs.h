@@ -1,0 +1,53 @@
+// SPDX-License-Identifier: MIT
+//
+// Window functions without a counterpart here, so that a host links and runs with them inert.
+//
+//     HDC context = GetDC(window);                                // always null
+//     ReleaseDC(window, context);
+//
+// No function here reads, writes or keeps anything through its arguments, so every argument may be
+// null. None sets an error code.
+#ifndef KTQTBASE_WINDOWS_USERSTUBS_H
+#define KTQTBASE_WINDOWS_USERSTUBS_H
+
+#include <KtQtBase/Export.h>
+#include <KtQtBase/windows/Records.h>
+#include <KtQtBase/windows/Scalars.h>
+
+// The device context of a window.
+// Inert: returns null. KtQtPainterWrapper draws on a widget.
+// On Windows: returns a context that ReleaseDC gives back.
+KTQTBASE_EXPORT HDC GetDC(HWND hWnd);
+
+// Gives a device context back.
+// Inert: returns 0 and releases nothing.
+// On Windows: 1 means that the context was released.
+KTQTBASE_EXPORT int ReleaseDC(HWND hWnd, HDC hDC);
+
+// Shows a message box.
+// Inert: returns 0, which is none of the ID results; no box is shown. AfxMessageBox shows one.
+// On Windows: waits for the user and returns the ID of the button pressed.
+KTQTBASE_EXPORT int MessageBox(HWND hWnd, const wchar_t* lpText, const wchar_t* lpCaption,
+                               unsigned int uType);
+
+// The place of the mouse pointer.
+// Inert: returns 0; the point is not written.
+// On Windows: writes the place in screen pixels; non-zero means success.
+KTQTBASE_EXPORT int GetCursorPos(POINT* lpPoint);
+
+// Destroys a menu.
+// Inert: returns 0 and destroys nothing.
+// On Windows: releases the menu and its submenus; non-zero means success.
+KTQTBASE_EXPORT int DestroyMenu(HMENU hMenu);
+
+// Destroys a table of keyboard shortcuts.
+// Inert: returns 0 and destroys nothing.
+// On Windows: releases the table; non-zero means that no reference is left.
+KTQTBASE_EXPORT int DestroyAcceleratorTable(HACCEL hAccel);
+
+// Gives a clipboard format a number.
+// Inert: returns 0, which is no format; nothing is registered.
+// On Windows: returns the same number, 0xC000 or above, for the same name everywhere.
+KTQTBASE_EXPORT unsigned int RegisterClipboardFormatW(const wchar_t* lpszFormat);
+
+#endif
