@@ -170,6 +170,41 @@ public:
     const wchar_t* m_pUncPrefix;         // two backslashes, not owned
 };
 
+// ---- NTFS rules --------------------------------------------------------------------------------
+
+// A volume with the naming rules of NTFS and its separator, the backslash. There is no rule about
+// reserved device names, closing dots or blanks, or a least length. Reading is up to the first
+// terminator; a null name must not be passed.
+class KTQTBASE_EXPORT CRbUiNTFSVolumeDescriptor : public CRbUiVolumeDescriptor
+{
+public:
+    // Describes the volume of a local name, as the base does, and sets m_fsType to FS_NTFS.
+    explicit CRbUiNTFSVolumeDescriptor(const CStdStr<wchar_t>& localName);
+    ~CRbUiNTFSVolumeDescriptor() override;
+
+    // Whether a text may be used as a whole name.
+    //   L"C:\\dir\\f.txt", L"\\\\srv\\share", L""                   => true
+    //   L"1:\\f", L"abc:f", L"a:b:c", L"a\\\\b", L"a/b", L"a|b", L"<a>"  => false
+    //   L"*.t?t"                                                    => allowWildcards
+    //   1,023 characters => true     1,024 (more than m_maxPathLen) => false
+    // Kept: the slash is refused though path names use it as their separator; the rules are those
+    // of a volume with backslashes, and hosts ask before they convert.
+    bool ValidateFilename(const CStdStr<wchar_t>* name, bool allowWildcards) const override;
+
+    // Whether a text may be used as one segment of a path: no longer than m_maxComponentLen, with
+    // neither a separator of either kind nor a colon.
+    //   L"f.txt", L"" => true     L"a\\b", L"a/b", L"C:", L"a\"b" => false     L"*" =>
+    //   allowWildcards
+    bool ValidateSegment(const CStdStr<wchar_t>* segment, bool allowWildcards) const override;
+};
+
+// The rule of drive letters by itself.
+//   name    in: the name; a null one holds no colon
+//   ch      in: the character in front of the colon, as a code point
+// Result: true where name holds no colon; where its last colon is at index 1, whether ch is a
+// letter for the process's LC_CTYPE; else false.
+KTQTBASE_EXPORT bool ValidateVolChar(const CStdStr<wchar_t>* name, int ch);
+
 // ---- The list of volumes -----------------------------------------------------------------------
 
 // The volumes of this process, in the order in which the host appended them; empty at load. The

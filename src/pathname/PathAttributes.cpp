@@ -25,7 +25,7 @@ void CRbUiPathname::GetAttributes(const CStdStr<wchar_t>* work, const CStdStr<wc
     *type = PT_NOT_FOUND;
     CStdStr<wchar_t> base;
     GetBasename(base);
-    if (!IsPathType(base, type))
+    if (!IsPathType(base, type) && work)
         GetAttByPath(&work, &relPath, &type);
 }
 

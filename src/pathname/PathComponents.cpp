@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include <KtQtBase/PathName.h>
 
-#include "pathname/ParsedState.h"
+#include "pathname/PathInternals.h"
 
 #include <cwchar>
 
@@ -16,21 +16,12 @@ bool hasFileName(path_type type)
     return value < 32 && ((kTypesWithFileName >> value) & 1);
 }
 
-// Where the last component begins.
-std::size_t lastComponent(const CStdStr<wchar_t>& work, wchar_t separator)
-{
-    std::size_t position = work.rfind(separator);
-    if (position == work.npos)
-        position = work.rfind(kColon);
-    return position + 1;
-}
-
 } // namespace
 
 void CRbUiPathname::GetBasename(CStdStr<wchar_t>& out) const
 {
     if (m_type != PT_NONE && m_pWork)
-        out.assign(*m_pWork, lastComponent(*m_pWork, m_separator), m_pWork->npos);
+        out.assign(*m_pWork, ktqtbase::lastComponent(*m_pWork, m_separator), m_pWork->npos);
 }
 
 void CRbUiPathname::GetFilename(CStdStr<wchar_t>& out) const

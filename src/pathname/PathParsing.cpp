@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include <KtQtBase/PathName.h>
 
-#include "pathname/ParsedState.h"
+#include "pathname/PathInternals.h"
 #include "string/CaseFolding.h"
 
 #include <algorithm>
@@ -110,7 +110,7 @@ int CRbUiPathname::ParseRelative(const wchar_t* name, const CRbUiPathname* base,
 
 int CRbUiPathname::AppendSlash()
 {
-    if (!ktqtbase::isParsed(m_type) || !m_pWork)
+    if (!ktqtbase::isParsed(*this))
         return 2;
     const wchar_t last = GetLastCharacter(*m_pWork);
     if (!m_pWork->empty() && last != kColon && last != m_separator)

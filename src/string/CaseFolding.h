@@ -21,6 +21,17 @@ inline bool equalFolded(const wchar_t* a, const wchar_t* b)
     return classes.tolower(*a) == classes.tolower(*b);
 }
 
+// Whether a range and a terminated text are equal in the same way.
+inline bool equalFolded(const wchar_t* a, std::size_t length, const wchar_t* b)
+{
+    const auto& classes = std::use_facet<std::ctype<wchar_t>>(std::locale::classic());
+    for (std::size_t i = 0; i < length; ++i) {
+        if (!b[i] || classes.tolower(a[i]) != classes.tolower(b[i]))
+            return false;
+    }
+    return !b[length];
+}
+
 // Whether a code point is a letter for the process's LC_CTYPE.
 inline bool isLetter(wchar_t ch)
 {

@@ -1,8 +1,12 @@
 // SPDX-License-Identifier: MIT
 //
 // The process-wide objects of the library, in the order of their creation at load. They are
-// destroyed in the reverse order at unload: first the descriptors, then the list that held them.
+// destroyed in the reverse order at unload: first the descriptors, then the list that held them,
+// then the prefix, which points to a descriptor and never follows that pointer when it dies.
+#include <KtQtBase/PathName.h>
 #include <KtQtBase/VolumeDescriptor.h>
+
+CRnUiPathname g_CurrentDirPrefix;
 
 QList<CRbUiVolumeDescriptor*> volumeList;
 

@@ -1,0 +1,326 @@
+// SPDX-License-Identifier: MIT
+//
+// CRbUiPathname: a parsed name, its components, its edits, and what is asked of the file system.
+#ifndef KTQTBASE_PATHNAME_BASEPATHNAME_H
+#define KTQTBASE_PATHNAME_BASEPATHNAME_H
+
+#include <KtQtBase/Export.h>
+#include <KtQtBase/VolumeDescriptor.h>
+#include <KtQtBase/WideString.h>
+#include <KtQtBase/pathname/PathTypes.h>
+
+#include <cstdio>
+
+// A parsed name. It owns its two strings and never its volume. The order of the virtual functions
+// and of the fields is part of the interface; the destructor is not virtual.
+//
+// Results of type int: 0 done, 1 bad name or argument, 2 nothing parsed, 3 refused at the root, 4
+// cannot be done.
+class KTQTBASE_EXPORT CRbUiPathname
+{
+public:
+    // An unparsed name. m_category stays unset until a parse.
+    CRbUiPathname();
+
+    // Frees the two strings.
+    ~CRbUiPathname();
+
+    // A copy of the fields would share the strings: use AssignCopy.
+    CRbUiPathname(const CRbUiPathname&) = delete;
+    CRbUiPathname& operator=(const CRbUiPathname&) = delete;
+
+    // Parses a name; a relative one is taken as lying in the executable's folder.
+    //   name    in: the name; it may point into this object's own strings
+    //   flag    not used
+    // Result: 0 done; 1 bad name, or null; 4 the executable's folder could not be parsed, and the
+    // object is as it was.
+    // On Windows: relative names lie in the working directory.
+    virtual int Parse(const wchar_t* name, bool flag);
+
+    // Makes this object a copy of another, with strings of its own.
+    //   other    in: the name to copy; the object's own strings go first, so that a copy from
+    //            itself leaves it unparsed
+    virtual void AssignCopy(const CRbUiPathname& other);
+
+    // Parses a name; a relative one is taken as lying in a base.
+    //   name    in: the name; it may point into this object's own strings
+    //   base    in: a parsed name for relative names; may be null for others
+    //   flag    not used
+    // Result: 0 done; 1 bad name, and the object is unparsed (null leaves it as it was).
+    //   The rows have a base /home/u/ and a volume C: that leaves case alone.
+    //   L" \"/tmp/a b.txt\" "  => rooted,   /tmp/a b.txt, prefix empty
+    //   L"c:\\dir\\f.abc"      => drive,    C:/dir/f.abc, no prefix
+    //   L"docs\\f.txt"         => relative, docs/f.txt,   prefix /home/u/
+    //   L"x:"                  => drive,    X:,           no prefix
+    //   L"/"                   => rooted,   /
+    //   L"\"open"              => relative, with the quote
+    //   L"\\\\srv\\share", L"//", L"a:b:c", L"dir:file", L"1:", L"/a/b:c"  => 1
+    //   L"", L"   ", L"\"\""   => 1
+    int ParseRelative(const wchar_t* name, const CRbUiPathname* base, bool flag);
+
+    // Back to the unparsed state. m_separator, m_category and m_bQualified stay.
+    void Empty();
+
+    // Ends the work string with the separator, where it does not end with one or with a colon.
+    // Result: 0 done or nothing to do; 2 nothing parsed. m_type stays.
+    //   /tmp => /tmp/     C: => C:     /tmp/ => /tmp/
+    int AppendSlash();
+
+    // Takes one pair of enclosing double quotes off a text, with what blanks stand outside them.
+    //   s    in/out: the text; without such a pair it stays exactly as it is
+    //   L" \"a b\" " => L"a b"     L"\"\"\"a\"\"" => L"\"\"a\""     L" a " => L" a "
+    static void Unquote(CStdStr<wchar_t>& s);
+
+    // Takes white space off both ends of a text.
+    void StripSpaces(CStdStr<wchar_t>& s);
+
+    // Looks a volume up in volumeList by its local name, exactly.
+    //   name    in: such as L"C:"; an empty one finds nothing
+    // Result: the first volume of that name; null where there is none. Not owned.
+    const CRbUiVolumeDescriptor* FindVolumeDescriptor(const CStdStr<wchar_t>& name) const;
+
+    // Inert: returns null; no descriptor is made and none is added to volumeList.
+    // On Windows: a descriptor for the volume.
+    const CRbUiVolumeDescriptor* NewVolDescriptor(const CStdStr<wchar_t>& volumeName) const;
+
+    // Works out what a name denotes. The parse hands in this object's own fields.
+    //   work       in: the name
+    //   relPath    in: its prefix, or null
+    //   type       out: set to PT_NOT_FOUND first, then to what the name denotes. A wildcard is
+    //              looked for in this object's own last component, so that it is found only where
+    //              the object is parsed by then, as it is when type points to its m_type.
+    // Kept: a name is a folder exactly where its group may write (bit 0x10 of its mode), whatever
+    // it is; hosts tell the two apart by that bit.
+    void GetAttributes(const CStdStr<wchar_t>* work, const CStdStr<wchar_t>* relPath,
+                       path_type* type);
+
+    // The last component of the name: what follows the last separator, else the last colon.
+    //   out    out: the component; untouched where nothing is parsed
+    //   /tmp/dir => dir     /tmp/dir/ => (empty)     C:file.txt => file.txt     name => name
+    void GetBasename(CStdStr<wchar_t>& out) const;
+
+    // The last component without its extension.
+    //   out    out: what stands before its last dot, or all of it; untouched for an empty
+    //          component, a wildcard, and where nothing is parsed
+    //   archive.tar.gz => archive.tar     .profile => (empty)     *.txt => untouched
+    void GetFilename(CStdStr<wchar_t>& out) const;
+
+    // The extension of the last component, without its dot.
+    //   out    out: what follows its last dot; untouched where there is no dot
+    //   archive.tar.gz => gz     name. => (empty)     name => untouched     *.txt => txt
+    void GetExtension(CStdStr<wchar_t>& out) const;
+
+    // The last character of a text, or 0 for an empty one.
+    static wchar_t GetLastCharacter(const CStdStr<wchar_t>& s);
+
+    // The prefix and the work string, joined by one separator. Only a relative name has a prefix.
+    //   out    out: the full path; untouched where nothing is parsed
+    // Result: whether a name is parsed.
+    //   f.txt with prefix /home/u => /home/u/f.txt     C:/f.txt => C:/f.txt
+    bool GetFullPath(CStdStr<wchar_t>& out) const;
+
+    // The same into a buffer.
+    //   out    out: the full path and its terminator, an empty string where nothing is parsed. The
+    //          caller provides room enough; null gives false.
+    bool GetFullPath(wchar_t* out) const;
+
+    // The work string, or null where there is none. For a relative name it lacks the prefix. Valid
+    // until the object is changed.
+    const wchar_t* GetPathString() const;
+
+    // The separator, m_separator.
+    wchar_t GetSeparator() const;
+
+    // Inert: returns true.
+    // On Windows: the file system is searched for the name.
+    bool ParseAndOSFind(const wchar_t* name);
+
+    // ---- Editing ----
+    //
+    // The edits change the work string only; prefix, volume and category stay. Where an edit cuts
+    // or appends, m_type becomes PT_NOT_FOUND, since the new name was not looked up; a result of 0
+    // with nothing to do leaves m_type alone. Common results: 0 done or nothing to do; 2 nothing
+    // parsed; 3 the cut would reach into the root; 4 no separator where one is needed, or a
+    // category without a name. Nothing but 0 changes anything.
+    //
+    //                         TrimSlash        Trim             TrimComponent
+    //   /tmp/dir/ rooted      /tmp/dir         (stays)          /tmp/dir
+    //   /tmp/dir  rooted      (stays)          /tmp/            /tmp
+    //   /tmp      rooted      (stays)          /                /
+    //   /         rooted      3                (stays)          /
+    //   C:/dir    drive       (stays)          C:/              C:/
+    //   C:/       drive       3                (stays)          C:/
+    //   C:file    drive       (stays)          C:/              C:/
+    //   name      relative    (stays)          3                3
+    //   a/b       relative    (stays)          a/               a
+
+    // Takes one closing separator off, unless it is the root's.
+    int TrimSlash();
+
+    // Takes the last component off and keeps the separator before it.
+    int Trim();
+
+    // Takes the last component off, and the separator before it.
+    int TrimComponent();
+
+    // Appends a text as it is.
+    //   text    in: the text; it may point into this object's own strings. Null appends nothing,
+    //           and m_type becomes PT_NOT_FOUND all the same.
+    int Append(const wchar_t* text);
+
+    // Appends a separator where the work string does not end with one, then a text.
+    //   text    in: as for Append; one that begins with a separator doubles it
+    //   /tmp, x => /tmp/x     /tmp/, x => /tmp/x     (empty), x => /x     /tmp, /x => /tmp//x
+    int AppendComponent(const wchar_t* text);
+
+    // Makes another object the folder that holds this name.
+    //   parent    out: the folder, through its virtual AssignCopy; untouched where nothing is
+    //             parsed. It may be this object.
+    //   /tmp/dir => /tmp/, a directory     /tmp/dir/ => /tmp/, not found     / => /, a directory
+    //   C:/ => C:/, a directory            C:file.txt => C:                  a/b => a/
+    //   f.txt with prefix /home/u/ => /home/u/, rooted, without prefix; without prefix => unparsed
+    // A relative name whose prefix is an empty string raises std::out_of_range, and parent then
+    // holds that empty string. A rooted name gets there when Rename gives it a bare name.
+    // Kept: the closing separator of a name costs its parent the type directory, since it is cut
+    // by TrimSlash; hosts ask Exists where they need to know.
+    void GetParent(CRbUiPathname& parent) const;
+
+    // ---- Extensions ----
+    //
+    // A list holds extensions without dots, separated by semicolons; its items are compared whole,
+    // and null counts as an empty list. An empty item matches nothing but an empty extension.
+    // Results: 0 done; 1 a null extension; 2 nothing parsed. An extension may point into this
+    // object's own strings. A dot in a folder's name is none of an extension's.
+
+    // Whether the name's extension is in a list, letters A to Z in any case; with both the list and
+    // the extension empty it is, with one of them empty it is not.
+    //   /d/a.ABC, L"abc;xyz" => true     /d/a.abc, L"*.abc" => false     /d/a, L"" => true
+    bool VerifyExtension(const wchar_t* list) const;
+
+    // The first item of a list.
+    //   out    out: the item, empty for a null list. Nothing of this object is read.
+    void GetFirstExtInList(const wchar_t* list, CStdStr<wchar_t>& out) const;
+
+    // Replaces the extension, or adds one. Asks whether a name is parsed before it looks at ext.
+    //   /d/a.txt, L"abc" => /d/a.abc     /d/a, L".abc" => /d/a.abc     /d/a.txt, L"" => /d/a
+    int ReplaceExtensionAlways(const wchar_t* ext);
+
+    // Replaces the extension by a list's first item unless it is in the list.
+    //   /d/a.txt, L"abc;xyz" => /d/a.abc     /d/a.txt, L"" => /d/a
+    int ReplaceExtensionIfNoMatch(const wchar_t* list);
+
+    // Adds an extension behind whatever there is. Looks at ext before it asks whether a name is
+    // parsed.
+    //   /d/a.txt, L"abc" => /d/a.txt.abc     /d/a, L".abc" => /d/a..abc     /d/a, L"" => /d/a
+    // Kept: a dot in ext is not looked at, as ReplaceExtensionAlways does; hosts pass none.
+    int AddExtensionAlways(const wchar_t* ext);
+
+    // Adds a list's first item unless the extension is in the list.
+    //   /d/a.txt, L"abc;xyz" => /d/a.txt.abc     /d/a.ABC, L"abc" => /d/a.ABC
+    int AddExtensionIfNoMatch(const wchar_t* list);
+
+    // Removes the extension if it is in a list, or always.
+    //   /d/a.txt => /d/a     /d.x/a => /d.x/a
+    void RemoveExtensionIfMatch(const wchar_t* list);
+    void RemoveExtensionAlways();
+
+    // ---- Display, case and matching ----
+
+    // Trims white space around the last component's stem; its extension keeps its blanks. m_type
+    // stays, and "." and ".." too.
+    //   L"dir/  name  .txt" => L"dir/name.txt"     L"dir/ name. txt" => L"dir/name. txt"
+    void RemoveSpaces();
+
+    // Whether the name exists now. Works m_type out again, unless it is a wildcard or unparsed:
+    // these give false without a look at the file system.
+    bool Exists();
+
+    // A form of the work string for people, cut in the middle to a width.
+    //   out      out: the form; empty where nothing is parsed
+    //   width    in: characters at most, below 12 counts as 12; -1 for the whole work string
+    //   aa/bb/cc/dd/file, 12                => .../dd/file
+    //   C:/aa/bb/cc/dd/file, 14, volume C:  => C:\.../dd/file, where that fits, else file
+    //   a base name of 30 with .txt, 12     => its first 7 characters, ~.txt
+    //   a base name of 30 with ten of extension, 12  => its first 10 characters, ~
+    // A drive without a volume counts a volume name of length 0. Where no component fits behind
+    // the dots, nothing follows them.
+    // Kept: the backslash before the dots, whatever the separator; hosts show it as Windows does.
+    void GetDisplayName(CStdStr<wchar_t>& out, int width) const;
+
+    // Copies exactly n characters, terminators among them, and a terminator behind them.
+    //   dst    out: room for n + 1 characters
+    //   n      in: how many; a negative number copies and writes nothing
+    void lstrncpy_x(wchar_t* dst, const wchar_t* src, int n) const;
+
+    // Folds the last component by the global std::locale. m_type stays.
+    void BaseToLower();
+    void BaseToUpper();
+
+    // Whether two names denote the same path: by their full paths, in any case of the letters A to
+    // Z, and whether a closing separator is there or not. The object form also needs the same
+    // volume. False for null and for an unparsed name; an object matches itself.
+    //   c:/Dir/ and C:/dir => true
+    // Kept: case never counts, even on a case-sensitive volume; hosts use it for lists of files.
+    bool PathMatch(const CRbUiPathname* other) const;
+    bool PathMatch(const wchar_t* other) const;
+
+    // Inert: out stays as it is.
+    // On Windows: the server and share that a drive stands for.
+    void GetFullUNCPath(CStdStr<wchar_t>& out) const;
+
+    // ---- Files ----
+
+    // Makes a name in the same folder that does not exist.
+    //   result    out: this name, where it is free and force is false, or is a wildcard; else the
+    //             stem (or ktTmp), five digits of rand(), and the extension. Filled through its
+    //             virtual AssignCopy; it may be this object.
+    //   force     in: whether to make a new name in any case
+    // Result: false where nothing is parsed (result untouched) or the folder's name leaves no room
+    // (result emptied); else true. After 200 taken names result is empty, and the result is true.
+    //   existing report.txt => report01234.txt     existing data => dat012340
+    // Kept: without an extension the digits stand one place early; hosts parse such names back.
+    bool GetUniqueName(CRbUiPathname& result, bool force) const;
+
+    // Opens the file, as CreateFile does, which opens nothing here.
+    //   handle    out: null, or -1 where nothing is parsed
+    // Result: whether handle is not -1. Kept: a parsed name always opens with a null handle.
+    bool OpenReadOnly(void*& handle);
+    bool OpenWriteOnly(void*& handle);
+
+    // Must not be called: rethrows the exception in flight, and without one ends the process.
+    [[noreturn]] void Open(FILE** file, const wchar_t* mode);
+
+    // Renames the file. The work string is taken as relative to the process's working directory,
+    // and becomes the new name as it is given; m_type and the prefix stay.
+    //   newName    in: converted by LC_CTYPE; null is handed to the OS-base library, and an empty
+    //              work string follows where that succeeds
+    // Result: whether it was renamed. On failure nothing changes.
+    // Kept: the prefix is not used, since SetCurrentDirectoryW does nothing; hosts rename absolute
+    // names.
+    // On Windows: the name is relative to its prefix.
+    bool Rename(const wchar_t* newName);
+
+    // Inert: returns 0; nothing is removed.
+    // On Windows: the file is deleted.
+    int Remove();
+
+    // Ends a volume's name with the separator.
+    //   fsName    in/out: the name
+    // Result: 1 for an empty name, else 0.
+    // On Windows: fsName becomes the name of the file system.
+    int GetFileSystem(CStdStr<wchar_t>& fsName) const;
+
+    // ---- Fields ----
+
+    path_type m_type;                       // PT_NONE until a parse succeeds
+    const CRbUiVolumeDescriptor* m_pVolume; // not owned; null where it is not known
+    CStdStr<wchar_t>* m_pWork;              // owned: the normalised name, with its drive
+    CStdStr<wchar_t>* m_pRelPath; // owned: the prefix; empty for a rooted, null for a drive
+    path_category m_category;     // set by a parse
+    wchar_t m_separator;          // slash
+    // Set by a parse of a name with a separator or a colon. Kept: no later parse clears it; hosts
+    // ask whether a qualified name was ever given.
+    bool m_bQualified;
+};
+
+#endif

@@ -1,0 +1,81 @@
+// SPDX-License-Identifier: MIT
+#include <KtQtBase/PathName.h>
+
+#include "pathname/PathInternals.h"
+
+#include <algorithm>
+#include <cwchar>
+
+namespace {
+
+using WideText = CStdStr<wchar_t>;
+
+constexpr int kLeastWidth = 12;
+constexpr int kWholeName = -1;
+
+// A base name that does not fit: its beginning, a tilde, and the extension where there is room.
+void shortenBase(const CRbUiPathname& name, const WideText& base, std::size_t width, WideText& out)
+{
+    WideText extension;
+    name.GetExtension(extension);
+    if (width < extension.size() + 3)
+        extension.clear();
+    out.assign(base, 0, width - 2 - extension.size());
+    out.push_back(L'~');
+    if (!extension.empty())
+        out.append(1, kPeriod).append(extension);
+}
+
+// Appends the whole components at the end of a work string that fit into a width behind a prefix
+// and dots; nothing where the last one does not begin with a separator.
+void appendTail(const CRbUiPathname& name, std::size_t prefix, std::size_t width, WideText& out)
+{
+    const WideText& work = *name.m_pWork;
+    std::size_t start = prefix;
+    while (start < work.size() && work.size() - start + prefix + 4 > width)
+        start = std::min(work.find(name.m_separator, start + 1), work.size());
+    out.append(work, start, work.npos);
+}
+
+// A name whose base fits into a width: what is before the base is cut in the middle.
+void shortenFolders(const CRbUiPathname& name, const WideText& base, std::size_t width,
+                    WideText& out)
+{
+    const bool isOnVolume = name.m_category == PC_DRIVE || name.m_category == PC_UNC;
+    const std::size_t prefix = isOnVolume ? ktqtbase::volumeNameLength(name) : 0;
+    const wchar_t* const dots = isOnVolume ? L"\\..." : L"...";
+    if (width < base.size() + prefix + std::wcslen(dots) + 1) {
+        out = base;
+        return;
+    }
+    out.assign(*name.m_pWork, 0, prefix).append(dots);
+    appendTail(name, prefix, width, out);
+}
+
+} // namespace
+
+void CRbUiPathname::GetDisplayName(CStdStr<wchar_t>& out, int width) const
+{
+    out.clear();
+    if (!ktqtbase::isParsed(*this))
+        return;
+    const auto room = static_cast<std::size_t>(std::max(width, kLeastWidth));
+    if (width == kWholeName || room >= m_pWork->size()) {
+        out = *m_pWork;
+        return;
+    }
+    CStdStr<wchar_t> base;
+    GetBasename(base);
+    if (room < base.size())
+        shortenBase(*this, base, room, out);
+    else if (ktqtbase::isKnown(m_category))
+        shortenFolders(*this, base, room, out);
+}
+
+void CRbUiPathname::lstrncpy_x(wchar_t* dst, const wchar_t* src, int n) const
+{
+    if (n < 0)
+        return;
+    std::wmemcpy(dst, src, static_cast<std::size_t>(n));
+    dst[n] = kEOS;
+}

@@ -1,0 +1,59 @@
+// SPDX-License-Identifier: MIT
+#include <KtQtBase/PathName.h>
+
+#include "pathname/PathInternals.h"
+#include "string/CaseFolding.h"
+
+namespace {
+
+// The parent of a name without separator or colon is what the name is relative to.
+void replaceByPrefix(CRbUiPathname& name)
+{
+    if (!name.m_pRelPath) {
+        name.Empty();
+        return;
+    }
+    ReleaseCStrPtr(&name.m_pWork);
+    std::swap(name.m_pWork, name.m_pRelPath);
+    ParseRelPath(&name.m_pWork, name.m_separator, name.m_category);
+}
+
+} // namespace
+
+void CRbUiPathname::GetParent(CRbUiPathname& parent) const
+{
+    if (!ktqtbase::isParsed(*this))
+        return;
+    if (&parent == this) {
+        CRbUiPathname self;
+        self.AssignCopy(*this);
+        self.GetParent(parent);
+        return;
+    }
+    parent.Empty();
+    parent.AssignCopy(*this);
+    parent.m_type = PT_DIRECTORY;
+    // A host's AssignCopy may have copied nothing.
+    if (!parent.m_pWork)
+        return;
+    if (GetLastCharacter(*parent.m_pWork) == m_separator)
+        parent.TrimSlash();
+    const std::size_t length = ktqtbase::lastComponent(*parent.m_pWork, m_separator);
+    if (length > 0)
+        parent.m_pWork->resize(length);
+    else
+        replaceByPrefix(parent);
+}
+
+void ParseRelPath(CStdStr<wchar_t>** pp, wchar_t sep, path_category& cat)
+{
+    CStdStr<wchar_t>& text = **pp;
+    const wchar_t first = text.at(0);
+    const wchar_t second = text.size() > 1 ? text[1] : kEOS;
+    if (first == sep) {
+        cat = second == sep ? PC_UNC : PC_ROOTED;
+    } else if (second == kColon && ktqtbase::isLetter(first)) {
+        cat = PC_DRIVE;
+        text.front() = ktqtbase::upperCase(first);
+    }
+}
