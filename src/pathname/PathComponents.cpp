@@ -26,21 +26,23 @@ void CRbUiPathname::GetBasename(CStdStr<wchar_t>& out) const
 
 void CRbUiPathname::GetFilename(CStdStr<wchar_t>& out) const
 {
-    if (!hasFileName(m_type))
+    if (!hasFileName(m_type) || !m_pWork)
         return;
-    CStdStr<wchar_t> base;
-    GetBasename(base);
-    if (!base.empty())
-        out.assign(base, 0, base.rfind(kPeriod));
+    const std::size_t start = ktqtbase::lastComponent(*m_pWork, m_separator);
+    if (start == m_pWork->size())
+        return;
+    const std::size_t dot = m_pWork->rfind(kPeriod);
+    const bool hasDot = dot != m_pWork->npos && dot >= start;
+    out.assign(*m_pWork, start, hasDot ? dot - start : m_pWork->npos);
 }
 
 void CRbUiPathname::GetExtension(CStdStr<wchar_t>& out) const
 {
-    CStdStr<wchar_t> base;
-    GetBasename(base);
-    const std::size_t dot = base.rfind(kPeriod);
-    if (dot != base.npos)
-        out.assign(base, dot + 1, base.npos);
+    if (m_type == PT_NONE || !m_pWork)
+        return;
+    const std::size_t dot = m_pWork->rfind(kPeriod);
+    if (dot != m_pWork->npos && dot >= ktqtbase::lastComponent(*m_pWork, m_separator))
+        out.assign(*m_pWork, dot + 1, m_pWork->npos);
 }
 
 wchar_t CRbUiPathname::GetLastCharacter(const CStdStr<wchar_t>& s)
@@ -54,7 +56,8 @@ bool CRbUiPathname::GetFullPath(CStdStr<wchar_t>& out) const
         return false;
     out.clear();
     if (ktqtbase::isParsed(m_type) && m_category != PC_ROOTED && m_pRelPath) {
-        out = *m_pRelPath;
+        out.reserve(m_pRelPath->size() + 1 + (m_pWork ? m_pWork->size() : 0));
+        out.append(*m_pRelPath);
         if (GetLastCharacter(out) != m_separator)
             out.push_back(m_separator);
     }

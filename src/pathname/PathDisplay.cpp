@@ -14,13 +14,13 @@ constexpr int kLeastWidth = 12;
 constexpr int kWholeName = -1;
 
 // A base name that does not fit: its beginning, a tilde, and the extension where there is room.
-void shortenBase(const CRbUiPathname& name, const WideText& base, std::size_t width, WideText& out)
+void shortenBase(const CRbUiPathname& name, std::size_t start, std::size_t width, WideText& out)
 {
     WideText extension;
     name.GetExtension(extension);
     if (width < extension.size() + 3)
         extension.clear();
-    out.assign(base, 0, width - 2 - extension.size());
+    out.assign(*name.m_pWork, start, width - 2 - extension.size());
     out.push_back(L'~');
     if (!extension.empty())
         out.append(1, kPeriod).append(extension);
@@ -38,14 +38,14 @@ void appendTail(const CRbUiPathname& name, std::size_t prefix, std::size_t width
 }
 
 // A name whose base fits into a width: what is before the base is cut in the middle.
-void shortenFolders(const CRbUiPathname& name, const WideText& base, std::size_t width,
-                    WideText& out)
+void shortenFolders(const CRbUiPathname& name, std::size_t start, std::size_t width, WideText& out)
 {
+    const std::size_t baseLength = name.m_pWork->size() - start;
     const bool isOnVolume = name.m_category == PC_DRIVE || name.m_category == PC_UNC;
     const std::size_t prefix = isOnVolume ? ktqtbase::volumeNameLength(name) : 0;
     const wchar_t* const dots = isOnVolume ? L"\\..." : L"...";
-    if (width < base.size() + prefix + std::wcslen(dots) + 1) {
-        out = base;
+    if (width < baseLength + prefix + std::wcslen(dots) + 1) {
+        out.assign(*name.m_pWork, start, baseLength);
         return;
     }
     out.assign(*name.m_pWork, 0, prefix).append(dots);
@@ -64,12 +64,11 @@ void CRbUiPathname::GetDisplayName(CStdStr<wchar_t>& out, int width) const
         out = *m_pWork;
         return;
     }
-    CStdStr<wchar_t> base;
-    GetBasename(base);
-    if (room < base.size())
-        shortenBase(*this, base, room, out);
+    const std::size_t start = ktqtbase::lastComponent(*m_pWork, m_separator);
+    if (room < m_pWork->size() - start)
+        shortenBase(*this, start, room, out);
     else if (ktqtbase::isKnown(m_category))
-        shortenFolders(*this, base, room, out);
+        shortenFolders(*this, start, room, out);
 }
 
 void CRbUiPathname::lstrncpy_x(wchar_t* dst, const wchar_t* src, int n) const

@@ -44,6 +44,25 @@ inline std::size_t volumeNameLength(const CRbUiPathname& name)
     return localName ? localName->size() : 0;
 }
 
+// Empties a path name again unless what is being done to it was finished.
+class EmptyUnlessFinished
+{
+public:
+    explicit EmptyUnlessFinished(CRbUiPathname& name) : m_name(&name) {}
+    EmptyUnlessFinished(const EmptyUnlessFinished&) = delete;
+    EmptyUnlessFinished& operator=(const EmptyUnlessFinished&) = delete;
+    ~EmptyUnlessFinished()
+    {
+        if (m_name)
+            m_name->Empty();
+    }
+
+    void finished() { m_name = nullptr; }
+
+private:
+    CRbUiPathname* m_name;
+};
+
 // Whether a text lies in a string's own characters, which an edit of the string moves or
 // overwrites.
 inline bool liesIn(const CStdStr<wchar_t>& s, const wchar_t* text)

@@ -1,13 +1,20 @@
 // SPDX-License-Identifier: MIT
 #include <KtQtBase/PathName.h>
 
-#include <memory>
+#include "pathname/PathInternals.h"
 
 namespace {
 
-std::unique_ptr<CStdStr<wchar_t>> copyOf(const CStdStr<wchar_t>* text)
+// Makes an owned string a copy of another one, or null. Overwriting keeps the storage, which costs
+// more to free and to get again than to fill.
+void copyString(CStdStr<wchar_t>*& own, const CStdStr<wchar_t>* other)
 {
-    return text ? std::make_unique<CStdStr<wchar_t>>(*text) : nullptr;
+    if (!other)
+        ReleaseCStrPtr(&own);
+    else if (own)
+        own->assign(*other);
+    else
+        own = new CStdStr<wchar_t>(*other);
 }
 
 } // namespace
@@ -32,14 +39,16 @@ void CRbUiPathname::Empty()
 
 void CRbUiPathname::AssignCopy(const CRbUiPathname& other)
 {
-    Empty();
-    auto work = copyOf(other.m_pWork);
-    auto relPath = copyOf(other.m_pRelPath);
-    m_pWork = work.release();
-    m_pRelPath = relPath.release();
+    ktqtbase::EmptyUnlessFinished guard(*this);
+    // The object's own strings go before the other's are looked at.
+    if (&other == this)
+        return;
+    copyString(m_pWork, other.m_pWork);
+    copyString(m_pRelPath, other.m_pRelPath);
     m_type = other.m_type;
     m_pVolume = other.m_pVolume;
     m_category = other.m_category;
     m_separator = other.m_separator;
     m_bQualified = other.m_bQualified;
+    guard.finished();
 }

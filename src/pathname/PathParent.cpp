@@ -4,7 +4,16 @@
 #include "pathname/PathInternals.h"
 #include "string/CaseFolding.h"
 
+#include <typeinfo>
+#include <utility>
+
 namespace {
+
+// Whether a host's class may look at itself while it becomes a copy. The library's own two do not.
+bool seesItsCopy(const CRbUiPathname& name)
+{
+    return typeid(name) != typeid(CRbUiPathname) && typeid(name) != typeid(CRnUiPathname);
+}
 
 // The parent of a name without separator or colon is what the name is relative to.
 void replaceByPrefix(CRbUiPathname& name)
@@ -30,7 +39,9 @@ void CRbUiPathname::GetParent(CRbUiPathname& parent) const
         self.GetParent(parent);
         return;
     }
-    parent.Empty();
+    // What is overwritten at once need not be freed first.
+    if (seesItsCopy(parent))
+        parent.Empty();
     parent.AssignCopy(*this);
     parent.m_type = PT_DIRECTORY;
     // A host's AssignCopy may have copied nothing.

@@ -3,6 +3,7 @@
 
 #include "pathname/PathInternals.h"
 #include "string/CaseFolding.h"
+#include "string/WhiteSpace.h"
 
 #include <algorithm>
 #include <cwchar>
@@ -17,7 +18,8 @@ bool holds(const CStdStr<wchar_t>& text, wchar_t ch)
 
 bool hasSeveralColons(const CStdStr<wchar_t>& text)
 {
-    return text.find(kColon) != text.rfind(kColon);
+    const std::size_t first = text.find(kColon);
+    return first != text.npos && text.find(kColon, first + 1) != text.npos;
 }
 
 // Where the part behind the volume begins.
@@ -26,32 +28,17 @@ int volumeLength(path_category category)
     return category == PC_DRIVE ? 2 : 0;
 }
 
-// Empties a path name again unless the parse was finished.
-class ParseGuard
+bool isQuoted(const ktqtbase::TextRange& text)
 {
-public:
-    explicit ParseGuard(CRbUiPathname& name) : m_name(&name) {}
-    ParseGuard(const ParseGuard&) = delete;
-    ParseGuard& operator=(const ParseGuard&) = delete;
-    ~ParseGuard()
-    {
-        if (m_name)
-            m_name->Empty();
-    }
+    return text.size() >= 2 && *text.begin == kDoubleQuote && text.end[-1] == kDoubleQuote;
+}
 
-    void finished() { m_name = nullptr; }
-
-private:
-    CRbUiPathname* m_name;
-};
-
-// The text of a name without quotes and blanks, and whether it can be one: it is not empty and has
-// no second colon.
-bool prepare(CRbUiPathname& name, CStdStr<wchar_t>& text)
+// A name without its quotes and the blanks around and inside them, found in place.
+ktqtbase::TextRange bareName(const wchar_t* name)
 {
-    CRbUiPathname::Unquote(text);
-    name.StripSpaces(text);
-    return !hasSeveralColons(text) && !text.empty();
+    const ktqtbase::WhiteSpace isSpace;
+    const ktqtbase::TextRange text = trimmed({name, name + std::wcslen(name)}, isSpace);
+    return isQuoted(text) ? trimmed({text.begin + 1, text.end - 1}, isSpace) : text;
 }
 
 // Normalises and classifies a text into name's category. Result: as of GetPathCatType.
@@ -84,14 +71,17 @@ int CRbUiPathname::ParseRelative(const wchar_t* name, const CRbUiPathname* base,
 {
     if (!name)
         return 1;
-    // The name may lie in the strings that are freed next.
-    auto text = std::make_unique<CStdStr<wchar_t>>(name);
-    const bool hasColon = holds(*text, kColon);
+    // Copied first: the name may lie in the strings that are freed next.
+    const ktqtbase::TextRange bare = bareName(name);
+    auto text = std::make_unique<CStdStr<wchar_t>>(bare.begin, bare.end);
+    const bool hasColon = std::wcschr(name, kColon);
     Empty();
-    if (!prepare(*this, *text) || classify(*this, *text, base) != 0 || m_category == PC_UNC)
+    if (text->empty() || hasSeveralColons(*text))
+        return 1;
+    if (classify(*this, *text, base) != 0 || m_category == PC_UNC)
         return 1;
 
-    ParseGuard guard(*this);
+    ktqtbase::EmptyUnlessFinished guard(*this);
     m_pVolume = volumeOf(*this, *text, base);
     GetWorkPtrByIndex(m_category, text.get(), m_separator, volumeLength(m_category));
     if (m_pVolume)
@@ -120,11 +110,10 @@ int CRbUiPathname::AppendSlash()
 
 void CRbUiPathname::Unquote(CStdStr<wchar_t>& s)
 {
-    CStdStr<wchar_t> trimmed = s;
-    trimmed.TrimLeft().TrimRight();
-    if (trimmed.size() < 2 || trimmed.front() != kDoubleQuote || trimmed.back() != kDoubleQuote)
-        return;
-    s.assign(trimmed, 1, trimmed.size() - 2);
+    const ktqtbase::WhiteSpace isSpace;
+    const ktqtbase::TextRange text = trimmed({s.data(), s.data() + s.size()}, isSpace);
+    if (isQuoted(text))
+        s.assign(text.begin + 1, text.size() - 2);
 }
 
 void CRbUiPathname::StripSpaces(CStdStr<wchar_t>& s)
@@ -154,7 +143,8 @@ void GetWorkString(CStdStr<wchar_t>* s, wchar_t sep, wchar_t& last, wchar_t& fir
 {
     if (!s->empty())
         last = s->back();
-    std::replace(s->begin(), s->end(), kBackslash, sep);
+    for (std::size_t i = s->find(kBackslash); i != s->npos; i = s->find(kBackslash, i + 1))
+        (*s)[i] = sep;
     first = s->c_str()[0];
     second = s->size() > 1 ? (*s)[1] : kEOS;
 }

@@ -11,6 +11,18 @@
 namespace {
 
 constexpr std::size_t kMostBytesPerCharacter = 4;
+constexpr unsigned int kLastAscii = 0x7F;
+
+// Converts one character, ASCII without the C library. Result: as of mbrtowc.
+std::size_t widenCharacter(wchar_t* wide, const char* narrow, std::size_t left,
+                           std::mbstate_t* state)
+{
+    const auto byte = static_cast<unsigned char>(*narrow);
+    if (byte > kLastAscii)
+        return std::mbrtowc(wide, narrow, left, state);
+    *wide = static_cast<wchar_t>(byte);
+    return byte ? 1 : 0;
+}
 
 } // namespace
 
@@ -18,7 +30,7 @@ namespace ktqtbase {
 
 NarrowText::NarrowText(const wchar_t* wide)
 {
-    if (!wide)
+    if (!wide || copyAscii(wide))
         return;
     const std::size_t room = std::wcslen(wide) * kMostBytesPerCharacter + 1;
     if (room <= kShortRoom) {
@@ -27,6 +39,24 @@ NarrowText::NarrowText(const wchar_t* wide)
     }
     m_long = std::make_unique<char[]>(room);
     convert(wide, m_long.get(), room);
+}
+
+// Takes a short ASCII text, which is the same bytes in every LC_CTYPE: at the length of a usual
+// file name the C library's conversion costs more than the system call that the name is made for.
+bool NarrowText::copyAscii(const wchar_t* wide)
+{
+    for (std::size_t i = 0; i < kShortRoom; ++i) {
+        const auto unit = static_cast<unsigned int>(wide[i]);
+        if (unit > kLastAscii)
+            return false;
+        m_short[i] = static_cast<char>(unit);
+        if (unit == 0) {
+            m_text = m_short;
+            m_length = i;
+            return true;
+        }
+    }
+    return false;
 }
 
 void NarrowText::convert(const wchar_t* wide, char* room, std::size_t size)
@@ -47,7 +77,7 @@ bool widen(const char* narrow, wchar_t* wide, std::size_t size)
     const char* const end = narrow + std::strlen(narrow) + 1;
     for (std::size_t written = 0; written < size; ++written) {
         const auto left = static_cast<std::size_t>(end - narrow);
-        const std::size_t bytes = std::mbrtowc(&wide[written], narrow, left, &state);
+        const std::size_t bytes = widenCharacter(&wide[written], narrow, left, &state);
         if (bytes == 0)
             return true;
         if (bytes > left) {

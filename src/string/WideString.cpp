@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: MIT
 #include <KtQtBase/WideString.h>
 
+#include "string/WhiteSpace.h"
+
 #include <algorithm>
 
 namespace {
@@ -38,21 +40,20 @@ CStdStr<T> CStdStr<T>::Left(int count) const
 template<class T>
 CStdStr<T>& CStdStr<T>::TrimLeft()
 {
-    const std::locale locale;
-    const T* begin = this->data();
-    const T* end = begin + this->size();
-    const T* kept = characterClasses<T>(locale).scan_not(std::ctype_base::space, begin, end);
-    this->erase(0, static_cast<std::size_t>(kept - begin));
+    const ktqtbase::WhiteSpace isSpace;
+    std::size_t blanks = 0;
+    while (blanks < this->size() && isSpace((*this)[blanks]))
+        ++blanks;
+    this->erase(0, blanks);
     return *this;
 }
 
 template<class T>
 CStdStr<T>& CStdStr<T>::TrimRight()
 {
-    const std::locale locale;
-    const std::ctype<T>& classes = characterClasses<T>(locale);
+    const ktqtbase::WhiteSpace isSpace;
     std::size_t length = this->size();
-    while (length > 0 && classes.is(std::ctype_base::space, (*this)[length - 1]))
+    while (length > 0 && isSpace((*this)[length - 1]))
         --length;
     this->resize(length);
     return *this;
