@@ -14,7 +14,8 @@ bool toNarrow(const wchar_t* name, std::vector<char>& narrow)
 {
     if (!name)
         return false;
-    narrow.resize(std::wcslen(name) * 4 + 1);
+    // Room for the locale's longest character, so that no name is ever cut.
+    narrow.resize(std::wcslen(name) * MB_CUR_MAX + 1);
     const std::size_t length = std::wcstombs(narrow.data(), name, narrow.size());
     return length != static_cast<std::size_t>(-1) && length < narrow.size();
 }

@@ -10,7 +10,6 @@
 
 namespace {
 
-constexpr std::size_t kMostBytesPerCharacter = 4;
 constexpr unsigned int kLastAscii = 0x7F;
 
 // Converts one character, ASCII without the C library. Result: as of mbrtowc.
@@ -32,7 +31,9 @@ NarrowText::NarrowText(const wchar_t* wide)
 {
     if (!wide || copyAscii(wide))
         return;
-    const std::size_t room = std::wcslen(wide) * kMostBytesPerCharacter + 1;
+    // Not four bytes a character: some C libraries write six for values beyond the last code point,
+    // and a room too small would cut the text without a terminator.
+    const std::size_t room = std::wcslen(wide) * MB_CUR_MAX + 1;
     if (room <= kShortRoom) {
         convert(wide, m_short, kShortRoom);
         return;
