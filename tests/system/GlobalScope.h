@@ -1,0 +1,17 @@
+// SPDX-License-Identifier: MIT
+//
+// Functions of the test program that stand in the loader's global scope.
+#ifndef KTQTBASE_TESTS_SYSTEM_GLOBALSCOPE_H
+#define KTQTBASE_TESTS_SYSTEM_GLOBALSCOPE_H
+
+#include <string>
+
+namespace ktqtbase::test {
+
+// What the C library's mktemp was last given, and whether it fails.
+extern std::string lastTemplate;
+extern bool mktempFails;
+
+} // namespace ktqtbase::test
+
+#endif
