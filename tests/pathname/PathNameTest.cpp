@@ -93,7 +93,7 @@ TEST(PathName, IsConstructedUnparsedWithItsCategoryUnset)
     EXPECT_EQ(name->m_pRelPath, nullptr);
     EXPECT_EQ(name->m_separator, L'/');
     EXPECT_FALSE(name->m_bQualified);
-    name->~CRbUiPathname();
+    name->CRbUiPathname::~CRbUiPathname();
 }
 
 TEST(PathName, LeavesNoPointerBehindWhenItIsDestroyed)
@@ -103,7 +103,7 @@ TEST(PathName, LeavesNoPointerBehindWhenItIsDestroyed)
     const RecordingVolume volume(L"C:");
     ASSERT_EQ(name->ParseRelative(L"/a/name/that/takes/memory/of/its/own", nullptr, false), 0);
     name->m_pVolume = &volume;
-    name->~CRbUiPathname();
+    name->CRbUiPathname::~CRbUiPathname();
     EXPECT_EQ(memory.read<int>(8), PT_NONE);
     EXPECT_EQ(memory.read<void*>(16), nullptr);
     EXPECT_EQ(memory.read<void*>(24), nullptr);

@@ -166,7 +166,7 @@ TEST(GetProcAddress, FindsTheFunctionsOfAModule)
 TEST(GetProcAddress, FindsNoOrdinals)
 {
     const LoadedModule module(kModules / "ktplain.dll");
-    for (const std::uintptr_t ordinal : {0, 1, 5, 0xFFFF}) {
+    for (const std::uintptr_t ordinal : {0u, 1u, 5u, 0xFFFFu}) {
         const auto name = reinterpret_cast<const char*>(ordinal);
         EXPECT_EQ(GetProcAddress(module.handle(), name), nullptr) << ordinal;
         EXPECT_EQ(GetProcAddress(nullptr, name), nullptr) << ordinal;
