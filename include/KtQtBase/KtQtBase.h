@@ -7,6 +7,8 @@
 #define KTQTBASE_KTQTBASE_H
 
 #include <KtQtBase/Export.h>
+#include <KtQtBase/FileDialog.h>
+#include <KtQtBase/Messages.h>
 #include <KtQtBase/PathName.h>
 #include <KtQtBase/VolumeDescriptor.h>
 #include <KtQtBase/WideString.h>

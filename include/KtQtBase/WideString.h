@@ -78,6 +78,19 @@ public:
     // Kept: the two names begin with a small and a capital letter; hosts call both as they are.
     CStdStr& toUpper(const std::locale& locale);
     CStdStr& ToLower(const std::locale& locale);
+
+    // Reads a string of the resource module that AfxSetResourceHandle named.
+    //   id    in: the string's number
+    // Result: whether the module has such a string and it is not empty.
+    // The text is cut to 1,023 characters. The string has at least 1,024 characters afterwards,
+    // whatever the result: a shorter one is filled up with NULs, a longer one keeps its length, so
+    // that the text is read with c_str(). A string that the module does not have leaves the former
+    // characters.
+    //   L"", the module has L"Ready"  => true, L"Ready" and 1,019 NULs
+    //   L"ab", no such string         => false, L"ab" and 1,022 NULs
+    // Kept: the length is not cut to the text; hosts use the string as a zero-terminated text.
+    // On Windows: the string gets the text's own length, and is emptied on failure.
+    bool LoadString(unsigned int id);
 };
 
 // The operations exist once, in the library, for the wide string only.

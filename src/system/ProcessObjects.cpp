@@ -3,6 +3,7 @@
 // The process-wide objects of the library, in the order of their creation at load. They are
 // destroyed in the reverse order at unload: first the descriptors, then the list that held them,
 // then the prefix, which points to a descriptor and never follows that pointer when it dies.
+#include <KtQtBase/Messages.h>
 #include <KtQtBase/PathName.h>
 #include <KtQtBase/VolumeDescriptor.h>
 
@@ -11,6 +12,10 @@ CRnUiPathname g_CurrentDirPrefix;
 QList<CRbUiVolumeDescriptor*> volumeList;
 
 static CDelVolumeList volumelistdel;
+
+HINSTANCE m_hCurrentResourceHandle = nullptr;
+
+int QKtMsgEvent::iKtMsgEventType = -1;
 
 CDelVolumeList::~CDelVolumeList()
 {

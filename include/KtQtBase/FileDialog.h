@@ -1,0 +1,142 @@
+// SPDX-License-Identifier: MIT
+//
+// The file dialog of MFC-style code over QFileDialog.
+//
+//     KtQtFileDialog dialog(true);
+//     dialog.GetOFN().lpstrTitle = L"Import";
+//     dialog.GetOFN().lpstrFilter = L"Text (*.txt);;All files (*)";
+//     dialog.GetOFN().nFilterIndex = 1;
+//     dialog.GetOFN().lpstrInitialDir = L"C:\\data\\in";
+//     if (dialog.DoModal() == IDOK) {
+//         POSITION pos = dialog.GetStartPosition() const;
+//         while (pos)
+//             import(dialog.GetNextPathName(pos));
+//     }
+//
+// Filters have Qt's form, entries separated by ";;", and not the bars or double NUL of Windows.
+// Texts are UTF-32 and zero-terminated, path names have slashes.
+#ifndef KTQTBASE_FILEDIALOG_H
+#define KTQTBASE_FILEDIALOG_H
+
+#include <KtQtBase/Export.h>
+#include <KtQtBase/WideString.h>
+#include <KtQtBase/windows/Constants.h>
+#include <KtQtBase/windows/Records.h>
+#include <KtQtBase/windows/Scalars.h>
+
+#include <QtCore/QPointer>
+#include <QtCore/QString>
+#include <QtCore/QStringList>
+#include <QtWidgets/QFileDialog>
+
+#include <cstdint>
+
+// What the dialog hands to its QFileDialog.
+// Kept: the name is spelt as hosts write it.
+class KTQTBASE_EXPORT KtQFileDialgAttri
+{
+public:
+    ~KtQFileDialgAttri();
+
+    QFileDialog::AcceptMode m_nAcceptMode = QFileDialog::AcceptOpen;
+    QString m_strDefaultExt; // as given; not used
+    QString m_strFileName;   // as given; not used
+    QString m_strSelectFile;
+    QFileDialog::FileMode m_nFileMode = QFileDialog::AnyFile;
+    QString m_strNameFilter;
+    QStringList m_listNameFilter;
+    QString m_strInitNameFilter;
+};
+
+// A dialog in which the user picks files to open, or a name to save under. It owns the QFileDialog
+// of its last run; those of earlier runs belong to their parent, or to nobody without one.
+class KTQTBASE_EXPORT KtQtFileDialog
+{
+public:
+    // A dialog that is not shown yet; its block is all zeros.
+    //   bOpenFileDialog    in: true to open existing files, one or several; false to save under any
+    //                      name
+    //   lpszDefExt         in: kept in the attributes, not used
+    //   lpszFileName       in: kept in the attributes, not used
+    //   dwFlags            not used: no OFN_ flag has an effect
+    //   lpszFilter         in: handed to the QFileDialog, where the block's filter replaces it
+    //   pParentWnd         in: the parent window, or null; stays the caller's
+    //   dwSize             not used
+    //   bVistaStyle        not used
+    // Null texts are empty. Nothing of this reaches the block.
+    // On Windows: the arguments fill the block, and the flags decide whether several files may be
+    // selected.
+    explicit KtQtFileDialog(bool bOpenFileDialog, const wchar_t* lpszDefExt = nullptr,
+                            const wchar_t* lpszFileName = nullptr,
+                            unsigned int dwFlags = OFN_HIDEREADONLY | OFN_OVERWRITEPROMPT,
+                            const wchar_t* lpszFilter = nullptr, CWnd* pParentWnd = nullptr,
+                            unsigned int dwSize = 0, bool bVistaStyle = true);
+
+    // Deletes the QFileDialog of the last run, unless its parent did so already.
+    ~KtQtFileDialog();
+
+    KtQtFileDialog(const KtQtFileDialog&) = delete;
+    KtQtFileDialog& operator=(const KtQtFileDialog&) = delete;
+
+    // The block that says what the dialog shows; fill it before DoModal. These members count:
+    //   lpstrTitle         in: the window's title
+    //   lpstrInitialDir    in: the folder shown, with slashes or backslashes; an empty one shows
+    //                      the top of the file system
+    //   lpstrFilter        in: the filters, in Qt's form up to the first NUL
+    //   nFilterIndex       in: the number of the filter that is active, from 1; a number outside
+    //                      the list chooses none. out: that of the filter in force at the end
+    //   lpstrFile          in: the file that is selected; only its name counts where
+    //   lpstrInitialDir
+    //                      names another folder
+    // Null texts are empty. The texts stay the caller's and are read by DoModal.
+    // On Windows: the path chosen is written to lpstrFile; here it is only read.
+    OPENFILENAMEW& GetOFN();
+
+    // Shows the dialog and waits until the user is done with it.
+    // Result: IDOK (1) when the user accepted; IDCANCEL (2) for any other end, also where the
+    // parent died meanwhile or the program has no QApplication. Then the former selection stays.
+    // Kept: other windows take input meanwhile, as hosts with tool windows expect.
+    // On Windows: the parent is disabled, and messages ask before a file is replaced as flags say.
+    int DoModal();
+
+    // Takes path name, file name, extension and the block's nFilterIndex from the selected files
+    // and filter: those of the first file, and the number of the first filter that is equal to the
+    // one in force, 0 without one. Changes nothing when no file is selected. DoModal calls it.
+    //   /tmp/a.b.txt  => L"/tmp/a.b.txt", L"a.b.txt", L"txt"
+    //   /tmp/noext    => L"/tmp/noext", L"noext", L""
+    // Kept: the name is spelt as hosts write it.
+    void PraseFileInfo();
+
+    // The full path of the first selected file, the part after its last slash, and what follows the
+    // last dot of that. Empty until a file was selected.
+    CStdStr<wchar_t> GetPathName() const;
+    CStdStr<wchar_t> GetFileName() const;
+    CStdStr<wchar_t> GetFileExt() const;
+
+    // Where a walk over the selected files begins.
+    // Result: a position for GetNextPathName; null when nothing was selected.
+    POSITION GetStartPosition() const;
+
+    // The next selected file, in the dialog's order.
+    //   pos    in/out: the position, moved to the next file; null after the last one
+    // Result: the file's full path. Empty, and pos as it was, where pos is null or nothing was
+    // selected; a position from a longer selection gives empty names until it meets this one.
+    // On Windows: a null pos is an error.
+    CStdStr<wchar_t> GetNextPathName(POSITION& pos) const;
+
+    QPointer<QFileDialog> m_pDialog; // of the last run; null when its parent deleted it
+    CWnd* m_pParentWnd;
+    QString m_strCaption;
+    QString m_strDirectory;
+    QString m_strFilter;
+    KtQFileDialgAttri m_attri;
+    CStdStr<wchar_t> m_strPathName;
+    CStdStr<wchar_t> m_strFileName;
+    CStdStr<wchar_t> m_strFileExt;
+    std::uintptr_t m_nSelectedCount = 0; // also the position where a walk begins
+    QStringList m_listSelectedFiles;
+    QString m_strSelectedNameFilter;
+    OPENFILENAMEW m_ofn = {};
+};
+
+#endif

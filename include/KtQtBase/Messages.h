@@ -1,0 +1,168 @@
+// SPDX-License-Identifier: MIT
+//
+// Windows-style messages to widgets, message boxes, and the module that resource strings come from.
+//
+//     bool Panel::event(QEvent* event)
+//     {
+//         if (auto* message = dynamic_cast<QKtMsgEvent*>(event))
+//             return onMessage(message->message(), message->wParam(), message->lParam());
+//         return QWidget::event(event);
+//     }
+//
+//     HWND window = reinterpret_cast<HWND>(panel->winId());
+//     PostMessage(window, WM_USER + 1, 0, 0);
+//     if (AfxMessageBox(L"Save the changes?") == IDYES)
+//         SendMessage(window, WM_USER + 2, 0, reinterpret_cast<LPARAM>(&answer));
+//
+// A window handle is what QWidget::winId() gives. All of this belongs to the GUI thread, but for
+// what PostMessage says.
+#ifndef KTQTBASE_MESSAGES_H
+#define KTQTBASE_MESSAGES_H
+
+#include <KtQtBase/Export.h>
+#include <KtQtBase/windows/Scalars.h>
+
+#include <QtCore/QEvent>
+
+// ---- Messages as Qt events ---------------------------------------------------------------------
+
+// A message on its way to a widget. Receivers know it by dynamic_cast, or by comparing type() with
+// eventType().
+class KTQTBASE_EXPORT QKtMsgEvent : public QEvent
+{
+public:
+    // A message; the values are kept as given.
+    //   message    in: its number
+    //   wParam     in: its first parameter
+    //   lParam     in: its second parameter; what it may point to stays the caller's
+    // The event's type is that of eventType().
+    QKtMsgEvent(UINT message, WPARAM wParam, LPARAM lParam);
+    ~QKtMsgEvent() override;
+
+    // The Qt event type of every message.
+    // Result: a user type that Qt chose; the same for the life of the process.
+    // The first call of this, of the constructor, of SendMessage or of PostMessage registers it.
+    // That is not locked: make it on the GUI thread.
+    static int eventType();
+
+    // The three values, as the constructor got them.
+    UINT message() const;
+    WPARAM wParam() const;
+    LPARAM lParam() const;
+
+    UINT m_nMessage;
+    WPARAM m_wParam;
+    LPARAM m_lParam;
+
+    // The registered event type; -1 until there is one.
+    static int iKtMsgEventType;
+};
+
+// Carries messages to widgets.
+class KTQTBASE_EXPORT QKtMessageCenter
+{
+public:
+    QKtMessageCenter() = delete;
+
+    // Delivers a message and waits until the receiver is done with it.
+    //   hWnd      in: the receiver's handle
+    //   msg       in: the message's number
+    //   wParam    in: its first parameter
+    //   lParam    in: its second parameter
+    // Result: 0, always. A handle that names no widget of this process, or no application object:
+    // nothing is delivered.
+    // On Windows: the result is the receiver's answer; here it answers through memory that a
+    // parameter points to.
+    static LRESULT sendMessage(HWND hWnd, UINT msg, WPARAM wParam, LPARAM lParam);
+
+    // Queues a message, which the receiver gets from the event loop at normal priority.
+    //   hWnd      in: the receiver's handle
+    //   msg       in: the message's number
+    //   wParam    in: its first parameter
+    //   lParam    in: its second parameter; what it may point to must live until the delivery
+    // Result: true, always. A handle that names no widget of this process: nothing is queued. A
+    // widget that dies first takes its messages with it.
+    // May be called from any thread once the event type is registered, as long as no widget gets or
+    // loses its handle meanwhile.
+    // On Windows: false for a handle that names no window.
+    static bool postMessage(HWND hWnd, UINT msg, WPARAM wParam, LPARAM lParam);
+};
+
+// The same two under their Windows names.
+KTQTBASE_EXPORT LRESULT SendMessage(HWND hWnd, UINT Msg, WPARAM wParam, LPARAM lParam);
+KTQTBASE_EXPORT bool PostMessage(HWND hWnd, UINT Msg, WPARAM wParam, LPARAM lParam);
+
+// ---- Message boxes -----------------------------------------------------------------------------
+
+// Shows a text with the icon of a critical error and the buttons Yes, the default, and No. Blocks
+// until the user is done with it.
+//   lpszText    in: the text, UTF-32, zero-terminated; null is the empty text
+//   nType       not used: every box is the same
+//   nIDHelp     not used
+// Result by the button that closed the box: Ok IDOK, Cancel IDCANCEL, Retry IDRETRY, Ignore
+// IDIGNORE, Yes IDYES, No IDNO, any other or none IDABORT. Escape and the window's close button
+// count as No. A box that is ended by done(-1) counts as cancelled, one ended by done(0) gives
+// IDABORT, and so does a program without a QApplication, where no box appears.
+// Kept: nType changes nothing; hosts that pass MB_OK expect the answers IDYES and IDNO.
+// On Windows: nType chooses the buttons and the icon, the title is the application's name.
+KTQTBASE_EXPORT int AfxMessageBox(const wchar_t* lpszText, unsigned int nType = 0,
+                                  unsigned int nIDHelp = 0);
+
+// The same with a text from the resource module.
+//   nIDPrompt    in: the text's number; one that the module does not have shows an empty box
+//   nType        not used
+//   nIDHelp      not used
+KTQTBASE_EXPORT int AfxMessageBox(unsigned int nIDPrompt, unsigned int nType = 0,
+                                  unsigned int nIDHelp = static_cast<unsigned int>(-1));
+
+// ---- The resource module -----------------------------------------------------------------------
+
+// The module that CStdStr<wchar_t>::LoadString and AfxMessageBox read strings from, as LoadLibrary
+// gave it; null until it is set. The library never frees it.
+extern KTQTBASE_EXPORT HINSTANCE m_hCurrentResourceHandle;
+
+// Returns m_hCurrentResourceHandle.
+// On Windows: never null.
+KTQTBASE_EXPORT HINSTANCE AfxGetResourceHandle();
+
+// Stores a handle in m_hCurrentResourceHandle.
+//   hInstResource    in: the module, unchecked; it stays the caller's and must outlive its use
+KTQTBASE_EXPORT void AfxSetResourceHandle(HINSTANCE hInstResource);
+
+// ---- Cursor, focus and keys --------------------------------------------------------------------
+
+namespace KtUser32 {
+
+// The mouse pointer's shape.
+// Inert: returns null. QWidget::cursor knows it.
+// On Windows: returns the shape that is shown.
+KTQTBASE_EXPORT HCURSOR GetCursor();
+
+// Changes the mouse pointer's shape.
+// Inert: changes nothing. QWidget::setCursor does.
+// On Windows: returns the shape that was shown before.
+KTQTBASE_EXPORT void SetCursor(HCURSOR hCursor);
+
+// Lets a window take input, or stops it.
+// Inert: returns true (1) and changes nothing. QWidget::setEnabled does.
+// On Windows: the result says whether the window was disabled before.
+KTQTBASE_EXPORT int EnableWindow(HWND hWnd, bool bEnable);
+
+// Gives a window the keyboard.
+// Inert: returns null and changes nothing. QWidget::setFocus does.
+// On Windows: returns the window that had the keyboard before.
+KTQTBASE_EXPORT HWND SetFocus(HWND hWnd);
+
+// The window that has the keyboard.
+// Inert: returns null. QApplication::focusWidget knows it.
+// On Windows: null only where no window of the thread has it.
+KTQTBASE_EXPORT HWND GetFocus();
+
+} // namespace KtUser32
+
+// Whether a key is down or toggled.
+// Inert: returns 0, which is neither, for every key.
+// On Windows: bit 15 means down, bit 0 toggled.
+KTQTBASE_EXPORT short GetKeyState(int nVirtKey);
+
+#endif

@@ -1,0 +1,129 @@
+// SPDX-License-Identifier: MIT
+#include <KtQtBase/FileDialog.h>
+
+#include "dialogs/WidgetApplication.h"
+#include "string/QtText.h"
+
+#include <QtCore/QFileInfo>
+
+namespace {
+
+using ktqtbase::toQt;
+using ktqtbase::toWide;
+
+void readBlock(KtQtFileDialog& self)
+{
+    const OPENFILENAMEW& block = self.m_ofn;
+    KtQFileDialgAttri& attri = self.m_attri;
+    self.m_strCaption = toQt(block.lpstrTitle);
+    self.m_strDirectory = toQt(block.lpstrInitialDir).replace(u'\\', u'/');
+    attri.m_strNameFilter = toQt(block.lpstrFilter);
+    attri.m_listNameFilter = attri.m_strNameFilter.split(QStringLiteral(";;"));
+    attri.m_strSelectFile = toQt(block.lpstrFile);
+    attri.m_strInitNameFilter =
+        attri.m_listNameFilter.value(static_cast<int>(block.nFilterIndex - 1));
+}
+
+void setUp(QFileDialog& dialog, const KtQFileDialgAttri& attri)
+{
+    dialog.setAcceptMode(attri.m_nAcceptMode);
+    dialog.selectFile(attri.m_strSelectFile);
+    dialog.setFileMode(attri.m_nFileMode);
+    dialog.setNameFilter(attri.m_strNameFilter);
+    dialog.selectNameFilter(attri.m_strInitNameFilter);
+    dialog.setLabelText(QFileDialog::FileType, QStringLiteral("File Format:"));
+}
+
+void takeSelection(KtQtFileDialog& self, const QFileDialog& dialog)
+{
+    self.m_listSelectedFiles = dialog.selectedFiles();
+    self.m_nSelectedCount = static_cast<std::uintptr_t>(self.m_listSelectedFiles.size());
+    self.m_strSelectedNameFilter = dialog.selectedNameFilter();
+    self.PraseFileInfo();
+}
+
+} // namespace
+
+KtQFileDialgAttri::~KtQFileDialgAttri() = default;
+
+KtQtFileDialog::KtQtFileDialog(bool bOpenFileDialog, const wchar_t* lpszDefExt,
+                               const wchar_t* lpszFileName, unsigned int, const wchar_t* lpszFilter,
+                               CWnd* pParentWnd, unsigned int, bool)
+    : m_pParentWnd(pParentWnd), m_strFilter(toQt(lpszFilter))
+{
+    m_attri.m_nAcceptMode = bOpenFileDialog ? QFileDialog::AcceptOpen : QFileDialog::AcceptSave;
+    m_attri.m_strDefaultExt = toQt(lpszDefExt);
+    m_attri.m_strFileName = toQt(lpszFileName);
+    m_attri.m_nFileMode = bOpenFileDialog ? QFileDialog::ExistingFiles : QFileDialog::AnyFile;
+}
+
+KtQtFileDialog::~KtQtFileDialog()
+{
+    delete m_pDialog;
+}
+
+OPENFILENAMEW& KtQtFileDialog::GetOFN()
+{
+    return m_ofn;
+}
+
+int KtQtFileDialog::DoModal()
+{
+    readBlock(*this);
+    if (!ktqtbase::hasWidgetApplication())
+        return IDCANCEL;
+    // The run's own pointer, since a host's handler may start another run meanwhile.
+    auto* const dialog = new QFileDialog(m_pParentWnd, m_strCaption, m_strDirectory, m_strFilter);
+    m_pDialog = dialog;
+    setUp(*dialog, m_attri);
+    // Kept: a dialog that is visible before exec() does not become Qt's modal window, and hosts go
+    // on using their other windows. The folder comes last, so that it wins over a selected file's.
+    dialog->setVisible(true);
+    dialog->setDirectory(m_strDirectory);
+    // Any other end may have left no dialog.
+    if (dialog->exec() != QDialog::Accepted)
+        return IDCANCEL;
+    takeSelection(*this, *dialog);
+    return IDOK;
+}
+
+void KtQtFileDialog::PraseFileInfo()
+{
+    if (m_listSelectedFiles.isEmpty())
+        return;
+    const QFileInfo file(m_listSelectedFiles.first());
+    m_strPathName = toWide(m_listSelectedFiles.first());
+    m_strFileName = toWide(file.fileName());
+    m_strFileExt = toWide(file.suffix());
+    m_ofn.nFilterIndex =
+        static_cast<DWORD>(m_attri.m_listNameFilter.indexOf(m_strSelectedNameFilter) + 1);
+}
+
+CStdStr<wchar_t> KtQtFileDialog::GetPathName() const
+{
+    return m_strPathName;
+}
+
+CStdStr<wchar_t> KtQtFileDialog::GetFileName() const
+{
+    return m_strFileName;
+}
+
+CStdStr<wchar_t> KtQtFileDialog::GetFileExt() const
+{
+    return m_strFileExt;
+}
+
+POSITION KtQtFileDialog::GetStartPosition() const
+{
+    return reinterpret_cast<POSITION>(m_nSelectedCount);
+}
+
+CStdStr<wchar_t> KtQtFileDialog::GetNextPathName(POSITION& pos) const
+{
+    if (!pos || m_listSelectedFiles.isEmpty())
+        return CStdStr<wchar_t>();
+    const auto left = reinterpret_cast<std::uintptr_t>(pos);
+    pos = reinterpret_cast<POSITION>(left - 1);
+    return toWide(m_listSelectedFiles.value(static_cast<int>(m_nSelectedCount - left)));
+}
