@@ -1,0 +1,163 @@
+// SPDX-License-Identifier: MIT
+#include "dialogs/User.h"
+#include "support/RowName.h"
+
+#include <KtQtBase/Messages.h>
+#include <KtQtBase/windows/Constants.h>
+#include <KtQtBase/windows/Modules.h>
+
+#include <QtWidgets/QMessageBox>
+#include <QtWidgets/QPushButton>
+
+#include <string>
+
+namespace {
+
+using ktqtbase::test::RowName;
+
+void press(QMessageBox& box, QMessageBox::StandardButton button)
+{
+    QTest::mouseClick(box.button(button), Qt::LeftButton);
+}
+
+TEST(AfxMessageBox, ShowsTheTextAsACriticalErrorWithoutTitle)
+{
+    const User<QMessageBox> user([](QMessageBox& box) {
+        EXPECT_EQ(box.text(), QString::fromUtf8("Disk \xC3\xA4 \xF0\x9F\x98\x80 full"));
+        EXPECT_EQ(box.windowTitle(), QString());
+        EXPECT_EQ(box.icon(), QMessageBox::Critical);
+        EXPECT_EQ(box.parentWidget(), nullptr);
+        EXPECT_EQ(QApplication::activeModalWidget(), &box);
+        EXPECT_TRUE(keepScreenshot(box, QStringLiteral("messagebox")));
+        press(box, QMessageBox::Yes);
+    });
+    EXPECT_EQ(AfxMessageBox(L"Disk \u00e4 \U0001F600 full"), IDYES);
+}
+
+struct TypeRow
+{
+    const char* name;
+    unsigned int type;
+};
+
+class AfxMessageBoxType : public testing::TestWithParam<TypeRow>
+{};
+
+TEST_P(AfxMessageBoxType, ChangesNeitherButtonsNorIcon)
+{
+    const User<QMessageBox> user([](QMessageBox& box) {
+        EXPECT_EQ(box.standardButtons(), QMessageBox::Yes | QMessageBox::No);
+        EXPECT_TRUE(box.defaultButton() == box.button(QMessageBox::Yes));
+        EXPECT_EQ(box.icon(), QMessageBox::Critical);
+        press(box, QMessageBox::No);
+    });
+    EXPECT_EQ(AfxMessageBox(L"text", GetParam().type, 17), IDNO);
+}
+
+INSTANTIATE_TEST_SUITE_P(
+    Rows, AfxMessageBoxType,
+    testing::Values(TypeRow{"Ok", MB_OK}, TypeRow{"OkCancel", MB_OKCANCEL | MB_ICONWARNING},
+                    TypeRow{"AbortRetryIgnore", MB_ABORTRETRYIGNORE},
+                    TypeRow{"YesNoCancelSecond", MB_YESNOCANCEL | MB_DEFBUTTON2},
+                    TypeRow{"Information", MB_YESNO | MB_ICONINFORMATION},
+                    TypeRow{"AllBits", 0xFFFFFFFF}),
+    RowName());
+
+struct EndRow
+{
+    const char* name;
+    void (*end)(QMessageBox& box);
+    int result;
+};
+
+// A box as a host may get to see it: with a button that some code added.
+template<QMessageBox::StandardButton button>
+void pressAdded(QMessageBox& box)
+{
+    box.addButton(button);
+    press(box, button);
+}
+
+class AfxMessageBoxEnd : public testing::TestWithParam<EndRow>
+{};
+
+TEST_P(AfxMessageBoxEnd, GivesTheWindowsResult)
+{
+    const User<QMessageBox> user(GetParam().end);
+    EXPECT_EQ(AfxMessageBox(L"text"), GetParam().result);
+}
+
+INSTANTIATE_TEST_SUITE_P(
+    Buttons, AfxMessageBoxEnd,
+    testing::Values(EndRow{"Yes", [](QMessageBox& box) { press(box, QMessageBox::Yes); }, 6},
+                    EndRow{"No", [](QMessageBox& box) { press(box, QMessageBox::No); }, 7},
+                    EndRow{"Ok", pressAdded<QMessageBox::Ok>, 1},
+                    EndRow{"Cancel", pressAdded<QMessageBox::Cancel>, 2},
+                    EndRow{"Abort", pressAdded<QMessageBox::Abort>, 3},
+                    EndRow{"Retry", pressAdded<QMessageBox::Retry>, 4},
+                    EndRow{"Ignore", pressAdded<QMessageBox::Ignore>, 5},
+                    EndRow{"Close", pressAdded<QMessageBox::Close>, 3},
+                    EndRow{"YesToAll", pressAdded<QMessageBox::YesToAll>, 3}),
+    RowName());
+
+INSTANTIATE_TEST_SUITE_P(
+    OtherWays, AfxMessageBoxEnd,
+    testing::Values(
+        EndRow{"Return", [](QMessageBox& box) { QTest::keyClick(&box, Qt::Key_Return); }, 6},
+        EndRow{"Escape", [](QMessageBox& box) { QTest::keyClick(&box, Qt::Key_Escape); }, 7},
+        EndRow{"CloseButton", [](QMessageBox& box) { box.close(); }, 7},
+        EndRow{"Rejected", [](QMessageBox& box) { box.done(0); }, 3},
+        EndRow{"MinusOne", [](QMessageBox& box) { box.done(-1); }, 2}),
+    RowName());
+
+TEST(AfxMessageBox, ShowsAnEmptyTextForNull)
+{
+    const User<QMessageBox> user([](QMessageBox& box) {
+        EXPECT_EQ(box.text(), QString());
+        press(box, QMessageBox::Yes);
+    });
+    const wchar_t* const text = nullptr;
+    EXPECT_EQ(AfxMessageBox(text), IDYES);
+}
+
+struct PromptRow
+{
+    const char* name;
+    unsigned int id;
+    const char* text;
+};
+
+class AfxMessageBoxPrompt : public testing::TestWithParam<PromptRow>
+{};
+
+TEST_P(AfxMessageBoxPrompt, ShowsTheModulesText)
+{
+    const std::string path = RESOURCE_MODULES "texts.dll";
+    const HINSTANCE module = LoadLibrary(std::wstring(path.begin(), path.end()).c_str());
+    AfxSetResourceHandle(module);
+    const User<QMessageBox> user([](QMessageBox& box) {
+        EXPECT_EQ(box.text(), QString::fromUtf8(GetParam().text));
+        EXPECT_EQ(box.standardButtons(), QMessageBox::Yes | QMessageBox::No);
+        press(box, QMessageBox::No);
+    });
+    EXPECT_EQ(AfxMessageBox(GetParam().id, MB_OK), IDNO);
+    AfxSetResourceHandle(nullptr);
+    FreeLibrary(module);
+}
+
+INSTANTIATE_TEST_SUITE_P(Rows, AfxMessageBoxPrompt,
+                         testing::Values(PromptRow{"Known", 101, "Ready"},
+                                         PromptRow{"Empty", 102, ""},
+                                         PromptRow{"Unknown", 999, ""}),
+                         RowName());
+
+TEST(AfxMessageBox, ShowsAnEmptyTextWithoutAResourceModule)
+{
+    const User<QMessageBox> user([](QMessageBox& box) {
+        EXPECT_EQ(box.text(), QString());
+        press(box, QMessageBox::Yes);
+    });
+    EXPECT_EQ(AfxMessageBox(101u), IDYES);
+}
+
+} // namespace
