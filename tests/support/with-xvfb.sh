@@ -28,6 +28,9 @@ started+=($!)
 await "$work/display" Xvfb
 DISPLAY=:$(cat "$work/display")
 export DISPLAY
+# The display alone: no message bus of the user's, and no graphics driver.
+export DBUS_SESSION_BUS_ADDRESS=disabled:
+export QT_XCB_GL_INTEGRATION=none
 
 openbox --startup "sh -c 'echo ready >$work/managed'" >>"$work/log" 2>&1 &
 started+=($!)

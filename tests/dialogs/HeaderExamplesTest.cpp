@@ -1,0 +1,69 @@
+// SPDX-License-Identifier: MIT
+//
+// The examples at the head of the public headers, as a host would write them.
+#include "dialogs/FileDialogFixture.h"
+
+#include <KtQtBase/Messages.h>
+
+#include <QtWidgets/QMessageBox>
+
+#include <memory>
+
+namespace {
+
+class Panel : public QWidget
+{
+protected:
+    bool event(QEvent* event) override
+    {
+        if (auto* message = dynamic_cast<QKtMsgEvent*>(event))
+            return onMessage(message->message(), message->wParam(), message->lParam());
+        return QWidget::event(event);
+    }
+
+private:
+    bool onMessage(UINT message, WPARAM, LPARAM lParam)
+    {
+        if (message == WM_USER + 2)
+            *reinterpret_cast<int*>(lParam) = m_seen;
+        m_seen = message == WM_USER + 1 ? 5 : m_seen;
+        return true;
+    }
+
+    int m_seen = 0;
+};
+
+TEST(MessagesExample, PostsAsksAndSends)
+{
+    const auto panel = std::make_unique<Panel>();
+    int answer = -1;
+    HWND window = reinterpret_cast<HWND>(panel->winId());
+    PostMessage(window, WM_USER + 1, 0, 0);
+    const User<QMessageBox> user([](QMessageBox& box) { QTest::keyClick(&box, Qt::Key_Return); });
+    if (AfxMessageBox(L"Save the changes?") == IDYES)
+        SendMessage(window, WM_USER + 2, 0, reinterpret_cast<LPARAM>(&answer));
+    EXPECT_EQ(answer, 5);
+}
+
+using FileDialogExample = FileDialogFixture;
+
+TEST_F(FileDialogExample, ImportsWhatTheUserSelects)
+{
+    std::vector<std::wstring> imported;
+    const auto import = [&imported](const std::wstring& name) { imported.push_back(name); };
+    const User<QFileDialog> user(
+        [this](QFileDialog& shown) { typeNameAndReturn(shown, path(QStringLiteral("may.txt"))); });
+    KtQtFileDialog dialog(true);
+    dialog.GetOFN().lpstrTitle = L"Import";
+    dialog.GetOFN().lpstrFilter = L"Text (*.txt);;All files (*)";
+    dialog.GetOFN().nFilterIndex = 1;
+    dialog.GetOFN().lpstrInitialDir = L"C:\\data\\in";
+    if (dialog.DoModal() == IDOK) {
+        POSITION pos = dialog.GetStartPosition();
+        while (pos)
+            import(dialog.GetNextPathName(pos));
+    }
+    EXPECT_EQ(imported, std::vector<std::wstring>{widePath("may.txt")});
+}
+
+} // namespace
