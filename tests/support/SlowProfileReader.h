@@ -1,0 +1,29 @@
+// SPDX-License-Identifier: MIT
+//
+// A second reading of profile files, kept plain and slow: it copies every line and keeps every name.
+// What it says is what the library's reader must say.
+#ifndef KTQTBASE_TESTS_SUPPORT_SLOWPROFILEREADER_H
+#define KTQTBASE_TESTS_SUPPORT_SLOWPROFILEREADER_H
+
+#include <optional>
+#include <string>
+
+struct ProfileQuestion
+{
+    std::optional<std::string> section;
+    std::optional<std::string> key;
+    std::optional<std::string> defaultText;
+    int size;
+};
+
+// The count that is returned and the text that is left, without its terminator.
+struct ProfileAnswer
+{
+    int count;
+    std::string text;
+};
+
+// The answer from a file of the given bytes.
+ProfileAnswer readSlowly(const std::string& bytes, const ProfileQuestion& question);
+
+#endif
