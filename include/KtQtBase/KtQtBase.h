@@ -10,6 +10,7 @@
 #include <KtQtBase/FileDialog.h>
 #include <KtQtBase/Messages.h>
 #include <KtQtBase/PathName.h>
+#include <KtQtBase/RegistryKey.h>
 #include <KtQtBase/VolumeDescriptor.h>
 #include <KtQtBase/WideString.h>
 #include <KtQtBase/WindowsFunctions.h>

@@ -14,6 +14,7 @@
 
 #include <KtQtBase/windows/Files.h>
 #include <KtQtBase/windows/Modules.h>
+#include <KtQtBase/windows/Profiles.h>
 #include <KtQtBase/windows/ResourceStrings.h>
 #include <KtQtBase/windows/SystemInformation.h>
 

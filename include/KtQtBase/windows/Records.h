@@ -133,6 +133,19 @@ struct LOGFONTW
     wchar_t lfFaceName[32];
 };
 
+// ---- Numbers -----------------------------------------------------------------------------------
+
+// How a number is written out, 40 bytes. The two texts belong to the caller.
+struct NUMBERFMTW
+{
+    UINT NumDigits;
+    UINT LeadingZero;
+    UINT Grouping;
+    wchar_t* lpDecimalSep;
+    wchar_t* lpThousandSep;
+    UINT NegativeOrder;
+};
+
 // ---- System and threads ------------------------------------------------------------------------
 
 // The system's version, 532 bytes; dwOSVersionInfoSize is the record's own size.

@@ -1,0 +1,99 @@
+// SPDX-License-Identifier: MIT
+#include "system/ProfileScanner.h"
+
+#include "system/ProfileResult.h"
+#include "system/ProfileText.h"
+
+namespace {
+
+constexpr std::size_t kNowhere = std::string_view::npos;
+
+} // namespace
+
+namespace ktqtbase {
+
+ProfileScanner::ProfileScanner(std::string_view text, const ProfileQuery& query,
+                               ProfileResult& list)
+    : m_rest(text), m_query(query), m_list(list)
+{}
+
+std::optional<std::string_view> ProfileScanner::findValue()
+{
+    while (!m_rest.empty()) {
+        const std::string_view line = trimmed(takeLine());
+        if (line.empty() || readHeader(line))
+            continue;
+        if (const auto value = readKeyLine(line))
+            return value;
+    }
+    return std::nullopt;
+}
+
+bool ProfileScanner::listed() const
+{
+    return !m_query.section || (m_inSection && !m_query.key);
+}
+
+std::string_view ProfileScanner::takeLine()
+{
+    const std::string_view line = m_rest.substr(0, lineLength());
+    m_rest.remove_prefix(line.size());
+    return line;
+}
+
+// Carriage returns end lines only where no line feed follows any more. That is remembered: looking
+// for one again at each line would make a file of carriage returns quadratic.
+std::size_t ProfileScanner::lineLength()
+{
+    std::size_t end = m_lineFeedsLeft ? m_rest.find('\n') : kNowhere;
+    m_lineFeedsLeft = end != kNowhere;
+    if (!m_lineFeedsLeft)
+        end = m_rest.find('\r');
+    return end == kNowhere ? m_rest.size() : end + 1;
+}
+
+// Whether the line is a header. One without a closing bracket is none, yet ends the list of keys.
+bool ProfileScanner::readHeader(std::string_view line)
+{
+    if (line.front() != '[')
+        return false;
+    m_keyListStopped = m_inSection;
+    const std::size_t close = line.find(']');
+    if (close == kNowhere)
+        return false;
+    enterSection(line.substr(1, close - 1));
+    return true;
+}
+
+// A section is entered and never left: keys of later sections count as its own.
+void ProfileScanner::enterSection(std::string_view name)
+{
+    if (!m_query.section)
+        m_list.addName(name);
+    else if (name == *m_query.section)
+        m_inSection = true;
+}
+
+std::optional<std::string_view> ProfileScanner::readKeyLine(std::string_view line)
+{
+    if (!m_inSection)
+        return std::nullopt;
+    const std::size_t equals = line.find('=');
+    if (equals == kNowhere || !isWantedKey(trimmedEnd(line.substr(0, equals))))
+        return std::nullopt;
+    return trimmedStart(line.substr(equals + 1));
+}
+
+// A name that nobody asks for by name goes into the list.
+bool ProfileScanner::isWantedKey(std::string_view name)
+{
+    if (name.empty())
+        return false;
+    if (m_query.key)
+        return name == *m_query.key;
+    if (!m_keyListStopped)
+        m_list.addName(name);
+    return false;
+}
+
+} // namespace ktqtbase

@@ -1,0 +1,53 @@
+// SPDX-License-Identifier: MIT
+//
+// One walk through a profile's text, line by line, without copying any of it.
+#ifndef KTQTBASE_SYSTEM_PROFILESCANNER_H
+#define KTQTBASE_SYSTEM_PROFILESCANNER_H
+
+#include <optional>
+#include <string_view>
+
+namespace ktqtbase {
+
+class ProfileResult;
+
+// What is asked for. Without a section the answer is the list of sections, without a key the list
+// of the section's keys.
+struct ProfileQuery
+{
+    std::optional<std::string_view> section;
+    std::optional<std::string_view> key;
+};
+
+class ProfileScanner
+{
+public:
+    // The text and the list must outlive the scanner.
+    ProfileScanner(std::string_view text, const ProfileQuery& query, ProfileResult& list);
+
+    // Walks to the wanted key or to the end, and fills the list where one is asked for.
+    // Result: the wanted key's value, or none.
+    std::optional<std::string_view> findValue();
+
+    // After the walk: whether the list is the answer, be it empty.
+    bool listed() const;
+
+private:
+    std::string_view takeLine();
+    std::size_t lineLength();
+    bool readHeader(std::string_view line);
+    void enterSection(std::string_view name);
+    std::optional<std::string_view> readKeyLine(std::string_view line);
+    bool isWantedKey(std::string_view name);
+
+    std::string_view m_rest;
+    const ProfileQuery m_query;
+    ProfileResult& m_list;
+    bool m_inSection = false;
+    bool m_keyListStopped = false;
+    bool m_lineFeedsLeft = true;
+};
+
+} // namespace ktqtbase
+
+#endif

@@ -1,0 +1,76 @@
+// SPDX-License-Identifier: MIT
+#include <KtQtBase/RegistryKey.h>
+
+#include <QtCore/QSettings>
+#include <QtCore/QString>
+#include <QtCore/QVariant>
+
+namespace {
+
+constexpr unsigned int kTooLong = 0xFFFFFFFF;
+
+// Up to the first NUL; null gives the empty string.
+QString toQString(const wchar_t* text)
+{
+    return QString::fromWCharArray(text);
+}
+
+// QSettings prints a warning about an empty name, and the library has no log.
+void store(QSettings& settings, const QString& name, const QString& value)
+{
+    if (!name.isEmpty())
+        settings.setValue(name, value);
+}
+
+QString stored(const QSettings& settings, const QString& name)
+{
+    return name.isEmpty() ? QString() : settings.value(name).toString();
+}
+
+} // namespace
+
+CRegKey::CRegKey()
+    : m_pSettings(
+          new QSettings(QSettings::NativeFormat, QSettings::UserScope, "tarnex", "Marrowfield"))
+{}
+
+CRegKey::~CRegKey()
+{
+    delete m_pSettings;
+    m_pSettings = nullptr;
+}
+
+unsigned int CRegKey::Create(HKEY, const wchar_t* lpszKeyName, wchar_t*, unsigned int, unsigned int,
+                             SECURITY_ATTRIBUTES*, unsigned int*)
+{
+    m_pKeyName = lpszKeyName;
+    return ERROR_SUCCESS;
+}
+
+unsigned int CRegKey::SetValue(const wchar_t* lpszValue, const wchar_t* lpszValueName, bool, int)
+{
+    m_pSettings->beginGroup(toQString(m_pKeyName));
+    store(*m_pSettings, toQString(lpszValueName), toQString(lpszValue));
+    m_pSettings->endGroup();
+    return ERROR_SUCCESS;
+}
+
+unsigned int CRegKey::QueryValue(wchar_t* szValue, const wchar_t* lpszValueName,
+                                 unsigned int* pnChars)
+{
+    m_pSettings->beginGroup(toQString(m_pKeyName));
+    const QString text = stored(*m_pSettings, toQString(lpszValueName));
+    const unsigned int room = pnChars ? *pnChars : 0;
+    // Kept: the group stays open, as the header promises.
+    if (static_cast<unsigned int>(text.size()) > room)
+        return kTooLong;
+    if (szValue)
+        text.toWCharArray(szValue);
+    m_pSettings->endGroup();
+    return ERROR_SUCCESS;
+}
+
+unsigned int CRegKey::Close()
+{
+    return ERROR_SUCCESS;
+}
