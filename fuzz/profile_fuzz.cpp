@@ -30,7 +30,7 @@ char* dataOf(std::optional<std::string>& text)
     return text ? text->data() : nullptr;
 }
 
-// A file of this process, rewritten for each input.
+// A file of this process, made anew for each input.
 std::string& fileName()
 {
     static std::string name = "profile_fuzz." + std::to_string(getpid()) + ".ini";
@@ -41,6 +41,8 @@ std::string& fileName()
 
 void writeFile(const std::string& bytes)
 {
+    // Some file systems hurry a file to the disk that is cut and written anew; not a new one.
+    std::remove(fileName().c_str());
     std::FILE* const file = std::fopen(fileName().c_str(), "wb");
     if (!file)
         std::abort();

@@ -31,13 +31,14 @@ void ProfileResult::assign(std::string_view text)
 
 void ProfileResult::addName(std::string_view name)
 {
-    if (m_listFull)
-        return;
     const std::size_t room = m_size - 1 - m_count;
-    m_listFull = room <= name.size() + 1;
-    append(m_listFull ? name.substr(0, room - 1) : name);
-    if (!m_listFull)
+    if (room > name.size() + 1) {
+        append(name);
         append("\t");
+        return;
+    }
+    // Leaves a room of one byte, which admits no later name, be it empty.
+    append(name.substr(0, room - 1));
 }
 
 void ProfileResult::stripQuotes()

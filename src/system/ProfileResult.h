@@ -36,7 +36,6 @@ private:
     char* m_area;
     std::size_t m_size;
     std::size_t m_count = 0;
-    bool m_listFull = false;
 };
 
 } // namespace ktqtbase

@@ -49,6 +49,8 @@ std::wstring ScratchProfile::wideName() const
 
 void ScratchProfile::rewrite(const std::string& bytes) const
 {
+    // Some file systems hurry a file to the disk that is cut and written anew; not a new one.
+    remove();
     std::ofstream(m_name, std::ios::binary) << bytes;
 }
 
