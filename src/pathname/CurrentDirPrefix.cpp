@@ -2,6 +2,8 @@
 #include <KtQtBase/PathName.h>
 #include <KtQtBase/windows/Files.h>
 
+#include "pathname/PathInternals.h"
+
 namespace {
 
 constexpr unsigned int kPathRoom = 1024;
@@ -11,12 +13,13 @@ constexpr unsigned int kPathRoom = 1024;
 bool ktuiSetCurrentDirPrefix()
 {
     wchar_t folder[kPathRoom];
-    if (GetCurrentDirectoryW(kPathRoom, folder) != 0) {
-        const int result = g_CurrentDirPrefix.ParseRelative(folder, nullptr, false);
-        g_CurrentDirPrefix.AppendSlash();
-        if (result == 0)
-            return true;
-    }
-    g_CurrentDirPrefix.Empty();
-    return false;
+    ktqtbase::EmptyUnlessFinished guard(g_CurrentDirPrefix);
+    if (GetCurrentDirectoryW(kPathRoom, folder) == 0)
+        return false;
+    const int result = g_CurrentDirPrefix.ParseRelative(folder, nullptr, false);
+    g_CurrentDirPrefix.AppendSlash();
+    if (result != 0)
+        return false;
+    guard.finished();
+    return true;
 }

@@ -17,7 +17,7 @@ constexpr std::size_t kDriveLength = 2;
 
 bool endsWithSeparator(const CRbUiPathname& name)
 {
-    return CRbUiPathname::GetLastCharacter(*name.m_pWork) == name.m_separator;
+    return !name.m_pWork->empty() && name.m_pWork->back() == name.m_separator;
 }
 
 int cutTo(CRbUiPathname& name, std::size_t length)

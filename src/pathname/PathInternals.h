@@ -44,7 +44,15 @@ inline std::size_t volumeNameLength(const CRbUiPathname& name)
     return localName ? localName->size() : 0;
 }
 
-// Empties a path name again unless what is being done to it was finished.
+// Whether a text lies in a string's own characters, which an edit of the string moves or
+// overwrites.
+inline bool liesIn(const CStdStr<wchar_t>& s, const wchar_t* text)
+{
+    const std::less_equal<const wchar_t*> notAfter;
+    return notAfter(s.data(), text) && notAfter(text, s.data() + s.size());
+}
+
+// Empties a path name that was begun and not finished, so that no host meets half of a name.
 class EmptyUnlessFinished
 {
 public:
@@ -62,14 +70,6 @@ public:
 private:
     CRbUiPathname* m_name;
 };
-
-// Whether a text lies in a string's own characters, which an edit of the string moves or
-// overwrites.
-inline bool liesIn(const CStdStr<wchar_t>& s, const wchar_t* text)
-{
-    const std::less_equal<const wchar_t*> notAfter;
-    return notAfter(s.data(), text) && notAfter(text, s.data() + s.size());
-}
 
 } // namespace ktqtbase
 

@@ -55,24 +55,50 @@ int roomForStem(std::size_t folder, std::size_t extension)
     return limit - static_cast<int>(extension) - 6;
 }
 
-void writeRandomDigits(WideText& work, std::size_t position)
+// Cuts the last component off and appends its stem, the place of the digits, and its extension.
+//   digits    out: where the digits stand, counted from the end
+// Result: false where the folder leaves no room.
+bool appendCandidate(CRbUiPathname& name, std::size_t& digits)
+{
+    WideText stem;
+    name.GetFilename(stem);
+    if (stem.empty())
+        stem = L"ktTmp";
+    WideText extension;
+    name.GetExtension(extension);
+    keepFolder(name);
+    const int room = roomForStem(name.m_pWork->size(), extension.size());
+    if (room < 1)
+        return false;
+
+    stem.resize(std::min(stem.size(), static_cast<std::size_t>(room)));
+    stem.append(kDigits, kZero);
+    if (!extension.empty())
+        stem.append(1, kPeriod).append(extension);
+    name.Append(stem.c_str());
+    // The place of a dot is counted also where there is none.
+    digits = kDigits + 1 + extension.size();
+    return true;
+}
+
+void writeRandomDigits(WideText& work, std::size_t digits)
 {
     int number = std::rand() % 100000;
+    // A name of type 5 was neither cut nor appended to, and may be shorter than the digits.
+    if (work.size() < digits)
+        return;
+    const std::size_t position = work.size() - digits;
     for (std::size_t i = kDigits; i-- > 0; number /= 10)
         work[position + i] = static_cast<wchar_t>(kZero + number % 10);
 }
 
 // Tries random digits until nothing has the name. Result: false where all tries were used up.
-bool findFreeDigits(CRbUiPathname& name, std::size_t position)
+bool findFreeDigits(CRbUiPathname& name, std::size_t digits)
 {
     for (int tries = 0; tries < kTries; ++tries) {
-        writeRandomDigits(*name.m_pWork, position);
-        if (canBeLookedUp(name.m_type)) {
-            if (isFree(name))
-                return true;
-        } else if (name.m_type != static_cast<path_type>(kTypeKnownToExist)) {
+        writeRandomDigits(*name.m_pWork, digits);
+        if (isUsable(name))
             return true;
-        }
     }
     return false;
 }
@@ -89,30 +115,12 @@ bool CRbUiPathname::GetUniqueName(CRbUiPathname& result, bool force) const
         return self.GetUniqueName(result, force);
     }
     result.AssignCopy(*this);
-    if (!result.m_pWork || (!force && isUsable(result)))
-        return true;
-
-    WideText stem;
-    result.GetFilename(stem);
-    if (stem.empty())
-        stem = L"ktTmp";
-    WideText extension;
-    result.GetExtension(extension);
-    keepFolder(result);
-    const int room = roomForStem(result.m_pWork->size(), extension.size());
-    if (room < 1) {
-        result.Empty();
+    ktqtbase::EmptyUnlessFinished guard(result);
+    const bool isAnswer = !result.m_pWork || (!force && isUsable(result));
+    std::size_t digits = 0;
+    if (!isAnswer && !appendCandidate(result, digits))
         return false;
-    }
-
-    stem.resize(std::min(stem.size(), static_cast<std::size_t>(room)));
-    stem.append(kDigits, kZero);
-    if (!extension.empty())
-        stem.append(1, kPeriod).append(extension);
-    result.Append(stem.c_str());
-    // The place of a dot is taken off also where there is none.
-    const std::size_t digits = result.m_pWork->size() - (extension.size() + 1) - kDigits;
-    if (!findFreeDigits(result, digits))
-        result.Empty();
+    if (isAnswer || findFreeDigits(result, digits))
+        guard.finished();
     return true;
 }

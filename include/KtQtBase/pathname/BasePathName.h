@@ -232,7 +232,8 @@ public:
     void RemoveSpaces();
 
     // Whether the name exists now. Works m_type out again, unless it is a wildcard or unparsed:
-    // these give false without a look at the file system.
+    // these give false without a look at the file system. A host's type 5 gives true without one. A
+    // wildcard that an edit has made counts as not found until now: it becomes one, and gives true.
     bool Exists();
 
     // A form of the work string for people, cut in the middle to a width.
@@ -276,7 +277,9 @@ public:
     //             virtual AssignCopy; it may be this object.
     //   force     in: whether to make a new name in any case
     // Result: false where nothing is parsed (result untouched) or the folder's name leaves no room
-    // (result emptied); else true. After 200 taken names result is empty, and the result is true.
+    // (result emptied); else true. After 200 taken names result is empty, and the result is true;
+    // a host's type 5, which is never looked at, ends so too.
+    // An exception leaves result unparsed.
     //   existing report.txt => report01234.txt     existing data => dat012340
     // Kept: without an extension the digits stand one place early; hosts parse such names back.
     bool GetUniqueName(CRbUiPathname& result, bool force) const;
