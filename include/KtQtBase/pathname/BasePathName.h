@@ -243,6 +243,7 @@ public:
     //   C:/aa/bb/cc/dd/file, 14, volume C:  => C:\.../dd/file, where that fits, else file
     //   a base name of 30 with .txt, 12     => its first 7 characters, ~.txt
     //   a base name of 30 with ten of extension, 12  => its first 10 characters, ~
+    //   /abc/12345678, 12                   => ..., since four places count beside the tail
     // A drive without a volume counts a volume name of length 0. Where no component fits behind
     // the dots, nothing follows them.
     // Kept: the backslash before the dots, whatever the separator; hosts show it as Windows does.
