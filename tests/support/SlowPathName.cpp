@@ -1,1 +1,293 @@
 // SPDX-License-Identifier: MIT
+#include "support/SlowPathName.h"
+
+#include <vector>
+
+namespace {
+
+using slow::Name;
+
+int lengthOf(const std::wstring& text)
+{
+    return static_cast<int>(text.size());
+}
+
+wchar_t at(const std::wstring& text, int index)
+{
+    return text[static_cast<std::size_t>(index)];
+}
+
+std::wstring firstOf(const std::wstring& text, int count)
+{
+    std::wstring first;
+    for (int i = 0; i < count; ++i)
+        first += at(text, i);
+    return first;
+}
+
+std::wstring from(const std::wstring& text, int index)
+{
+    std::wstring rest;
+    for (int i = index; i < lengthOf(text); ++i)
+        rest += at(text, i);
+    return rest;
+}
+
+int lastIndex(const std::wstring& text, wchar_t ch)
+{
+    int found = -1;
+    for (int i = 0; i < lengthOf(text); ++i) {
+        if (at(text, i) == ch)
+            found = i;
+    }
+    return found;
+}
+
+int firstIndex(const std::wstring& text, wchar_t ch)
+{
+    for (int i = 0; i < lengthOf(text); ++i) {
+        if (at(text, i) == ch)
+            return i;
+    }
+    return -1;
+}
+
+bool endsWithSlash(const std::wstring& text)
+{
+    return !text.empty() && at(text, lengthOf(text) - 1) == L'/';
+}
+
+bool isLetter(wchar_t ch)
+{
+    return (ch >= L'a' && ch <= L'z') || (ch >= L'A' && ch <= L'Z');
+}
+
+wchar_t lower(wchar_t ch)
+{
+    return ch >= L'A' && ch <= L'Z' ? static_cast<wchar_t>(ch - L'A' + L'a') : ch;
+}
+
+wchar_t upper(wchar_t ch)
+{
+    return ch >= L'a' && ch <= L'z' ? static_cast<wchar_t>(ch - L'a' + L'A') : ch;
+}
+
+std::wstring lowered(const std::wstring& text)
+{
+    std::wstring result;
+    for (wchar_t ch : text)
+        result += lower(ch);
+    return result;
+}
+
+bool beginsWithDrive(const std::wstring& text)
+{
+    return lengthOf(text) >= 2 && at(text, 1) == L':' && isLetter(at(text, 0));
+}
+
+std::wstring baseOf(const Name& name)
+{
+    const int slash = lastIndex(name.work, L'/');
+    return from(name.work, (slash != -1 ? slash : lastIndex(name.work, L':')) + 1);
+}
+
+std::wstring extensionOf(const Name& name)
+{
+    const std::wstring base = baseOf(name);
+    const int dot = lastIndex(base, L'.');
+    return dot == -1 ? L"" : from(base, dot + 1);
+}
+
+int cut(Name& name, int length)
+{
+    name.work = firstOf(name.work, length);
+    name.type = slow::NotFound;
+    return 0;
+}
+
+int cutDrive(Name& name, int length)
+{
+    cut(name, length);
+    if (length == 2)
+        name.work += L'/';
+    return 0;
+}
+
+// What becomes of a name that takes over its prefix.
+void takePrefix(Name& parent)
+{
+    parent.work = *parent.prefix;
+    parent.prefix.reset();
+    if (parent.work.empty()) {
+        parent.raised = true;
+    } else if (at(parent.work, 0) == L'/') {
+        const bool doubled = lengthOf(parent.work) > 1 && at(parent.work, 1) == L'/';
+        parent.category = doubled ? slow::Unc : slow::Rooted;
+    } else if (beginsWithDrive(parent.work)) {
+        parent.category = slow::Drive;
+        parent.work[0] = upper(parent.work[0]);
+    }
+}
+
+std::wstring shortenedBase(const Name& name, int width)
+{
+    const std::wstring base = baseOf(name);
+    const std::wstring extension = extensionOf(name);
+    const int e = lengthOf(extension);
+    if (e == 0 || width < e + 3)
+        return firstOf(base, width - 2) + L"~";
+    return firstOf(base, width - 2 - e) + L"~." + extension;
+}
+
+std::wstring tail(const std::wstring& work, int prefix, int width)
+{
+    std::wstring rest = from(work, prefix);
+    while (!rest.empty() && lengthOf(rest) + prefix + 4 > width) {
+        rest = from(rest, 1);
+        while (!rest.empty() && at(rest, 0) != L'/')
+            rest = from(rest, 1);
+    }
+    return rest;
+}
+
+} // namespace
+
+int slow::trimSlash(Name& name)
+{
+    if (!endsWithSlash(name.work))
+        return 0;
+    if (name.category > Relative)
+        return 4;
+    const int length = lengthOf(name.work) - 1;
+    if (name.category == Drive && length == 2)
+        return 3;
+    if (name.category == Unc && length <= name.volumeLength)
+        return 3;
+    if (name.category == Rooted && length == 0)
+        return 3;
+    return cut(name, length);
+}
+
+int slow::trim(Name& name)
+{
+    if (endsWithSlash(name.work))
+        return 0;
+    if (name.category > Relative)
+        return 4;
+    const int slash = lastIndex(name.work, L'/');
+    if (name.category == Drive) {
+        const int place = slash != -1 ? slash : firstIndex(name.work, L':');
+        return place == -1 ? 4 : cutDrive(name, place + 1);
+    }
+    if (slash == -1)
+        return name.category == Relative ? 3 : 4;
+    if (name.category == Unc && slash < name.volumeLength)
+        return 3;
+    return cut(name, slash + 1);
+}
+
+int slow::trimComponent(Name& name)
+{
+    if (name.category > Relative)
+        return 4;
+    const int slash = lastIndex(name.work, L'/');
+    if (name.category == Drive)
+        return cutDrive(name, slash != -1 ? slash : firstIndex(name.work, L':') + 1);
+    if (slash == -1)
+        return name.category == Relative ? 3 : 4;
+    if (name.category == Unc && slash < name.volumeLength)
+        return 3;
+    return cut(name, name.category == Rooted && slash == 0 ? 1 : slash);
+}
+
+Name slow::parentOf(const Name& name)
+{
+    Name parent = name;
+    parent.type = Directory;
+    if (endsWithSlash(parent.work))
+        trimSlash(parent);
+    int place = lastIndex(parent.work, L'/');
+    if (place == -1)
+        place = lastIndex(parent.work, L':');
+    if (place != -1)
+        parent.work = firstOf(parent.work, place + 1);
+    else if (parent.prefix)
+        takePrefix(parent);
+    else
+        parent.type = None;
+    return parent;
+}
+
+bool slow::hasExtensionOf(const Name& name, const std::wstring& list)
+{
+    const std::wstring extension = lowered(extensionOf(name));
+    if (list.empty() || extension.empty())
+        return list.empty() && extension.empty();
+    std::vector<std::wstring> items(1);
+    for (wchar_t ch : list) {
+        if (ch == L';')
+            items.emplace_back();
+        else
+            items.back() += lower(ch);
+    }
+    for (const std::wstring& item : items) {
+        if (item == extension)
+            return true;
+    }
+    return false;
+}
+
+std::wstring slow::displayName(const Name& name, int width)
+{
+    const int w = width < 12 ? 12 : width;
+    if (width == -1 || w >= lengthOf(name.work))
+        return name.work;
+    const std::wstring base = baseOf(name);
+    if (w < lengthOf(base))
+        return shortenedBase(name, w);
+    if (name.category > Relative)
+        return L"";
+    if (name.category == Rooted || name.category == Relative)
+        return w >= lengthOf(base) + 4 ? L"..." + tail(name.work, 0, w) : base;
+    const int v = name.volumeLength;
+    if (w < lengthOf(base) + v + 5)
+        return base;
+    return firstOf(name.work, v) + L"\\..." + tail(name.work, v, w);
+}
+
+std::wstring slow::fullPath(const Name& name)
+{
+    if (name.category == Rooted || !name.prefix)
+        return name.work;
+    return *name.prefix + (endsWithSlash(*name.prefix) ? L"" : L"/") + name.work;
+}
+
+bool slow::matches(std::wstring path, std::wstring text)
+{
+    if (beginsWithDrive(text))
+        text[0] = upper(text[0]);
+    if (endsWithSlash(path) && !endsWithSlash(text))
+        text += L'/';
+    else if (endsWithSlash(text) && !endsWithSlash(path))
+        path += L'/';
+    return lowered(path) == lowered(text);
+}
+
+bool slow::isValidFilename(const std::wstring& name, bool allowWildcards)
+{
+    if (lengthOf(name) > 1023)
+        return false;
+    const int colon = lastIndex(name, L':');
+    if (colon != -1 && (colon != 1 || !isLetter(at(name, 0))))
+        return false;
+    for (int i = 1; i + 1 < lengthOf(name); ++i) {
+        if (at(name, i) == L'\\' && at(name, i + 1) == L'\\')
+            return false;
+    }
+    const std::wstring forbidden = allowWildcards ? L"<>|/\"" : L"*<>?|/\"";
+    for (wchar_t ch : name) {
+        if (firstIndex(forbidden, ch) != -1)
+            return false;
+    }
+    return true;
+}

@@ -235,10 +235,11 @@ TEST(GetUniqueName, CutsTheStemToTheRoomThatIsLeft)
         answerRand(7);
         CRbUiPathname result;
         EXPECT_EQ(name.GetUniqueName(result, true), row.unique != nullptr);
-        if (row.unique)
+        if (row.unique) {
             EXPECT_EQ(workOf(result), before + row.unique);
-        else
+        } else {
             expectUnparsed(result);
+        }
     }
 }
 

@@ -1,0 +1,62 @@
+// SPDX-License-Identifier: MIT
+//
+// A second reading of what path names do, for tests to compare with: plain values, one character at
+// a time, nothing shared with the library. Letters are those of ASCII.
+#ifndef KTQTBASE_TESTS_SUPPORT_SLOWPATHNAME_H
+#define KTQTBASE_TESTS_SUPPORT_SLOWPATHNAME_H
+
+#include <optional>
+#include <string>
+
+namespace slow {
+
+// The values of the library's categories and types.
+enum Category
+{
+    Drive,
+    Unc,
+    Rooted,
+    Relative
+};
+enum Type
+{
+    None,
+    NotFound,
+    Wildcard,
+    File,
+    Directory
+};
+
+// A parsed name whose separator is the slash.
+struct Name
+{
+    int category = Relative;
+    std::wstring work;
+    std::optional<std::wstring> prefix;
+    int type = File;
+    int volumeLength = 0; // of its volume's local name
+    bool raised = false;  // in place of std::out_of_range
+};
+
+// The edits. Result: the result code.
+int trimSlash(Name& name);
+int trim(Name& name);
+int trimComponent(Name& name);
+
+Name parentOf(const Name& name);
+
+bool hasExtensionOf(const Name& name, const std::wstring& list);
+
+std::wstring displayName(const Name& name, int width);
+
+std::wstring fullPath(const Name& name);
+
+// Whether a full path and a text name the same place.
+bool matches(std::wstring path, std::wstring text);
+
+// The rules for whole names of a volume with backslashes and the limit 1023.
+bool isValidFilename(const std::wstring& name, bool allowWildcards);
+
+} // namespace slow
+
+#endif
