@@ -65,13 +65,80 @@ Answer volume(const CRbUiPathname& name)
     return name.m_pVolume ? copyOf(name.m_pVolume->GetLocalName()) : std::nullopt;
 }
 
+Answer yesOrNo(bool yes)
+{
+    return yes ? L"yes" : L"no";
+}
+
+Answer parent(const CRnUiPathname& name)
+{
+    CRnUiPathname folder;
+    name.GetParent(folder);
+    return copyOf(folder.m_pWork);
+}
+
+Answer withExtension(const CRnUiPathname& name, const std::wstring& list)
+{
+    CRnUiPathname copy(name);
+    copy.ReplaceExtensionIfNoMatch(list.c_str());
+    return copyOf(copy.m_pWork);
+}
+
+Answer display(const CRnUiPathname& name, int width)
+{
+    CStdStr<wchar_t> shown;
+    name.GetDisplayName(shown, width);
+    return shown;
+}
+
+Answer match(const CRnUiPathname& name, const std::wstring& text)
+{
+    CRnUiPathname other;
+    other.Parse(text.c_str(), false);
+    return yesOrNo(name.PathMatch(&other));
+}
+
+Answer unique(const CRnUiPathname& name)
+{
+    CRnUiPathname result;
+    name.GetUniqueName(result, false);
+    return copyOf(result.m_pWork);
+}
+
+// Asks the rules of the name's own volume, or of the first one for a name that is on none.
+Answer validity(const CRnUiPathname& name, const std::wstring& text)
+{
+    CStdStr<wchar_t> plain(text);
+    CRbUiPathname::Unquote(plain);
+    plain.TrimLeft().TrimRight();
+    const CRbUiVolumeDescriptor* rules = name.m_pVolume ? name.m_pVolume : volumeList.first();
+    return yesOrNo(rules->ValidateFilename(&plain, name.m_type == PT_WILDCARD));
+}
+
+// The answers that only a parsed name has.
+void addAnswers(Row& row, CRnUiPathname& name, const Questions& questions)
+{
+    const bool parsed = name.m_type != PT_NONE;
+    const auto add = [&row, parsed](const char* heading, bool asked, auto answer) {
+        if (asked)
+            row.push_back({heading, parsed ? answer() : Answer()});
+    };
+    add("parent", questions.parent, [&] { return parent(name); });
+    add("with extension", questions.extensions.has_value(),
+        [&] { return withExtension(name, *questions.extensions); });
+    add("display", questions.width.has_value(), [&] { return display(name, *questions.width); });
+    add("match", questions.match.has_value(), [&] { return match(name, *questions.match); });
+    add("unique", questions.unique, [&] { return unique(name); });
+    add("status", questions.status, [&] { return Answer(std::to_wstring(name.Status())); });
+}
+
 } // namespace
 
-Row describe(const std::wstring& text)
+Row describe(const std::wstring& text, const Questions& questions)
 {
-    CRbUiPathname name;
+    CRnUiPathname name;
     const bool parsed = name.Parse(text.c_str(), false) == 0;
-    return {
+    Row row = {
         {"name", text},
         {"category", parsed ? Answer(categoryName(name.m_category)) : std::nullopt},
         {"type", typeName(name.m_type)},
@@ -83,4 +150,17 @@ Row describe(const std::wstring& text)
         {"file name", ask(name, &CRbUiPathname::GetFilename)},
         {"extension", ask(name, &CRbUiPathname::GetExtension)},
     };
+    addAnswers(row, name, questions);
+    if (questions.validate)
+        row.push_back({"valid", validity(name, text)});
+    return row;
+}
+
+const Cell* findCell(const Row& row, const std::string& heading)
+{
+    for (const Cell& cell : row) {
+        if (cell.heading == heading)
+            return &cell;
+    }
+    return nullptr;
 }

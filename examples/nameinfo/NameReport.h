@@ -15,7 +15,22 @@ struct Cell
 
 using Row = std::vector<Cell>;
 
+// What is asked beside the parts of a name; each adds a column.
+struct Questions
+{
+    bool parent = false;                    // the folder that holds it
+    std::optional<std::wstring> extensions; // the name with an extension of this list
+    std::optional<int> width;               // the name cut to so many characters
+    std::optional<std::wstring> match;      // whether it denotes the same path as this one
+    bool unique = false;                    // a name in its folder that is free
+    bool status = false;                    // what may be done with it
+    bool validate = false;                  // whether its volume takes it
+};
+
 // What the library makes of a name, as one row.
-Row describe(const std::wstring& text);
+Row describe(const std::wstring& text, const Questions& questions);
+
+// Result: the cell of a heading, or null.
+const Cell* findCell(const Row& row, const std::string& heading);
 
 #endif

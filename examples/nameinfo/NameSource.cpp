@@ -8,10 +8,7 @@
 #include <fstream>
 #include <iostream>
 
-namespace {
-
-// Decodes UTF-8. Result: false where the bytes are none, or hold a NUL.
-bool decode(const std::string& bytes, std::wstring& text)
+bool decodeUtf8(const std::string& bytes, std::wstring& text)
 {
     if (bytes.find('\0') != bytes.npos)
         return false;
@@ -22,12 +19,10 @@ bool decode(const std::string& bytes, std::wstring& text)
     return state.invalidChars == 0 && state.remainingChars == 0;
 }
 
-} // namespace
-
 void NameSource::add(const std::string& bytes, const std::string& place)
 {
     std::wstring text;
-    if (decode(bytes, text))
+    if (decodeUtf8(bytes, text))
         names.push_back(text);
     else
         errors.push_back(place + ": not UTF-8 text");

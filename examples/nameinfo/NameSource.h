@@ -6,6 +6,9 @@
 #include <string>
 #include <vector>
 
+// Decodes UTF-8. Result: false where the bytes are none, or hold a NUL.
+bool decodeUtf8(const std::string& bytes, std::wstring& text);
+
 // Names as they were given, and what was wrong with the others.
 struct NameSource
 {

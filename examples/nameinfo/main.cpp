@@ -1,20 +1,31 @@
 // SPDX-License-Identifier: MIT
 //
 // Shows what the library makes of file names as a Windows program writes them.
-#include "HostVolume.h"
-#include "NameReport.h"
-#include "NameSource.h"
+#include "Arguments.h"
 #include "ReportPrinter.h"
 
-#include <algorithm>
+#include <KtQtBase/PathName.h>
+#include <KtQtBase/VolumeDescriptor.h>
+
 #include <clocale>
 #include <iostream>
 
 namespace {
 
 const char* const kUsage =
-    "Usage: nameinfo [--json] NAME...\n"
-    "       nameinfo [--json] --list FILE    a name a line; - is standard input\n";
+    "Usage: nameinfo [OPTION...] [--] NAME...\n"
+    "       nameinfo [OPTION...] --list FILE    a name a line; - is standard input\n"
+    "\n"
+    "  --json              print JSON instead of a table\n"
+    "  --columns A,B,...   print these columns only\n"
+    "Each of these adds a column:\n"
+    "  --parent            the folder that holds the name\n"
+    "  --extension LIST    the name with an extension of a list such as \"txt;docx\"\n"
+    "  --width N           the name cut to N characters for display; -1 for all of it\n"
+    "  --match OTHER       whether the name denotes the same path as OTHER\n"
+    "  --unique            the name, or where it is taken a free one beside it\n"
+    "  --status            the sum of 1 exists, 2 readable, 4 writable, 8 folder writable\n"
+    "  --validate          whether an NTFS volume takes the name\n";
 
 constexpr int kBadInput = 2;
 
@@ -25,31 +36,25 @@ void useUtf8()
         std::setlocale(LC_CTYPE, "C.UTF-8");
 }
 
-struct Arguments
+// What a ported application does before it parses names: it tells the library which drives there
+// are, and where relative names lie.
+void setUpNames()
 {
-    NameSource source;
-    bool json = false;
-    bool understood = false;
-};
+    // The library owns its list's descriptors and deletes them when it is unloaded.
+    for (const wchar_t* drive : {L"C:", L"D:"})
+        volumeList.append(new CRbUiNTFSVolumeDescriptor(CStdStr<wchar_t>(drive)));
+    ktuiSetCurrentDirPrefix();
+}
 
-Arguments readArguments(int count, char** values)
+Row answersFor(const std::wstring& name, const Arguments& arguments)
 {
-    Arguments arguments;
-    for (int i = 1; i < count; ++i) {
-        const std::string value = values[i];
-        if (value == "--json") {
-            arguments.json = true;
-            continue;
-        }
-        arguments.understood = true;
-        if (value == "--list" && i + 1 < count)
-            arguments.source.addFile(values[++i]);
-        else if (value == "--list")
-            return {};
-        else
-            arguments.source.add(value, "argument " + std::to_string(i));
-    }
-    return arguments;
+    const Row row = describe(name, arguments.questions);
+    if (arguments.columns.empty())
+        return row;
+    Row picked;
+    for (const std::string& heading : arguments.columns)
+        picked.push_back(*findCell(row, heading));
+    return picked;
 }
 
 } // namespace
@@ -57,19 +62,19 @@ Arguments readArguments(int count, char** values)
 int main(int argc, char** argv)
 {
     useUtf8();
-    const Arguments arguments = readArguments(argc, argv);
-    if (!arguments.understood) {
+    setUpNames();
+    const std::optional<Arguments> arguments = readArguments(argc, argv);
+    if (!arguments) {
         std::cerr << kUsage;
         return kBadInput;
     }
 
-    addHostVolumes();
     std::vector<Row> rows;
-    const std::vector<std::wstring>& names = arguments.source.names;
-    std::transform(names.begin(), names.end(), std::back_inserter(rows), describe);
-    (arguments.json ? printJson : printTable)(std::cout, rows);
+    for (const std::wstring& name : arguments->source.names)
+        rows.push_back(answersFor(name, *arguments));
+    (arguments->json ? printJson : printTable)(std::cout, rows);
 
-    for (const std::string& error : arguments.source.errors)
+    for (const std::string& error : arguments->source.errors)
         std::cerr << "nameinfo: " << error << '\n';
-    return arguments.source.errors.empty() ? 0 : kBadInput;
+    return arguments->source.errors.empty() ? 0 : kBadInput;
 }

@@ -17,9 +17,9 @@ using testing::HasSubstr;
 
 namespace {
 
-QJsonArray answersFor(const QStringList& names)
+QJsonArray answersFor(const QStringList& arguments)
 {
-    const ProgramResult result = runProgram(NAMEINFO, QStringList{"--json"} + names);
+    const ProgramResult result = runProgram(NAMEINFO, QStringList{"--json"} + arguments);
     EXPECT_EQ(result.status, 0) << result.err;
     return QJsonDocument::fromJson(QByteArray::fromStdString(result.out)).array();
 }
@@ -30,6 +30,27 @@ QString writeList(const QTemporaryDir& folder, const QByteArray& bytes)
     EXPECT_TRUE(file.open(QIODevice::WriteOnly));
     file.write(bytes);
     return file.fileName();
+}
+
+// The only answer in a column, for one name.
+QString answerFor(const QStringList& arguments, const char* heading)
+{
+    return answersFor(arguments).at(0).toObject()[heading].toString("none");
+}
+
+struct AnswerRow
+{
+    QStringList arguments;
+    const char* heading;
+    const char* answer;
+};
+
+void expectAnswers(const std::vector<AnswerRow>& rows)
+{
+    for (const AnswerRow& row : rows) {
+        SCOPED_TRACE(row.arguments.join(' ').toStdString());
+        EXPECT_EQ(answerFor(row.arguments, row.heading).toStdString(), row.answer);
+    }
 }
 
 long lineCount(const std::string& text)
@@ -129,9 +150,130 @@ TEST(Nameinfo, RefusesANulByte)
 
 TEST(Nameinfo, ShowsItsUsageWithoutANameOrAListFile)
 {
-    for (const QStringList& arguments : {QStringList(), QStringList{"--list"}}) {
+    for (const QStringList& arguments :
+         {QStringList(), QStringList{"--list"}, QStringList{"--"}, QStringList{"--json"}}) {
+        SCOPED_TRACE(arguments.join(' ').toStdString());
         const ProgramResult result = runProgram(NAMEINFO, arguments);
         EXPECT_EQ(result.status, 2);
         EXPECT_THAT(result.err, HasSubstr("Usage: nameinfo"));
     }
+}
+
+TEST(Nameinfo, ShowsItsUsageForABadOption)
+{
+    for (const QStringList& arguments :
+         {QStringList{"--width", "ten", "/tmp"}, QStringList{"--width", "", "/tmp"},
+          QStringList{"--width", "12x", "/tmp"}, QStringList{"--width", "99999999999", "/tmp"},
+          QStringList{"/tmp", "--width"}, QStringList{"/tmp", "--extension"},
+          QStringList{"/tmp", "--match"}, QStringList{"/tmp", "--columns"},
+          QStringList{"--columns", "", "/tmp"}, QStringList{"--columns", "name,parent", "/tmp"},
+          QStringList{"--no-such-option", "/tmp"}}) {
+        SCOPED_TRACE(arguments.join(' ').toStdString());
+        const ProgramResult result = runProgram(NAMEINFO, arguments);
+        EXPECT_EQ(result.status, 2);
+        EXPECT_EQ(result.out, "");
+        EXPECT_THAT(result.err, HasSubstr("Usage: nameinfo"));
+    }
+}
+
+TEST(Nameinfo, TakesEverythingBehindTwoDashesForANameToo)
+{
+    EXPECT_EQ(answerFor({"--", "--width"}, "work string"), "--width");
+}
+
+TEST(Nameinfo, ShowsTheParent)
+{
+    expectAnswers({
+        {{"--parent", "C:\\dir\\f.txt"}, "parent", "C:/dir/"},
+        {{"--parent", "docs\\f.txt"}, "parent", "docs/"},
+        {{"--parent", "a:b:c"}, "parent", "none"},
+        {{"C:\\dir\\f.txt"}, "parent", "none"},
+    });
+    EXPECT_TRUE(answerFor({"--parent", "f.txt"}, "parent").endsWith("/nameinfo/"));
+}
+
+TEST(Nameinfo, ShowsANameWithAnExtensionOfTheList)
+{
+    expectAnswers({
+        {{"--extension", "txt;doc", "C:\\f.DOC"}, "with extension", "C:/f.DOC"},
+        {{"--extension", "txt;doc", "C:\\f.gif"}, "with extension", "C:/f.txt"},
+        {{"--extension", "", "C:\\f.gif"}, "with extension", "C:/f"},
+        {{"--extension", "txt", "a:b:c"}, "with extension", "none"},
+    });
+}
+
+TEST(Nameinfo, CutsANameForDisplay)
+{
+    expectAnswers({
+        {{"--width", "12", "aa\\bb\\cc\\dd\\file"}, "display", ".../dd/file"},
+        {{"--width", "14", "d:\\aa\\bb\\cc\\dd\\file"}, "display", "D:\\.../dd/file"},
+        {{"--width", "-1", "aa\\bb\\cc\\dd\\file"}, "display", "aa/bb/cc/dd/file"},
+        {{"--width", "12", "//"}, "display", "none"},
+    });
+}
+
+TEST(Nameinfo, ComparesWithAnotherName)
+{
+    expectAnswers({
+        {{"--match", "c:\\DIR\\", "C:\\dir"}, "match", "yes"},
+        {{"--match", "/dir", "C:\\dir"}, "match", "no"},
+        {{"--match", "a:b:c", "C:\\dir"}, "match", "no"},
+        {{"--match", "/dir", "a:b:c"}, "match", "none"},
+    });
+}
+
+TEST(Nameinfo, ShowsANameThatIsFree)
+{
+    const QTemporaryDir folder;
+    const QString taken = writeList(folder, "");
+    EXPECT_EQ(answerFor({"--unique", "/no/such/f.txt"}, "unique"), "/no/such/f.txt");
+    const std::string unique = answerFor({"--unique", taken}, "unique").toStdString();
+    EXPECT_THAT(unique, ContainsRegex("/list[0-9][0-9][0-9][0-9][0-9].txt$"));
+}
+
+TEST(Nameinfo, ShowsTheStatus)
+{
+    const QTemporaryDir folder;
+    const QString file = writeList(folder, "");
+    QFile::setPermissions(file, QFile::ReadOwner | QFile::WriteOwner);
+    const QByteArray name = file.toUtf8();
+    expectAnswers({
+        {{"--status", name}, "status", "15"},
+        {{"--status", name + ".none"}, "status", "8"},
+        {{"--status", "/no/such/f.txt"}, "status", "0"},
+        {{"--status", "a:b:c"}, "status", "none"},
+    });
+}
+
+TEST(Nameinfo, ShowsWhetherTheVolumeTakesTheName)
+{
+    expectAnswers({
+        {{"--validate", " \"C:\\dir\\f.txt\" "}, "valid", "yes"},
+        {{"--validate", "C:\\dir\\*.txt"}, "valid", "yes"},
+        {{"--validate", "C:\\dir?\\f.txt"}, "valid", "no"},
+        {{"--validate", "C:\\dir\\\\f.txt"}, "valid", "no"},
+        {{"--validate", "C:/dir/f.txt"}, "valid", "no"},
+        {{"--validate", "report.txt"}, "valid", "yes"},
+        {{"--validate", "a:b:c"}, "valid", "no"},
+    });
+}
+
+TEST(Nameinfo, AddsItsColumnsToTheTable)
+{
+    const ProgramResult result = runProgram(
+        NAMEINFO, {"--validate", "--width", "12", "--columns", "display,valid,name", "x:", "a|b"});
+    EXPECT_EQ(result.status, 0);
+    EXPECT_EQ(result.out, "display  valid  name\n"
+                          "X:       yes    x:\n"
+                          "a|b      no     a|b\n");
+}
+
+TEST(Nameinfo, AnswersTheShortListOfTheDemo)
+{
+    const ProgramResult result =
+        runProgram(NAMEINFO, {"--parent", "--extension", "txt;docx;dwg", "--width", "20",
+                              "--unique", "--status", "--validate", "--list", SHORT_NAMES_LIST});
+    EXPECT_EQ(result.status, 0) << result.err;
+    EXPECT_THAT(result.out,
+                ContainsRegex("parent +with extension +display +unique +status +valid"));
 }
