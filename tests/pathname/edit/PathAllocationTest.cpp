@@ -345,7 +345,7 @@ TEST_F(PathAllocation, RenamesNoFileHalf)
 
 TEST_F(PathAllocation, KeepsTheTypeOfAFileThatCannotBeAskedFor)
 {
-    HandMadePath name(PC_ROOTED, L"/" + std::wstring(300, L'n'), PT_DIRECTORY);
+    HandMadePath name(PC_ROOTED, L"/" + std::wstring(600, L'n'), PT_DIRECTORY);
     int n = 1;
     while (failingnew::failsAt(n, [&] { name.Exists(); })) {
         EXPECT_EQ(name.m_type, PT_DIRECTORY);
