@@ -1,0 +1,110 @@
+// SPDX-License-Identifier: MIT
+//
+// A back and a front image for a widget: draw on the back one, copy it to the front one, show that.
+//
+//     buffer.createImages(width(), height(), 4);
+//     buffer.memPainter()->beginDraw();
+//     drawScene(*buffer.memPainter());
+//     buffer.memPainter()->endDraw();
+//     buffer.repairFrontBuffer();
+//     QPainter(this).drawImage(0, 0, *buffer.frontImage());
+//
+// A handler of resize events calls destroyImages before createImages: the widget has its new size
+// by then, and createImages would take the images at hand to be of that size.
+#ifndef KTQTBASE_DRAWING_DOUBLEBUFFERIMAGE_H
+#define KTQTBASE_DRAWING_DOUBLEBUFFERIMAGE_H
+
+#include <KtQtBase/Export.h>
+
+class KtQtPainterWrapper;
+class QImage;
+class QPalette;
+class QWidget;
+
+// Two images of 32-bit premultiplied ARGB, each with a wrapper to draw on it. Not copyable. No
+// operation is virtual, and the order of the fields is part of the interface.
+class KTQTBASE_EXPORT KtGrQtDoubleBufferImage
+{
+public:
+    // No images yet; two wrappers without a device, and a default palette.
+    //   destination    in: the widget that is served, not owned; may be null until its size matters
+    explicit KtGrQtDoubleBufferImage(QWidget* destination);
+
+    // Destroys the images, the wrappers and the palette. No painting on an image may be open.
+    ~KtGrQtDoubleBufferImage();
+
+    KtGrQtDoubleBufferImage(const KtGrQtDoubleBufferImage&) = delete;
+    KtGrQtDoubleBufferImage& operator=(const KtGrQtDoubleBufferImage&) = delete;
+
+    // ---- Images --------------------------------------------------------------------------------
+
+    // Makes both images, transparent black. Those there are stay where the widget's size is the one
+    // asked for, and are destroyed first where it is not.
+    //   width, height    in: pixels
+    //   bytesPerPixel    in: 4. It sizes the back image's buffer and rows and nothing else: below 4
+    //                    there is no back image (QImage::isNull), above 4 rows have a gap
+    // A negative argument, a size in bytes above 2^31 - 1 or memory that is refused leaves no
+    // images. Sizes of 0 give null images, and count as made.
+    // Kept: the widget's size is compared and not the images'; hosts call this before every paint
+    // at the size of the widget. Reads the widget only where images exist; it must not be null
+    // then.
+    void createImages(int width, int height, int bytesPerPixel);
+
+    // Takes the images away: the pointers to them, the back image's buffer and the wrappers'
+    // devices become null. Harmless without images. End every painting on them before.
+    void destroyImages();
+
+    // Paints the back image over the front one: where the back image is translucent the front one
+    // shines through. Does nothing without images. No painting on the front image may be open.
+    void repairFrontBuffer();
+
+    // Do nothing; draw between the wrappers' own beginDraw and endDraw.
+    // Result: true, with or without images.
+    bool beginDraw();
+    bool endDraw();
+
+    // Result: the wrapper of an image, never null; stays this object's. Its device is null while
+    // there are no images.
+    KtQtPainterWrapper* memPainter() const;
+    KtQtPainterWrapper* frontPainter() const;
+
+    // Result: an image, or null while there are none; valid until the images are destroyed.
+    QImage* memImage() const;
+    QImage* frontImage() const;
+
+    // Result: the back image's pixels, width times bytesPerPixel bytes a row from the top, each
+    // pixel 0xAARRGGBB premultiplied; null while there are no images. The caller may write them.
+    unsigned char* memBits() const;
+
+    // Result: null. Kept for hosts that look for a backup; none is made.
+    unsigned char* backupBits() const;
+
+    // Result: a palette of the application's colours, never null; stays this object's.
+    QPalette* getHPalette() const;
+
+    // ---- Widget --------------------------------------------------------------------------------
+
+    // Sets or gets the widget, which is not owned. Images stay as they are.
+    void setDestinationWidget(QWidget* destination);
+    QWidget* destinationWidget() const;
+
+    // Result: the widget's present width and height in pixels, and its colour depth in bits.
+    // Kept: the widget's and not the images'; hosts compare the two. The widget must not be null.
+    int width() const;
+    int height() const;
+    int depth() const;
+
+    // ---- Fields --------------------------------------------------------------------------------
+
+    unsigned char* m_pMemBits = nullptr; // from malloc; the back image's pixels
+    KtQtPainterWrapper* m_pMemPainter = nullptr;
+    QImage* m_pMemImage = nullptr;
+    KtQtPainterWrapper* m_pFrontPainter = nullptr;
+    QImage* m_pFrontImage = nullptr;
+    unsigned char* m_pBackupBits = nullptr;
+    QWidget* m_pDestWidget; // not owned
+    QPalette* m_pPalette = nullptr;
+    bool m_bCreated = false;
+};
+
+#endif

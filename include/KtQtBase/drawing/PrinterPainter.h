@@ -1,0 +1,47 @@
+// SPDX-License-Identifier: MIT
+//
+// The device context of a document: one painting that spans all pages.
+//
+//     QPdfWriter writer(fileName);
+//     {
+//         KtQtPrinterPainter painter(&writer);
+//         painter.beginDraw();
+//         drawFirstPage(painter);
+//         painter.endDraw();
+//         writer.newPage();
+//         painter.beginDraw();
+//         drawSecondPage(painter);
+//         painter.endDraw();
+//     } // here the document is finished
+#ifndef KTQTBASE_DRAWING_PRINTERPAINTER_H
+#define KTQTBASE_DRAWING_PRINTERPAINTER_H
+
+#include <KtQtBase/Export.h>
+#include <KtQtBase/drawing/Painter.h>
+
+// Draws as KtQtPainterWrapper does; only the session differs. Its beginDraw and endDraw hide those
+// of the base and are not virtual: call them on this class.
+class KTQTBASE_EXPORT KtQtPrinterPainter : public KtQtPainterWrapper
+{
+public:
+    // Starts painting on a device at once, until the object dies.
+    //   device    in: a printer or another device, which outlives this object; null never paints
+    // A device that refuses leaves the painter inactive, and Qt ignores what is drawn.
+    explicit KtQtPrinterPainter(QPaintDevice* device);
+
+    // Ends painting, which finishes the document. An exception that leaves Qt here ends the
+    // process.
+    ~KtQtPrinterPainter();
+
+    // Saves the painter's state and sets a solid black pen of width 0 and a solid black brush.
+    // Result: false without a device, else true.
+    // Kept: the stored clip is not applied; setClipRegion does that at once, since the painter is
+    // active all the time.
+    bool beginDraw();
+
+    // Takes the state from before beginDraw back. Painting goes on.
+    // Result: false without a device, else true.
+    bool endDraw();
+};
+
+#endif
