@@ -123,7 +123,7 @@ public:
     QBrush getBrush() const;
 
     // Says whether gaps of dashes, patterns and text are filled with the background.
-    //   mode    in: TRANSPARENT (1) or OPAQUE (2); Qt refuses any other
+    //   mode    in: TRANSPARENT (1) or OPAQUE (2)
     void setBkMode(int mode);
 
     // Result: 0 transparent, 1 opaque.

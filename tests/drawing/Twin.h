@@ -1,0 +1,43 @@
+// SPDX-License-Identifier: MIT
+//
+// One picture made twice: through the wrapper, and by plain QPainter calls on a second image.
+//
+//     EXPECT_TRUE(drawsLike([](KtQtPainterWrapper& p) { p.drawPoint(3, 4); },
+//                           [](QPainter& p) { p.drawPoint(3, 4); }));
+#ifndef KTQTBASE_TESTS_DRAWING_TWIN_H
+#define KTQTBASE_TESTS_DRAWING_TWIN_H
+
+#include "support/ImageComparison.h"
+
+#include <KtQtBase/PainterWrapper.h>
+
+#include <QtGui/QImage>
+#include <QtGui/QPainter>
+
+#include <functional>
+
+namespace drawing {
+
+constexpr QImage::Format kScreen = QImage::Format_ARGB32_Premultiplied;
+
+using WrapperCalls = std::function<void(KtQtPainterWrapper&)>;
+using PlainCalls = std::function<void(QPainter&)>;
+
+// A picture of many translucent colours, so that whatever is painted over it shows.
+QImage ground(QImage::Format format = kScreen, QSize size = QSize(96, 96));
+
+// Begins painting as the wrapper does: a black one-pixel pen and a black brush.
+void beginPlain(QPainter& painter, QImage& image);
+
+// Success where both make the same picture and it is not the mere ground. The wrapper's calls run
+// between its beginDraw and endDraw.
+::testing::AssertionResult drawsLike(const WrapperCalls& calls, const PlainCalls& plainCalls,
+                                     QImage::Format format = kScreen);
+
+// Removes clipping as it has to be done with Qt 5.15, where Qt::NoClip alone leaves the pen and the
+// brush that were used under the clip with a clip that is freed.
+void removeClip(QPainter& painter);
+
+} // namespace drawing
+
+#endif
