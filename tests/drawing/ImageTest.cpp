@@ -17,7 +17,6 @@ struct FormatRow
 
 // The numbers stand here because hosts pass numbers.
 const FormatRow kFormats[] = {
-    {"mono", QImage::Format_Mono, 1, 1},
     {"rgb32", QImage::Format_RGB32, 4, 32},
     {"argb32", QImage::Format_ARGB32, 5, 32},
     {"argb32 premultiplied", QImage::Format_ARGB32_Premultiplied, 6, 32},

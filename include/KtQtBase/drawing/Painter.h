@@ -169,6 +169,8 @@ public:
     // Clips at once, in this session only; the stored clip stays.
     //   rect         in: Qt's inclusive rectangle, in the painter's coordinates
     //   operation    in: how it joins the clip that is set; Qt::NoClip removes clipping
+    // Give an empty rectangle with Qt::NoClip: to any other one Qt still cuts text that has an
+    // opaque background.
     void setClipRect(const QRect& rect, Qt::ClipOperation operation);
 
     // Stores a clip of polygons, which replaces the one there is: at once while painting, and at
@@ -253,7 +255,7 @@ public:
     //   x, y            in: where, and also the width and height of the pixels
     //   bits            in: rows from the top, each padded to 32 bits; not copied, not freed
     //   fourth, fifth   ignored
-    //   format          in: a QImage::Format of the pixels
+    //   format          in: a QImage::Format of the pixels, one that needs no colour table
     // Kept: the place is the size; hosts pass sizes first.
     //   drawImage(64, 32, bits, 100, 200, 6)    => 64 by 32 pixels, placed at (64, 32)
     void drawImage(int x, int y, unsigned char* bits, int, int, int format);
