@@ -1,0 +1,32 @@
+// SPDX-License-Identifier: MIT
+//
+// Counts what the whole process takes from malloc while it lives.
+//
+//     AllocationCounter counter;
+//     call();
+//     EXPECT_EQ(counter.count(), 0);
+//
+// Link AllocationCounter.cpp into the test program, or AllocationCounterSanitizer.cpp where it is
+// built with AddressSanitizer, which has a malloc of its own.
+#ifndef KTQTBASE_TESTS_SUPPORT_ALLOCATIONCOUNTER_H
+#define KTQTBASE_TESTS_SUPPORT_ALLOCATIONCOUNTER_H
+
+namespace support {
+
+class AllocationCounter
+{
+public:
+    AllocationCounter() : m_start(total()) {}
+
+    // Calls of malloc, calloc and realloc since this object was made.
+    long count() const { return total() - m_start; }
+
+private:
+    static long total();
+
+    long m_start;
+};
+
+} // namespace support
+
+#endif

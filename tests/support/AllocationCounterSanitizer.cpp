@@ -1,0 +1,30 @@
+// SPDX-License-Identifier: MIT
+#include "support/AllocationCounter.h"
+
+#include <atomic>
+#include <cstddef>
+
+// Declared here because g++ does not always come with the sanitizers' headers.
+extern "C" int __sanitizer_install_malloc_and_free_hooks(void (*onMalloc)(const volatile void*,
+                                                                          std::size_t),
+                                                         void (*onFree)(const volatile void*));
+
+namespace {
+
+std::atomic<long> allocations{0};
+
+void count(const volatile void*, std::size_t)
+{
+    ++allocations;
+}
+
+void ignore(const volatile void*) {}
+
+const int kInstalled = __sanitizer_install_malloc_and_free_hooks(count, ignore);
+
+} // namespace
+
+long support::AllocationCounter::total()
+{
+    return kInstalled > 0 ? allocations.load() : -1;
+}
