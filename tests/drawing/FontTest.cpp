@@ -6,6 +6,7 @@
 #include <cwchar>
 #include <iterator>
 #include <memory>
+#include <ostream>
 #include <string>
 
 namespace {
@@ -20,6 +21,11 @@ struct FontRow
     BYTE italic;
     BYTE pitchAndFamily;
 };
+
+std::ostream& operator<<(std::ostream& stream, const FontRow& row)
+{
+    return stream << row.name;
+}
 
 const FontRow kFonts[] = {
     {"PlainHeight", 18, 400, 0, 0},
