@@ -16,12 +16,13 @@ package_manager() {
 # The packages of one group (build or check) under the names of this platform.
 packages() {
     case "$(package_manager):$1" in
-        # The last four show the tests' windows on a display that nobody sees.
-        apt:build) echo build-essential cmake ninja-build pkg-config qtbase5-dev \
-            libgtest-dev libgmock-dev xvfb openbox xdotool fonts-dejavu-core ;;
+        # poppler-utils looks at printed pages; the packages behind it show the tests' windows on a
+        # display that nobody sees.
+        apt:build) echo build-essential cmake ninja-build pkg-config qtbase5-dev libgtest-dev \
+            libgmock-dev poppler-utils xvfb xauth openbox xdotool fonts-dejavu-core ;;
         # The formatter's version is fixed, since each one lays out some lines in its own way.
         apt:check) echo git clang clang-format-14 libgnustep-gui-dev ;;
-        brew:build) echo cmake ninja pkg-config qt@5 googletest ;;
+        brew:build) echo cmake ninja pkg-config qt@5 googletest poppler ;;
     esac
 }
 

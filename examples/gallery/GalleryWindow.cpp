@@ -1,0 +1,29 @@
+// SPDX-License-Identifier: MIT
+#include "GalleryWindow.h"
+
+#include "Gallery.h"
+
+GalleryWindow::GalleryWindow() : m_buffer(this), m_painter(this)
+{
+    setAttribute(Qt::WA_OpaquePaintEvent);
+    setFixedSize(gallerySize());
+}
+
+void GalleryWindow::paintEvent(QPaintEvent*)
+{
+    QRect whole = rect();
+    m_painter.beginDraw();
+    m_painter.drawImage(whole, *m_buffer.frontImage());
+    m_painter.endDraw();
+}
+
+// The widget has its new size already, so the old images must go before new ones are asked for.
+void GalleryWindow::resizeEvent(QResizeEvent*)
+{
+    m_buffer.destroyImages();
+    m_buffer.createImages(width(), height(), 4);
+    m_buffer.memPainter()->beginDraw();
+    drawGallery(*m_buffer.memPainter());
+    m_buffer.memPainter()->endDraw();
+    m_buffer.repairFrontBuffer();
+}
