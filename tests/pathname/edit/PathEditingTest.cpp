@@ -243,7 +243,7 @@ TEST(AppendComponent, PutsASeparatorInBetween)
 
 TEST(Append, TakesATextOutOfTheNameItself)
 {
-    for (std::size_t offset : {0, 1, 4, 8}) {
+    for (std::size_t offset : {0u, 1u, 4u, 8u}) {
         SCOPED_TRACE(offset);
         const std::wstring before = L"/tmp/dir";
         HandMadePath name(PC_ROOTED, before);

@@ -86,15 +86,28 @@ TEST(GetUniqueName, PutsDigitsOneCharacterEarlyWithoutExtension)
 
 TEST(GetUniqueName, GivesANameThatIsFreeAsItIs)
 {
+    for (path_type type : {PT_NOT_FOUND, PT_FILE, PT_DIRECTORY}) {
+        SCOPED_TRACE(type);
+        const HandMadePath name(PC_ROOTED, L"/no/such/none.txt", type);
+        answerRand(1234);
+        CRbUiPathname result;
+        EXPECT_TRUE(name.GetUniqueName(result, false));
+        EXPECT_EQ(workOf(result), workOf(name));
+        EXPECT_EQ(result.m_type, PT_NOT_FOUND);
+        EXPECT_EQ(name.m_type, type);
+        EXPECT_EQ(g_calls, 0);
+    }
+}
+
+TEST(GetUniqueName, TakesAFolderOfTheNameForATakenOne)
+{
     const ScratchFolder folder;
-    const HandMadePath name(PC_ROOTED, folder.widePath("none.txt"), PT_FILE);
+    folder.addFolder("data", 0770);
+    const HandMadePath name(PC_ROOTED, folder.widePath("data"), PT_DIRECTORY);
     answerRand(1234);
     CRbUiPathname result;
     EXPECT_TRUE(name.GetUniqueName(result, false));
-    EXPECT_EQ(workOf(result), workOf(name));
-    EXPECT_EQ(result.m_type, PT_NOT_FOUND);
-    EXPECT_EQ(name.m_type, PT_FILE);
-    EXPECT_EQ(g_calls, 0);
+    EXPECT_EQ(workOf(result), folder.widePath("dat012340"));
 }
 
 TEST(GetUniqueName, MakesANewNameByForce)
@@ -245,7 +258,7 @@ TEST(GetUniqueName, CutsTheStemToTheRoomThatIsLeft)
 
 TEST(GetUniqueName, LeavesRoomForAFolderOfFourCharacters)
 {
-    for (std::size_t length : {0, 2, 4}) {
+    for (std::size_t length : {0u, 2u, 4u}) {
         SCOPED_TRACE(length);
         const std::wstring before = folderOfLength(length);
         const HandMadePath name(length ? PC_ROOTED : PC_RELATIVE,
