@@ -183,6 +183,7 @@ const SizeRow kRefused[] = {
     {"the largest numbers", INT_MAX, INT_MAX, INT_MAX},
     {"an area too large times 0", INT_MAX, INT_MAX, 0},
     {"a row too long times 0", INT_MAX, 0, 4},
+    {"an image that Qt refuses", 1 << 26, 1, 1},
 };
 
 TEST_F(DoubleBuffer, IsNotCreatedAtASizeThatCannotBe)

@@ -3,9 +3,11 @@
 // The allocation functions of the GNU C library, found before its own because they lie in the
 // program.
 #include "support/AllocationCounter.h"
+#include "support/AllocationLimit.h"
 
 #include <atomic>
 #include <cstddef>
+#include <cstdint>
 
 extern "C" {
 void* __libc_malloc(std::size_t size);
@@ -15,32 +17,48 @@ void* __libc_realloc(void* block, std::size_t size);
 
 namespace {
 
-std::atomic<long> allocations{0};
+constexpr std::size_t kNoLimit = SIZE_MAX;
 
+std::atomic<long> allocations{0};
+std::atomic<std::size_t> limit{kNoLimit};
+
+bool allows(std::size_t size)
+{
+    ++allocations;
+    return size < limit;
 }
+
+} // namespace
 
 extern "C" {
 
 __attribute__((visibility("default"))) void* malloc(std::size_t size)
 {
-    ++allocations;
-    return __libc_malloc(size);
+    return allows(size) ? __libc_malloc(size) : nullptr;
 }
 
 __attribute__((visibility("default"))) void* calloc(std::size_t count, std::size_t size)
 {
-    ++allocations;
-    return __libc_calloc(count, size);
+    return allows(count * size) ? __libc_calloc(count, size) : nullptr;
 }
 
 __attribute__((visibility("default"))) void* realloc(void* block, std::size_t size)
 {
-    ++allocations;
-    return __libc_realloc(block, size);
+    return allows(size) ? __libc_realloc(block, size) : nullptr;
 }
 }
 
 long support::AllocationCounter::total()
 {
     return allocations;
+}
+
+support::AllocationLimit::AllocationLimit(std::size_t bytes)
+{
+    limit = bytes;
+}
+
+support::AllocationLimit::~AllocationLimit()
+{
+    limit = kNoLimit;
 }
