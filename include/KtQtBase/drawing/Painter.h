@@ -15,8 +15,8 @@
 // that it names.
 //
 // Settings and drawing act on the painter while it paints, that is between beginDraw and endDraw.
-// Outside, Qt prints a warning and does nothing. Nothing is checked for null but the device in the
-// four functions that say so. Points and text belong to the caller and are read during the call.
+// Outside, Qt prints a warning and does nothing. Nothing is checked for null but where a function
+// says so. Points and text belong to the caller and are read during the call.
 #ifndef KTQTBASE_DRAWING_PAINTER_H
 #define KTQTBASE_DRAWING_PAINTER_H
 
