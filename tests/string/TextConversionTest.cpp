@@ -72,7 +72,8 @@ TEST(NarrowText, FollowsTheProcessLocale)
 TEST(NarrowText, HoldsTextsOfEveryLength)
 {
     const ProcessCType utf8("C.UTF-8");
-    for (std::size_t length : {84, 85, 86, 127, 128, 129, 511, 512, 513, 1023, 1024, 1025, 5000}) {
+    for (std::size_t length :
+         {84u, 85u, 86u, 127u, 128u, 129u, 511u, 512u, 513u, 1023u, 1024u, 1025u, 5000u}) {
         const NarrowText ascii(std::wstring(length, L'x').c_str());
         ASSERT_TRUE(ascii.converted()) << length;
         EXPECT_EQ(ascii.c_str(), std::string(length, 'x'));
