@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include <KtOsBase/KtOsBase.h>
 
-#include "support/LocaleGuards.h"
+#include "support/LocaleScope.h"
 
 #include <gtest/gtest.h>
 
@@ -15,7 +15,7 @@
 namespace {
 
 namespace fs = std::filesystem;
-using testsupport::ProcessCType;
+using ktqtbase::test::LocaleScope;
 
 constexpr wchar_t kPoison = 0x7E7E;
 
@@ -74,7 +74,7 @@ TEST(swprintf, WritesTextsOfEveryLength)
 
 TEST(swprintf, GivesTheEmptyTextForAnArgumentThatDoesNotConvert)
 {
-    const ProcessCType utf8("C.UTF-8");
+    const LocaleScope utf8("C.UTF-8", LC_CTYPE);
     wchar_t buffer[] = L"poison";
     EXPECT_EQ(swprintf(buffer, L"a%s", "\xff"), -1);
     EXPECT_STREQ(buffer, L"");
@@ -117,7 +117,7 @@ protected:
 
     using Names = std::vector<std::string>;
 
-    ProcessCType m_utf8{"C.UTF-8"};
+    LocaleScope m_utf8{"C.UTF-8", LC_CTYPE};
     fs::path m_folder;
 };
 
@@ -164,7 +164,7 @@ TEST_F(Rename, RefusesNamesThatDoNotConvert)
     const std::wstring surrogate = path(std::wstring(L"new") + wchar_t{0xD800} + L"x");
     EXPECT_EQ(_wrename(old.c_str(), surrogate.c_str()), -1);
     EXPECT_EQ(_wrename(surrogate.c_str(), old.c_str()), -1);
-    const ProcessCType plain("C");
+    const LocaleScope plain("C", LC_CTYPE);
     EXPECT_EQ(_wrename(old.c_str(), path(L"n\u00e9w").c_str()), -1);
     EXPECT_EQ(names(), Names{"old"});
 }

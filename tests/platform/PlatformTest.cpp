@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "platform/Platform.h"
 
-#include "support/LocaleGuards.h"
+#include "support/LocaleScope.h"
 
 #include <gtest/gtest.h>
 
@@ -69,7 +69,7 @@ TEST(sharedLibrarySuffix, IsThatOfThisPlatform)
 
 TEST(utf8LocaleName, NamesAUtf8CharacterType)
 {
-    const testsupport::ProcessCType before("C");
+    const ktqtbase::test::LocaleScope before("C", LC_CTYPE);
     ASSERT_NE(std::setlocale(LC_CTYPE, platform::utf8LocaleName()), nullptr);
     char bytes[MB_LEN_MAX + 1] = "";
     EXPECT_EQ(std::wcstombs(bytes, L"\u00e9", sizeof(bytes)), 2u);

@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "string/CaseFolding.h"
 
-#include "support/LocaleGuards.h"
+#include "support/LocaleScope.h"
 
 #include <gtest/gtest.h>
 
@@ -12,9 +12,9 @@ namespace {
 using ktqtbase::equalFolded;
 using ktqtbase::isLetter;
 using ktqtbase::upperCase;
-using testsupport::GlobalLocale;
-using testsupport::oddLocale;
-using testsupport::ProcessCType;
+using ktqtbase::test::GlobalLocaleScope;
+using ktqtbase::test::LocaleScope;
+using ktqtbase::test::oddLocale;
 
 constexpr wchar_t kLeast = std::numeric_limits<wchar_t>::min();
 constexpr wchar_t kGreatest = std::numeric_limits<wchar_t>::max();
@@ -55,8 +55,8 @@ TEST(equalFolded, ComparesWithoutRegardToAsciiCase)
 
 TEST(equalFolded, AsksNoLocaleOfTheHost)
 {
-    const GlobalLocale odd(oddLocale());
-    const ProcessCType utf8("C.UTF-8");
+    const GlobalLocaleScope odd(oddLocale());
+    const LocaleScope utf8("C.UTF-8", LC_CTYPE);
     EXPECT_FALSE(equalFolded(L"@", L"a"));
     for (const FoldRow& row : kFoldRows)
         EXPECT_EQ(equalFolded(row.a, row.b), row.equal) << row.name;
@@ -64,7 +64,7 @@ TEST(equalFolded, AsksNoLocaleOfTheHost)
 
 TEST(equalFolded, IgnoresAUtf8GlobalLocale)
 {
-    const GlobalLocale utf8(std::locale("C.UTF-8"));
+    const GlobalLocaleScope utf8(std::locale("C.UTF-8"));
     EXPECT_FALSE(equalFolded(L"\u00c9", L"\u00e9"));
     EXPECT_TRUE(equalFolded(L"C:", L"c:"));
 }
@@ -72,7 +72,7 @@ TEST(equalFolded, IgnoresAUtf8GlobalLocale)
 TEST(isLetter, KnowsTheAsciiLettersInEveryLocale)
 {
     for (const char* name : {"C", "C.UTF-8"}) {
-        const ProcessCType locale(name);
+        const LocaleScope locale(name, LC_CTYPE);
         for (wchar_t ch = 0; ch < 128; ++ch) {
             const bool letter = (ch >= L'A' && ch <= L'Z') || (ch >= L'a' && ch <= L'z');
             EXPECT_EQ(isLetter(ch), letter) << name << ' ' << ch;
@@ -83,7 +83,7 @@ TEST(isLetter, KnowsTheAsciiLettersInEveryLocale)
 TEST(upperCase, ChangesTheSmallAsciiLettersInEveryLocale)
 {
     for (const char* name : {"C", "C.UTF-8"}) {
-        const ProcessCType locale(name);
+        const LocaleScope locale(name, LC_CTYPE);
         for (wchar_t ch = 0; ch < 128; ++ch) {
             const bool isSmall = ch >= L'a' && ch <= L'z';
             EXPECT_EQ(upperCase(ch), isSmall ? ch - 32 : ch) << name << ' ' << ch;
@@ -109,9 +109,9 @@ const LetterRow kUtf8Rows[] = {
 TEST(isLetter, FollowsTheProcessLocale)
 {
     for (const LetterRow& row : kUtf8Rows) {
-        const ProcessCType plain("C");
+        const LocaleScope plain("C", LC_CTYPE);
         EXPECT_FALSE(isLetter(row.ch)) << row.name;
-        const ProcessCType utf8("C.UTF-8");
+        const LocaleScope utf8("C.UTF-8", LC_CTYPE);
         EXPECT_EQ(isLetter(row.ch), row.letter) << row.name;
     }
 }
@@ -119,16 +119,16 @@ TEST(isLetter, FollowsTheProcessLocale)
 TEST(upperCase, FollowsTheProcessLocale)
 {
     for (const LetterRow& row : kUtf8Rows) {
-        const ProcessCType plain("C");
+        const LocaleScope plain("C", LC_CTYPE);
         EXPECT_EQ(upperCase(row.ch), row.ch) << row.name;
-        const ProcessCType utf8("C.UTF-8");
+        const LocaleScope utf8("C.UTF-8", LC_CTYPE);
         EXPECT_EQ(upperCase(row.ch), row.upper) << row.name;
     }
 }
 
 TEST(isLetter, AsksTheProcessLocaleNotTheGlobalOne)
 {
-    const GlobalLocale odd(oddLocale());
+    const GlobalLocaleScope odd(oddLocale());
     EXPECT_TRUE(isLetter(L'b'));
     EXPECT_EQ(upperCase(L'a'), L'A');
 }
@@ -136,7 +136,7 @@ TEST(isLetter, AsksTheProcessLocaleNotTheGlobalOne)
 TEST(isLetter, RefusesWhatIsNoCodePoint)
 {
     for (const char* name : {"C", "C.UTF-8"}) {
-        const ProcessCType locale(name);
+        const LocaleScope locale(name, LC_CTYPE);
         for (wchar_t ch : kNoCodePoints) {
             EXPECT_FALSE(isLetter(ch)) << name << ' ' << static_cast<int>(ch);
             EXPECT_EQ(upperCase(ch), ch) << name;

@@ -2,7 +2,7 @@
 #include "string/TextConversion.h"
 
 #include "platform/Platform.h"
-#include "support/LocaleGuards.h"
+#include "support/LocaleScope.h"
 
 #include <gtest/gtest.h>
 
@@ -15,7 +15,7 @@ namespace {
 
 using ktqtbase::NarrowText;
 using ktqtbase::widen;
-using testsupport::ProcessCType;
+using ktqtbase::test::LocaleScope;
 
 struct PairRow
 {
@@ -35,7 +35,7 @@ const PairRow kPairs[] = {
 
 TEST(NarrowText, IsUtf8InAUtf8Locale)
 {
-    const ProcessCType utf8("C.UTF-8");
+    const LocaleScope utf8("C.UTF-8", LC_CTYPE);
     for (const PairRow& row : kPairs) {
         NarrowText text(row.wide);
         ASSERT_TRUE(text.converted()) << row.name;
@@ -54,7 +54,7 @@ TEST(NarrowText, RefusesWhatTheLocaleCannotWrite)
 {
     const std::wstring surrogate = {L'a', 0xD800, L'b'};
     const std::wstring negative = {L'a', static_cast<wchar_t>(-1)};
-    const ProcessCType utf8("C.UTF-8");
+    const LocaleScope utf8("C.UTF-8", LC_CTYPE);
     EXPECT_FALSE(NarrowText(surrogate.c_str()).converted());
     EXPECT_FALSE(NarrowText(negative.c_str()).converted());
     EXPECT_FALSE(NarrowText((std::wstring(2000, L'a') + surrogate).c_str()).converted());
@@ -62,7 +62,7 @@ TEST(NarrowText, RefusesWhatTheLocaleCannotWrite)
 
 TEST(NarrowText, FollowsTheProcessLocale)
 {
-    const ProcessCType plain("C");
+    const LocaleScope plain("C", LC_CTYPE);
     EXPECT_STREQ(NarrowText(L"name").c_str(), "name");
     EXPECT_FALSE(NarrowText(L"caf\u00e9").converted());
     EXPECT_FALSE(NarrowText((std::wstring(2000, L'a') + L"\u00e9").c_str()).converted());
@@ -71,7 +71,7 @@ TEST(NarrowText, FollowsTheProcessLocale)
 // Lengths on either side of each place where the room could come from elsewhere.
 TEST(NarrowText, HoldsTextsOfEveryLength)
 {
-    const ProcessCType utf8("C.UTF-8");
+    const LocaleScope utf8("C.UTF-8", LC_CTYPE);
     for (std::size_t length :
          {84u, 85u, 86u, 127u, 128u, 129u, 511u, 512u, 513u, 1023u, 1024u, 1025u, 5000u}) {
         const NarrowText ascii(std::wstring(length, L'x').c_str());
@@ -89,7 +89,7 @@ TEST(NarrowText, HoldsTextsOfEveryLength)
 // not be refused where a short one is taken.
 TEST(NarrowText, AgreesWithTheLocaleOnValuesBeyondTheLastCodePoint)
 {
-    const ProcessCType utf8("C.UTF-8");
+    const LocaleScope utf8("C.UTF-8", LC_CTYPE);
     for (wchar_t ch : {0x110000, 0x1FFFFF, 0x200000, 0x7FFFFFFF}) {
         char one[16];
         const wchar_t text[] = {ch, 0};
@@ -130,7 +130,7 @@ Area holding(const std::wstring& text)
 
 TEST(widen, ReadsUtf8InAUtf8Locale)
 {
-    const ProcessCType utf8("C.UTF-8");
+    const LocaleScope utf8("C.UTF-8", LC_CTYPE);
     for (const PairRow& row : kPairs) {
         Area area = poisoned();
         EXPECT_TRUE(widen(row.narrow, area.data(), area.size())) << row.name;
@@ -155,7 +155,7 @@ TEST(widen, WritesNoMoreThanItsRoom)
         {"exact", 4, std::wstring(L"ab\u00e9\0", 4)},
         {"larger", 10, std::wstring(L"ab\u00e9\0", 4)},
     };
-    const ProcessCType utf8("C.UTF-8");
+    const LocaleScope utf8("C.UTF-8", LC_CTYPE);
     for (const SizeRow& row : rows) {
         Area area = poisoned();
         EXPECT_TRUE(widen("ab\xc3\xa9", area.data(), row.size)) << row.name;
@@ -191,7 +191,7 @@ TEST(widen, StopsAtAByteThatDoesNotConvert)
         {"too long a form", "a\xc0\xaf", L"a"},
         {"behind a good sequence", "\xc3\xa9\xff", L"\u00e9"},
     };
-    const ProcessCType utf8("C.UTF-8");
+    const LocaleScope utf8("C.UTF-8", LC_CTYPE);
     for (const BadRow& row : rows) {
         Area area = poisoned();
         EXPECT_FALSE(widen(row.narrow, area.data(), area.size())) << row.name;
@@ -201,7 +201,7 @@ TEST(widen, StopsAtAByteThatDoesNotConvert)
 
 TEST(widen, PutsTheTerminatorOfABadTextIntoItsLastPlace)
 {
-    const ProcessCType utf8("C.UTF-8");
+    const LocaleScope utf8("C.UTF-8", LC_CTYPE);
     Area area = poisoned();
     EXPECT_FALSE(widen("ab\xff", area.data(), 3));
     EXPECT_EQ(area, holding(std::wstring(L"ab\0", 3)));
@@ -209,7 +209,7 @@ TEST(widen, PutsTheTerminatorOfABadTextIntoItsLastPlace)
 
 TEST(widen, DoesNotLookBeyondItsRoom)
 {
-    const ProcessCType utf8("C.UTF-8");
+    const LocaleScope utf8("C.UTF-8", LC_CTYPE);
     Area area = poisoned();
     EXPECT_TRUE(widen("ab\xff", area.data(), 2));
     EXPECT_EQ(area, holding(L"ab"));
@@ -223,7 +223,7 @@ TEST(widen, WritesNothingWithoutATarget)
 
 TEST(useUtf8Locale, SetsTheCharacterTypeOnly)
 {
-    const ProcessCType plain("C");
+    const LocaleScope plain("C", LC_CTYPE);
     const std::string numeric = std::setlocale(LC_NUMERIC, nullptr);
     ktqtbase::useUtf8Locale();
     EXPECT_STREQ(std::setlocale(LC_CTYPE, nullptr), ktqtbase::platform::utf8LocaleName());

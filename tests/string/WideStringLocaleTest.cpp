@@ -3,20 +3,20 @@
 // Which locale each operation asks.
 #include <KtQtBase/WideString.h>
 
-#include "support/LocaleGuards.h"
+#include "support/LocaleScope.h"
 
 #include <gtest/gtest.h>
 
 namespace {
 
 using Text = CStdStr<wchar_t>;
-using testsupport::GlobalLocale;
-using testsupport::oddLocale;
-using testsupport::ProcessCType;
+using ktqtbase::test::GlobalLocaleScope;
+using ktqtbase::test::LocaleScope;
+using ktqtbase::test::oddLocale;
 
 TEST(TrimLeft, AsksTheGlobalLocaleForWhiteSpace)
 {
-    const GlobalLocale odd(oddLocale());
+    const GlobalLocaleScope odd(oddLocale());
     EXPECT_EQ(Text(L"xx xax").TrimLeft(), L" xax");
     EXPECT_EQ(Text(L" a").TrimLeft(), L" a");
     EXPECT_EQ(Text(L"xxx").TrimLeft(), L"");
@@ -24,7 +24,7 @@ TEST(TrimLeft, AsksTheGlobalLocaleForWhiteSpace)
 
 TEST(TrimRight, AsksTheGlobalLocaleForWhiteSpace)
 {
-    const GlobalLocale odd(oddLocale());
+    const GlobalLocaleScope odd(oddLocale());
     EXPECT_EQ(Text(L"xax xx").TrimRight(), L"xax ");
     EXPECT_EQ(Text(L"a ").TrimRight(), L"a ");
     EXPECT_EQ(Text(L"xxx").TrimRight(), L"");
@@ -34,7 +34,7 @@ TEST(TrimLeft, AsksTheGlobalLocaleAtEveryCall)
 {
     Text text = L" xa";
     {
-        const GlobalLocale odd(oddLocale());
+        const GlobalLocaleScope odd(oddLocale());
         EXPECT_EQ(text.TrimLeft(), L" xa");
     }
     EXPECT_EQ(text.TrimLeft(), L"xa");
@@ -42,14 +42,14 @@ TEST(TrimLeft, AsksTheGlobalLocaleAtEveryCall)
 
 TEST(TrimLeft, DoesNotAskTheProcessLocale)
 {
-    const ProcessCType utf8("C.UTF-8");
+    const LocaleScope utf8("C.UTF-8", LC_CTYPE);
     EXPECT_EQ(Text(L"\u2003a\u2003").TrimLeft(), L"\u2003a\u2003");
     EXPECT_EQ(Text(L"\u2003a\u2003").TrimRight(), L"\u2003a\u2003");
 }
 
 TEST(TrimLeft, TakesTheWideBlanksOfAUtf8GlobalLocale)
 {
-    const GlobalLocale utf8(std::locale("C.UTF-8"));
+    const GlobalLocaleScope utf8(std::locale("C.UTF-8"));
     EXPECT_EQ(Text(L"\u2003a\u2003").TrimLeft(), L"a\u2003");
     EXPECT_EQ(Text(L"\u2003a\u2003").TrimRight(), L"\u2003a");
 }
@@ -81,7 +81,7 @@ TEST(toUpper, AsksTheGivenLocale)
 
 TEST(toUpper, DoesNotAskTheGlobalLocale)
 {
-    const GlobalLocale odd(oddLocale());
+    const GlobalLocaleScope odd(oddLocale());
     EXPECT_EQ(Text(L"ab").toUpper(std::locale::classic()), L"AB");
     EXPECT_EQ(Text(L"A@").ToLower(std::locale::classic()), L"a@");
 }
@@ -100,7 +100,7 @@ TEST(strMakeUpper, ChangesInPlaceByTheGlobalLocale)
     Text text = L"ab\u00e9";
     KtErrorEat::strMakeUpper(text);
     EXPECT_EQ(text, L"AB\u00e9");
-    const GlobalLocale odd(oddLocale());
+    const GlobalLocaleScope odd(oddLocale());
     text = L"ab";
     KtErrorEat::strMakeUpper(text);
     EXPECT_EQ(text, L"@b");
@@ -111,7 +111,7 @@ TEST(strMakeLower, ChangesInPlaceByTheGlobalLocale)
     Text text = L"AB\u00c9";
     KtErrorEat::strMakeLower(text);
     EXPECT_EQ(text, L"ab\u00c9");
-    const GlobalLocale odd(oddLocale());
+    const GlobalLocaleScope odd(oddLocale());
     text = L"@B";
     KtErrorEat::strMakeLower(text);
     EXPECT_EQ(text, L"aB");

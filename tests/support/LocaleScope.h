@@ -54,6 +54,43 @@ class UnderscoreIsSpace : public std::ctype<wchar_t>
     }
 };
 
+// Character classes that no real locale has: only 'x' is white space, 'a' and '@' are each other's
+// other case, and no other character has one.
+class OddCharacterClasses : public std::ctype<wchar_t>
+{
+protected:
+    bool do_is(mask wanted, wchar_t ch) const override { return (wanted & space) && ch == L'x'; }
+
+    const wchar_t* do_scan_not(mask wanted, const wchar_t* low, const wchar_t* high) const override
+    {
+        while (low != high && do_is(wanted, *low))
+            ++low;
+        return low;
+    }
+
+    wchar_t do_toupper(wchar_t ch) const override { return ch == L'a' ? L'@' : ch; }
+    wchar_t do_tolower(wchar_t ch) const override { return ch == L'@' ? L'a' : ch; }
+
+    const wchar_t* do_toupper(wchar_t* low, const wchar_t* high) const override
+    {
+        for (; low != high; ++low)
+            *low = do_toupper(*low);
+        return high;
+    }
+
+    const wchar_t* do_tolower(wchar_t* low, const wchar_t* high) const override
+    {
+        for (; low != high; ++low)
+            *low = do_tolower(*low);
+        return high;
+    }
+};
+
+inline std::locale oddLocale()
+{
+    return std::locale(std::locale::classic(), new OddCharacterClasses);
+}
+
 } // namespace ktqtbase::test
 
 #endif

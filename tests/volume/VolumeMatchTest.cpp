@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include <KtQtBase/VolumeDescriptor.h>
 
-#include "support/LocaleGuards.h"
+#include "support/LocaleScope.h"
 #include "volume/PlainVolume.h"
 
 #include <gtest/gtest.h>
@@ -63,8 +63,8 @@ TEST(VolMatch, IsExactOnACaseSensitiveVolume)
 
 TEST(VolMatch, AsksNoLocaleOfTheHost)
 {
-    const testsupport::GlobalLocale odd(testsupport::oddLocale());
-    const testsupport::ProcessCType utf8("C.UTF-8");
+    const ktqtbase::test::GlobalLocaleScope odd(ktqtbase::test::oddLocale());
+    const ktqtbase::test::LocaleScope utf8("C.UTF-8", LC_CTYPE);
     const PlainVolume volume(L"C:");
     const Text a = L"a";
     EXPECT_FALSE(volume.VolMatch(L"@", &a));

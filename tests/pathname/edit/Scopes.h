@@ -4,45 +4,25 @@
 #ifndef KTQTBASE_TESTS_PATHNAME_EDIT_SCOPES_H
 #define KTQTBASE_TESTS_PATHNAME_EDIT_SCOPES_H
 
+#include "support/LocaleScope.h"
+
 #include <KtQtBase/PathName.h>
 #include <KtQtBase/VolumeDescriptor.h>
 
 #include <QtCore/QTemporaryDir>
 
-#include <clocale>
 #include <fstream>
-#include <locale>
 #include <string>
 #include <sys/stat.h>
 #include <unistd.h>
 
+using ktqtbase::test::GlobalLocaleScope;
+
 // LC_CTYPE under which letters outside ASCII are letters and names convert.
-class Utf8Scope
+class Utf8Scope : public ktqtbase::test::LocaleScope
 {
 public:
-    Utf8Scope() : m_before(std::setlocale(LC_CTYPE, nullptr))
-    {
-        std::setlocale(LC_CTYPE, "C.UTF-8");
-    }
-    Utf8Scope(const Utf8Scope&) = delete;
-    Utf8Scope& operator=(const Utf8Scope&) = delete;
-    ~Utf8Scope() { std::setlocale(LC_CTYPE, m_before.c_str()); }
-
-private:
-    std::string m_before;
-};
-
-// A global locale of the C++ library.
-class GlobalLocaleScope
-{
-public:
-    explicit GlobalLocaleScope(const std::locale& locale) : m_before(std::locale::global(locale)) {}
-    GlobalLocaleScope(const GlobalLocaleScope&) = delete;
-    GlobalLocaleScope& operator=(const GlobalLocaleScope&) = delete;
-    ~GlobalLocaleScope() { std::locale::global(m_before); }
-
-private:
-    std::locale m_before;
+    Utf8Scope() : LocaleScope("C.UTF-8", LC_CTYPE) {}
 };
 
 // A drive that the process's list of volumes knows.
