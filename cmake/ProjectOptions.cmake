@@ -4,6 +4,7 @@
 option(KTQTBASE_BUILD_TESTS "Build the tests" ${PROJECT_IS_TOP_LEVEL})
 option(KTQTBASE_BUILD_EXAMPLES "Build the example programs" ${PROJECT_IS_TOP_LEVEL})
 option(KTQTBASE_BUILD_FUZZERS "Build the fuzzers, which need clang++" OFF)
+option(KTQTBASE_BUILD_BENCHMARKS "Build the benchmarks" OFF)
 option(KTQTBASE_WARNINGS_AS_ERRORS "Treat compiler warnings as errors" OFF)
 option(KTQTBASE_SANITIZE "Build with AddressSanitizer and UndefinedBehaviorSanitizer" OFF)
 option(KTQTBASE_COVERAGE "Build with coverage counters" OFF)
