@@ -166,6 +166,7 @@ void plainSession(QPainter& painter, QImage& image)
     painter.save();
     painter.setPen(QPen(QBrush(QColor(0, 0, 0)), 0, Qt::SolidLine));
     painter.setBrush(QBrush(QColor(0, 0, 0), Qt::SolidPattern));
+    painter.setClipRegion(QRegion(), Qt::NoClip);
     painter.restore();
     painter.end();
 }

@@ -1,7 +1,8 @@
 // SPDX-License-Identifier: MIT
 //
 // Messages beside the same delivery written with Qt: find the widget, make an event with the three
-// values, send or post it. Posted messages are delivered before the work ends.
+// values, send or post it. Posted messages are delivered before the work ends, to all receivers,
+// since Qt clears its queue up only then.
 #include "support/Rows.h"
 
 #include <KtQtBase/Messages.h>
@@ -53,6 +54,7 @@ std::shared_ptr<Receiver> makeReceiver()
 {
     auto receiver = std::make_shared<Receiver>();
     receiver->winId();
+    QCoreApplication::sendPostedEvents();
     return receiver;
 }
 
@@ -78,7 +80,7 @@ void addPost(const char* size, int count)
             return [count, receiver = makeReceiver()] {
                 for (int i = 0; i < count; ++i)
                     PostMessage(receiver->handle(), kMessage, 1, i);
-                QCoreApplication::sendPostedEvents(receiver.get());
+                QCoreApplication::sendPostedEvents();
             };
         })
         .reference("find, postEvent", [=] {
@@ -87,7 +89,7 @@ void addPost(const char* size, int count)
                     QWidget* const widget = QWidget::find(receiver->internalWinId());
                     QCoreApplication::postEvent(widget, new PlainEvent(kMessage, 1, i));
                 }
-                QCoreApplication::sendPostedEvents(receiver.get());
+                QCoreApplication::sendPostedEvents();
             };
         });
 }

@@ -41,6 +41,8 @@ int main(int argc, char** argv)
     bench::addVolumeRows();
     bench::addModuleRows();
     bench::addFileRows();
+    bench::addProfileRows();
+    bench::addRegistryRows();
     bench::addDrawingRows();
     bench::addMessageRows();
 

@@ -13,7 +13,7 @@ package_manager() {
     fi
 }
 
-# The packages of one group (build or check) under the names of this platform.
+# The packages of one group (build, check or bench) under the names of this platform.
 packages() {
     case "$(package_manager):$1" in
         # poppler-utils looks at printed pages; the packages behind it show the tests' windows on a
@@ -23,6 +23,9 @@ packages() {
         # The formatter's version is fixed, since each one lays out some lines in its own way.
         apt:check) echo git clang clang-format-14 libgnustep-gui-dev ;;
         brew:build) echo cmake ninja pkg-config qt@5 googletest poppler ;;
+        apt:bench) echo libbenchmark-dev libboost-filesystem-dev libglib2.0-dev libinih-dev \
+            libsimpleini-dev python3 ;;
+        brew:bench) echo google-benchmark boost glib inih simpleini python3 ;;
     esac
 }
 

@@ -56,6 +56,8 @@ void addPathQueryRows();
 void addVolumeRows();
 void addModuleRows();
 void addFileRows();
+void addProfileRows();
+void addRegistryRows();
 void addDrawingRows();
 void addMessageRows();
 
