@@ -11,6 +11,7 @@ import json
 import math
 import pathlib
 import re
+import shutil
 import statistics
 import subprocess
 import sys
@@ -27,7 +28,8 @@ def parse_arguments():
     parser.add_argument("--min-time", type=float, default=0.02, help="seconds a repetition")
     parser.add_argument("--once", action="store_true", help="run each row once, judge nothing")
     parser.add_argument("--only", default="", help="measure the works that match this expression")
-    parser.add_argument("--markdown", type=pathlib.Path, help="write the table as Markdown too")
+    parser.add_argument("--markdown", type=pathlib.Path, 
+                        help="put the table between the marks of this file, the plot beside it")
     return parser.parse_args()
 
 
@@ -165,6 +167,8 @@ def cells(row):
             f"{row['goal']:.2f}", verdict]
 
 
+TABLE_BEGIN = "<!-- The table is written by tools/bench.py --markdown. -->\n"
+TABLE_END = "\n<!-- The end of the table. -->"
 HEADINGS = ["Work", "Size", "Library", "Reference", "Ratio", "Goal", "Met"]
 
 
@@ -192,7 +196,14 @@ def write_results(arguments, rows, results):
     subprocess.run([sys.executable, plot, arguments.build / "bench.json",
                     arguments.build / "growth.svg"], check=True)
     if arguments.markdown:
-        arguments.markdown.write_text(markdown_table(results))
+        put_table(arguments.markdown, markdown_table(results))
+        shutil.copy(arguments.build / "growth.svg", arguments.markdown.with_name("growth.svg"))
+
+
+def put_table(document, table):
+    before, _, rest = document.read_text().partition(TABLE_BEGIN)
+    _, _, after = rest.partition(TABLE_END)
+    document.write_text(before + TABLE_BEGIN + "\n" + table + TABLE_END + after)
 
 
 def main():

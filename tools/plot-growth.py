@@ -10,14 +10,15 @@ import pathlib
 import sys
 from xml.sax.saxutils import escape
 
-WIDTH, HEIGHT, MARGIN, TITLE, LEGEND = 380, 250, 55, 30, 36
+WIDTH, HEIGHT, MARGIN, TITLE, LEGEND = 400, 250, 65, 30, 36
 COLUMNS = 2
 COLOURS = {True: "#1f5fbf", False: "#c2571a"}
 
 
 def logarithms(series):
+    library_first = sorted(series.items(), key=lambda item: item[0] != "library")
     return {who: [(math.log10(size), math.log10(time)) for size, time in sorted(points)]
-            for who, points in series.items()}
+            for who, points in library_first}
 
 
 def bounds(values):
@@ -34,7 +35,7 @@ class Panel:
         self.series = logarithms(series)
         self.left = column * WIDTH + MARGIN
         self.top = row * (HEIGHT + LEGEND) + TITLE
-        self.wide = WIDTH - MARGIN - 15
+        self.wide = WIDTH - MARGIN - 35
         self.high = HEIGHT - TITLE - 40
         points = [point for line in self.series.values() for point in line]
         self.x_bounds = bounds([x for x, _ in points])
@@ -49,11 +50,11 @@ class Panel:
         for decade in range(self.x_bounds[0], self.x_bounds[1] + 1):
             x, y = self.at(decade, self.y_bounds[0])
             yield line(x, y, x, self.top, "#ddd")
-            yield text(x, y + 15, f"{10.0 ** decade:g}", "middle")
+            yield text(x, y + 15, f"{10 ** decade:,}", "middle")
         for decade in range(self.y_bounds[0], self.y_bounds[1] + 1):
             x, y = self.at(self.x_bounds[0], decade)
             yield line(x, y, x + self.wide, y, "#ddd")
-            yield text(x - 6, y + 4, f"{10.0 ** decade:g}", "end")
+            yield text(x - 6, y + 4, f"{10 ** decade:,}", "end")
 
     def lines(self):
         for number, (who, points) in enumerate(self.series.items()):

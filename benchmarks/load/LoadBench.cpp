@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
 //
 // Loading and unloading the library itself, in a program of its own, since it must not be linked
-// with it. Qt's widgets are loaded in both cases, as in any host.
+// with it. What a host has loaded before is loaded here too: Qt's widgets and the OS-base library.
 #include "support/Rows.h"
 
 #include <QtWidgets/QApplication>
@@ -29,6 +29,8 @@ int main(int argc, char** argv)
 {
     qputenv("QT_QPA_PLATFORM", "offscreen");
     const QApplication application(argc, argv);
+    if (!dlopen(KTQTBASE_BENCH_OSBASE, RTLD_LAZY))
+        return 1;
     bench::Row("Load and unload", "1")
         .library([] { return [] { loadAndUnload(KTQTBASE_BENCH_LIBRARY); }; })
         .reference("small Qt module",
