@@ -101,8 +101,7 @@ void addParent(std::size_t length)
         })
         .reference("std::wstring", [=] {
             return [text = Plain(length), prefix = std::wstring()]() mutable {
-                prefix = text.prefix;
-                hand::parent(text.work, text.out);
+                hand::parent(text.prefix, text.work, prefix, text.out);
             };
         });
 }

@@ -85,8 +85,8 @@ auto readAndScan(const Question& question)
     };
 }
 
-// Qt answers from memory while a file's time stays the same, and so not what the file holds now; each
-// call finds another time, so that it reads as the others do.
+// Qt answers from memory while a file's time stays the same, and so not what the file holds now;
+// each call finds another time, so that it reads as the others do.
 auto askQt(const Question& question)
 {
     return [name = question.file, file = QString::fromStdString(question.file),

@@ -135,6 +135,7 @@ def judge_twice(arguments, goals):
     rows = measure(arguments, "all", arguments.only or ".")
     results = judge(goals, rows)
     if any(missed(row) for row in results):
+        arguments.repetitions *= 2
         again = measure(arguments, "again", missed_filter(results))
         second = {place(row): row for row in judge(goals, again)}
         results = [better(row, second.get(place(row))) for row in results]

@@ -34,6 +34,28 @@ bool equalFolded(const std::wstring& a, const wchar_t* b, std::size_t length)
     return true;
 }
 
+void shortenBase(const std::wstring& path, std::size_t base, std::size_t room, std::wstring& out)
+{
+    const std::size_t dot = path.rfind(L'.');
+    const bool hasExtension = dot != path.npos && dot > base && room >= path.size() - dot + 2;
+    const std::size_t tail = hasExtension ? path.size() - dot : 1;
+    out.assign(path, base, room - 1 - tail).push_back(L'~');
+    if (hasExtension)
+        out.append(path, dot, path.npos);
+}
+
+void shortenFolders(const std::wstring& path, std::size_t room, std::wstring& out)
+{
+    std::size_t at = 0;
+    while (path.size() - at + 4 > room) {
+        const std::size_t next = path.find(L'/', at + 1);
+        if (next == path.npos)
+            break;
+        at = next;
+    }
+    out.assign(L"...").append(path, at, path.npos);
+}
+
 } // namespace
 
 void hand::baseName(const std::wstring& path, std::wstring& out)
@@ -82,29 +104,34 @@ void hand::replaceExtension(std::wstring& path, const wchar_t* extension)
     path += extension;
 }
 
-void hand::parent(const std::wstring& path, std::wstring& out)
+void hand::parent(const std::wstring& prefix, const std::wstring& path, std::wstring& outPrefix,
+                  std::wstring& out)
 {
     out = path;
     if (out.size() > 1 && out.back() == L'/')
         out.pop_back();
-    out.resize(afterLastSeparator(out));
+    const std::size_t length = afterLastSeparator(out);
+    if (length > 0) {
+        out.resize(length);
+        outPrefix = prefix;
+    } else {
+        out = prefix;
+        outPrefix.clear();
+    }
 }
 
 void hand::displayName(const std::wstring& path, int width, std::wstring& out)
 {
     const auto room = static_cast<std::size_t>(width);
-    if (path.size() <= room) {
+    const std::size_t base = afterLastSeparator(path);
+    if (path.size() <= room)
         out = path;
-        return;
-    }
-    std::size_t at = 0;
-    while (path.size() - at + 4 > room) {
-        const std::size_t next = path.find(L'/', at + 1);
-        if (next == path.npos)
-            break;
-        at = next;
-    }
-    out.assign(L"...").append(path, at, path.npos);
+    else if (room < path.size() - base)
+        shortenBase(path, base, room, out);
+    else if (room < path.size() - base + 4)
+        out.assign(path, base, path.npos);
+    else
+        shortenFolders(path, room, out);
 }
 
 bool hand::pathMatch(const std::wstring& prefix, const std::wstring& path, const wchar_t* other)

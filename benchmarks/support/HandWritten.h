@@ -16,8 +16,11 @@ void fullPath(const std::wstring& prefix, const std::wstring& path, std::wstring
 void appendComponent(std::wstring& path, const wchar_t* text);
 bool trimComponent(std::wstring& path);
 void replaceExtension(std::wstring& path, const wchar_t* extension);
-void parent(const std::wstring& path, std::wstring& out);
-// The name shortened to whole components behind "..." that fit the width.
+// The folder of a name and its prefix; of a name without a folder, the prefix.
+void parent(const std::wstring& prefix, const std::wstring& path, std::wstring& outPrefix,
+            std::wstring& out);
+// The name shortened to whole components behind "..." that fit the width, or its last component,
+// shortened before its extension where it does not fit either.
 void displayName(const std::wstring& path, int width, std::wstring& out);
 // Whether prefix and path are the other path, but for ASCII case and a final separator.
 bool pathMatch(const std::wstring& prefix, const std::wstring& path, const wchar_t* other);

@@ -3,11 +3,9 @@
 // The allocation functions of the GNU C library, found before its own because they lie in the
 // program.
 #include "support/AllocationCounter.h"
-#include "support/AllocationLimit.h"
 
 #include <atomic>
 #include <cstddef>
-#include <cstdint>
 
 extern "C" {
 void* __libc_malloc(std::size_t size);
@@ -17,15 +15,13 @@ void* __libc_realloc(void* block, std::size_t size);
 
 namespace {
 
-constexpr std::size_t kNoLimit = SIZE_MAX;
-
 std::atomic<long> allocations{0};
-std::atomic<std::size_t> limit{kNoLimit};
+std::atomic<long> allocatedBytes{0};
 
-bool allows(std::size_t size)
+void count(std::size_t size)
 {
     ++allocations;
-    return size < limit;
+    allocatedBytes += static_cast<long>(size);
 }
 
 } // namespace
@@ -34,17 +30,20 @@ extern "C" {
 
 __attribute__((visibility("default"))) void* malloc(std::size_t size)
 {
-    return allows(size) ? __libc_malloc(size) : nullptr;
+    count(size);
+    return __libc_malloc(size);
 }
 
-__attribute__((visibility("default"))) void* calloc(std::size_t count, std::size_t size)
+__attribute__((visibility("default"))) void* calloc(std::size_t items, std::size_t size)
 {
-    return allows(count * size) ? __libc_calloc(count, size) : nullptr;
+    count(items * size);
+    return __libc_calloc(items, size);
 }
 
 __attribute__((visibility("default"))) void* realloc(void* block, std::size_t size)
 {
-    return allows(size) ? __libc_realloc(block, size) : nullptr;
+    count(size);
+    return __libc_realloc(block, size);
 }
 }
 
@@ -53,12 +52,7 @@ long support::AllocationCounter::total()
     return allocations;
 }
 
-support::AllocationLimit::AllocationLimit(std::size_t bytes)
+long support::AllocationCounter::totalBytes()
 {
-    limit = bytes;
-}
-
-support::AllocationLimit::~AllocationLimit()
-{
-    limit = kNoLimit;
+    return allocatedBytes;
 }

@@ -16,15 +16,21 @@ namespace support {
 class AllocationCounter
 {
 public:
-    AllocationCounter() : m_start(total()) {}
+    AllocationCounter() : m_start(total()), m_startBytes(totalBytes()) {}
 
     // Calls of malloc, calloc and realloc since this object was made.
     long count() const { return total() - m_start; }
 
+    // The bytes that those calls asked for, given back or not: never less than what was held at
+    // once.
+    long bytes() const { return totalBytes() - m_startBytes; }
+
 private:
     static long total();
+    static long totalBytes();
 
     long m_start;
+    long m_startBytes;
 };
 
 } // namespace support

@@ -12,10 +12,12 @@ extern "C" int __sanitizer_install_malloc_and_free_hooks(void (*onMalloc)(const 
 namespace {
 
 std::atomic<long> allocations{0};
+std::atomic<long> allocatedBytes{0};
 
-void count(const volatile void*, std::size_t)
+void count(const volatile void*, std::size_t size)
 {
     ++allocations;
+    allocatedBytes += static_cast<long>(size);
 }
 
 void ignore(const volatile void*) {}
@@ -27,4 +29,9 @@ const int kInstalled = __sanitizer_install_malloc_and_free_hooks(count, ignore);
 long support::AllocationCounter::total()
 {
     return kInstalled > 0 ? allocations.load() : -1;
+}
+
+long support::AllocationCounter::totalBytes()
+{
+    return kInstalled > 0 ? allocatedBytes.load() : -1;
 }
