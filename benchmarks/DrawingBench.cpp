@@ -11,12 +11,15 @@
 #include <QtGui/QPainter>
 #include <QtWidgets/QWidget>
 
+#include <cstddef>
 #include <memory>
 #include <vector>
 
 namespace {
 
 using bench::Row;
+
+const std::size_t kTextLengths[] = {4, 20, 80};
 
 constexpr int kCalls = 1000;
 constexpr int kImages = 200;
@@ -225,7 +228,7 @@ void bench::addDrawingRows()
         addFigures(count);
     for (const int side : {4, 32, 128})
         addRectangles(side);
-    for (const std::size_t length : {4, 20, 80})
+    for (const std::size_t length : kTextLengths)
         addTexts(length);
     for (const int side : {16, 64, 256}) {
         addRawImages(side);

@@ -5,9 +5,8 @@
 // inside and keep their object's storage between the calls; the library gets wide text, as its
 // hosts have it. The other measure is one system call on a narrow path that is ready.
 #include "support/Fixture.h"
+#include "support/Name.h"
 #include "support/Rows.h"
-
-#include <KtQtBase/PathName.h>
 
 #include <boost/filesystem.hpp>
 
@@ -28,6 +27,7 @@ namespace bfs = boost::filesystem;
 namespace sfs = std::filesystem;
 
 const std::size_t kLengths[] = {20, 60, 250};
+const std::size_t kGrowingLengths[] = {32, 64, 128, 256, 512};
 
 bool holdsWildcard(const std::string& text)
 {
@@ -87,10 +87,10 @@ auto askQt(const Question& question)
 
 auto askLibrary(const Question& question)
 {
-    auto base = std::make_shared<CRbUiPathname>();
+    auto base = std::make_shared<bench::Name>();
     if (!question.base.empty())
         base->ParseRelative(bench::wide(question.base).c_str(), nullptr, false);
-    return [base, name = bench::wide(question.name), path = std::make_shared<CRbUiPathname>()] {
+    return [base, name = bench::wide(question.name), path = std::make_shared<bench::Name>()] {
         benchmark::DoNotOptimize(path->ParseRelative(name.c_str(), base.get(), false));
     };
 }
@@ -134,7 +134,7 @@ void addOwnFolderParse(const std::string& kind, std::size_t length, bool relativ
     };
     Row("Parse, " + kind, std::to_string(length))
         .library([make] {
-            return [name = bench::wide(make().name), path = std::make_shared<CRbUiPathname>()] {
+            return [name = bench::wide(make().name), path = std::make_shared<bench::Name>()] {
                 benchmark::DoNotOptimize(path->Parse(name.c_str(), false));
             };
         })
@@ -158,6 +158,6 @@ void bench::addPathRows()
         addOwnFolderParse("existing", length, false);
         addOwnFolderParse("relative", length, true);
     }
-    for (const std::size_t length : {32, 64, 128, 256, 512})
+    for (const std::size_t length : kGrowingLengths)
         addGrowth(length);
 }

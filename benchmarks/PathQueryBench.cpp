@@ -4,9 +4,8 @@
 // are measured in pairs that end where they began, so that no call has to copy the name first.
 #include "support/Fixture.h"
 #include "support/HandWritten.h"
+#include "support/Name.h"
 #include "support/Rows.h"
-
-#include <KtQtBase/PathName.h>
 
 #include <cstddef>
 #include <memory>
@@ -24,11 +23,11 @@ std::string sizeOf(std::size_t length)
 }
 
 // A parsed relative name of a length below the private folder.
-std::shared_ptr<CRbUiPathname> parsed(std::size_t length)
+std::shared_ptr<bench::Name> parsed(std::size_t length)
 {
     CRbUiPathname base;
     base.ParseRelative(bench::wide(bench::folder()).c_str(), nullptr, false);
-    auto path = std::make_shared<CRbUiPathname>();
+    auto path = std::make_shared<bench::Name>();
     path->ParseRelative(bench::wide(bench::relativeName(length)).c_str(), &base, false);
     return path;
 }
@@ -95,7 +94,7 @@ void addParent(std::size_t length)
 {
     Row("GetParent", sizeOf(length))
         .library([=] {
-            return [path = parsed(length), parent = std::make_shared<CRbUiPathname>()] {
+            return [path = parsed(length), parent = std::make_shared<bench::Name>()] {
                 path->GetParent(*parent);
             };
         })

@@ -14,6 +14,7 @@
 #include <glib.h>
 #include <ini.h>
 
+#include <cstddef>
 #include <cstring>
 #include <fstream>
 #include <memory>
@@ -25,6 +26,8 @@
 namespace {
 
 using bench::Row;
+
+const std::size_t kGrowingKilobytes[] = {1, 4, 16, 64, 256};
 
 constexpr std::size_t kKilobyte = 1024;
 constexpr int kKeysInSection = 16;
@@ -170,7 +173,7 @@ void bench::addProfileRows()
     addProfile("1 KB", kKilobyte);
     addProfile("64 KB", 64 * kKilobyte);
     addProfile("1 MB", 1024 * kKilobyte);
-    for (const std::size_t kilobytes : {1, 4, 16, 64, 256}) {
+    for (const std::size_t kilobytes : kGrowingKilobytes) {
         const std::string size = std::to_string(kilobytes) + " KB";
         addQuestion("Profile by size", size.c_str(),
                     [=] { return Profile(kilobytes * kKilobyte).last(); });

@@ -10,11 +10,14 @@
 #include <QtCore/QVector>
 
 #include <algorithm>
+#include <cstddef>
 #include <memory>
 
 namespace {
 
 using bench::Row;
+
+const std::size_t kLengths[] = {10, 100, 1000};
 
 const wchar_t* const kKey = L"Software/Editor/Options";
 const wchar_t* const kName = L"Recent file";
@@ -90,7 +93,7 @@ void addRead(std::size_t length)
 
 void bench::addRegistryRows()
 {
-    for (const std::size_t length : {10, 100, 1000}) {
+    for (const std::size_t length : kLengths) {
         addWrite(length);
         addRead(length);
     }

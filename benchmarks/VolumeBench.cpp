@@ -2,9 +2,9 @@
 //
 // Looking a volume up by its local name at the end of the list, beside a search through a plain
 // vector of the same names.
+#include "support/Name.h"
 #include "support/Rows.h"
 
-#include <KtQtBase/PathName.h>
 #include <KtQtBase/VolumeDescriptor.h>
 
 #include <algorithm>
@@ -58,7 +58,7 @@ void addLookup(int length)
     Row("FindVolumeDescriptor", std::to_string(length))
         .library([=] {
             return [list = std::make_shared<LongList>(length),
-                    path = std::make_shared<CRbUiPathname>(), name = volumeName(length - 1)] {
+                    path = std::make_shared<bench::Name>(), name = volumeName(length - 1)] {
                 benchmark::DoNotOptimize(path->FindVolumeDescriptor(name));
             };
         })
