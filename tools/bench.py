@@ -152,7 +152,7 @@ def better(row, other):
 
 def duration(nanoseconds):
     for unit, factor in (("s", 1e9), ("ms", 1e6), ("µs", 1e3)):
-        if nanoseconds >= factor:
+        if nanoseconds >= 0.9995 * factor:
             return f"{nanoseconds / factor:.3g} {unit}"
     return f"{nanoseconds:.3g} ns"
 
