@@ -3,9 +3,11 @@
 // The allocation functions of the GNU C library, found before its own because they lie in the
 // program.
 #include "support/AllocationCounter.h"
+#include "support/AllocationLimit.h"
 
 #include <atomic>
 #include <cstddef>
+#include <cstdint>
 
 extern "C" {
 void* __libc_malloc(std::size_t size);
@@ -15,13 +17,17 @@ void* __libc_realloc(void* block, std::size_t size);
 
 namespace {
 
+constexpr std::size_t kNoLimit = SIZE_MAX;
+
 std::atomic<long> allocations{0};
 std::atomic<long> allocatedBytes{0};
+std::atomic<std::size_t> limit{kNoLimit};
 
-void count(std::size_t size)
+bool allows(std::size_t size)
 {
     ++allocations;
     allocatedBytes += static_cast<long>(size);
+    return size < limit;
 }
 
 } // namespace
@@ -30,20 +36,17 @@ extern "C" {
 
 __attribute__((visibility("default"))) void* malloc(std::size_t size)
 {
-    count(size);
-    return __libc_malloc(size);
+    return allows(size) ? __libc_malloc(size) : nullptr;
 }
 
-__attribute__((visibility("default"))) void* calloc(std::size_t items, std::size_t size)
+__attribute__((visibility("default"))) void* calloc(std::size_t count, std::size_t size)
 {
-    count(items * size);
-    return __libc_calloc(items, size);
+    return allows(count * size) ? __libc_calloc(count, size) : nullptr;
 }
 
 __attribute__((visibility("default"))) void* realloc(void* block, std::size_t size)
 {
-    count(size);
-    return __libc_realloc(block, size);
+    return allows(size) ? __libc_realloc(block, size) : nullptr;
 }
 }
 
@@ -55,4 +58,14 @@ long support::AllocationCounter::total()
 long support::AllocationCounter::totalBytes()
 {
     return allocatedBytes;
+}
+
+support::AllocationLimit::AllocationLimit(std::size_t bytes)
+{
+    limit = bytes;
+}
+
+support::AllocationLimit::~AllocationLimit()
+{
+    limit = kNoLimit;
 }
