@@ -8,7 +8,7 @@
 //     dialog.GetOFN().nFilterIndex = 1;
 //     dialog.GetOFN().lpstrInitialDir = L"C:\\data\\in";
 //     if (dialog.DoModal() == IDOK) {
-//         POSITION pos = dialog.GetStartPosition() const;
+//         POSITION pos = dialog.GetStartPosition();
 //         while (pos)
 //             import(dialog.GetNextPathName(pos));
 //     }
@@ -38,11 +38,11 @@ class KTQTBASE_EXPORT KtQFileDialgAttri
 public:
     ~KtQFileDialgAttri();
 
-    QFileDialog::AcceptMode m_nAcceptMode = QFileDialog::AcceptOpen;
-    QString m_strDefaultExt; // as given; not used
-    QString m_strFileName;   // as given; not used
+    int m_nAcceptMode = QFileDialog::AcceptOpen; // a QFileDialog::AcceptMode
+    QString m_strDefaultExt;                     // as given; not used
+    QString m_strFileName;                       // as given; not used
     QString m_strSelectFile;
-    QFileDialog::FileMode m_nFileMode = QFileDialog::AnyFile;
+    int m_nFileMode = QFileDialog::AnyFile; // a QFileDialog::FileMode
     QString m_strNameFilter;
     QStringList m_listNameFilter;
     QString m_strInitNameFilter;
@@ -63,7 +63,8 @@ public:
     //   pParentWnd         in: the parent window, or null; stays the caller's
     //   dwSize             not used
     //   bVistaStyle        not used
-    // Null texts are empty. Nothing of this reaches the block.
+    // Null texts are empty. Nothing of this reaches the block. The object must die before the
+    // QApplication does, and a parent must live through every DoModal.
     // On Windows: the arguments fill the block, and the flags decide whether several files may be
     // selected.
     explicit KtQtFileDialog(bool bOpenFileDialog, const wchar_t* lpszDefExt = nullptr,
@@ -84,12 +85,13 @@ public:
     //                      the top of the file system
     //   lpstrFilter        in: the filters, in Qt's form up to the first NUL
     //   nFilterIndex       in: the number of the filter that is active, from 1; a number outside
-    //                      the list chooses none. out: that of the filter in force at the end
-    //   lpstrFile          in: the file that is selected; only its name counts where
-    //   lpstrInitialDir
-    //                      names another folder
+    //                      the list chooses none. out, after an accepted run with a selection: that
+    //                      of the filter in force at the end, 0 where none is equal to it
+    //   lpstrFile          in: the file that is selected, with slashes; only its name counts, also
+    //                      where lpstrInitialDir is empty: it is then one of the top folder
     // Null texts are empty. The texts stay the caller's and are read by DoModal.
-    // On Windows: the path chosen is written to lpstrFile; here it is only read.
+    // On Windows: the path chosen is written to lpstrFile; here it is only read. Without
+    // lpstrInitialDir the folder of lpstrFile or the current one is shown.
     OPENFILENAMEW& GetOFN();
 
     // Shows the dialog and waits until the user is done with it.

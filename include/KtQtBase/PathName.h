@@ -14,8 +14,8 @@
 // the name denotes. The drive stays in the name: how C: maps to a place in the file system is not
 // decided here. Names of the form \\server\share are refused.
 //
-// A path name never changes the file system, never follows a link by itself and never removes "."
-// or ".." from a name.
+// Only Rename changes the file system. Look-ups follow symbolic links, and a link whose target is
+// missing counts as not found. "." and ".." are never taken out of a name.
 #ifndef KTQTBASE_PATHNAME_H
 #define KTQTBASE_PATHNAME_H
 

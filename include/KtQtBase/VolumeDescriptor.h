@@ -84,7 +84,9 @@ public:
     // Describes the volume of a local name.
     //   localName    in: drive or share name such as L"C:", copied as it is
     // Sets every field but m_fsType and bit 7 of m_flags, which keep what the memory held.
-    // Kept: bit 7 survives, for hosts that mark the memory before they construct in it.
+    // Kept: bit 7 survives, for hosts that mark the memory before they construct in it. A compiler
+    // that sees the constructor of a derived class together with the mark may drop the mark: g++
+    // keeps it with -fno-lifetime-dse.
     explicit CRbUiVolumeDescriptor(const CStdStr<wchar_t>& localName);
 
     // Deletes the three owned strings.
@@ -173,8 +175,9 @@ public:
 // ---- NTFS rules --------------------------------------------------------------------------------
 
 // A volume with the naming rules of NTFS and its separator, the backslash. There is no rule about
-// reserved device names, closing dots or blanks, or a least length. Reading is up to the first
-// terminator; a null name must not be passed.
+// reserved device names, closing dots or blanks, or a least length. Forbidden characters are looked
+// for up to the first terminator; length, colon and doubled backslash count in the whole string. A
+// null name must not be passed.
 class KTQTBASE_EXPORT CRbUiNTFSVolumeDescriptor : public CRbUiVolumeDescriptor
 {
 public:

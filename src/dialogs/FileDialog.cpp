@@ -26,9 +26,9 @@ void readBlock(KtQtFileDialog& self)
 
 void setUp(QFileDialog& dialog, const KtQFileDialgAttri& attri)
 {
-    dialog.setAcceptMode(attri.m_nAcceptMode);
+    dialog.setAcceptMode(static_cast<QFileDialog::AcceptMode>(attri.m_nAcceptMode));
     dialog.selectFile(attri.m_strSelectFile);
-    dialog.setFileMode(attri.m_nFileMode);
+    dialog.setFileMode(static_cast<QFileDialog::FileMode>(attri.m_nFileMode));
     dialog.setNameFilter(attri.m_strNameFilter);
     dialog.selectNameFilter(attri.m_strInitNameFilter);
     dialog.setLabelText(QFileDialog::FileType, QStringLiteral("File Format:"));
@@ -125,5 +125,7 @@ CStdStr<wchar_t> KtQtFileDialog::GetNextPathName(POSITION& pos) const
         return CStdStr<wchar_t>();
     const auto left = reinterpret_cast<std::uintptr_t>(pos);
     pos = reinterpret_cast<POSITION>(left - 1);
+    if (left > m_nSelectedCount)
+        return CStdStr<wchar_t>();
     return toWide(m_listSelectedFiles.value(static_cast<int>(m_nSelectedCount - left)));
 }

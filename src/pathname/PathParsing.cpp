@@ -73,7 +73,10 @@ int CRbUiPathname::ParseRelative(const wchar_t* name, const CRbUiPathname* base,
         return 1;
     // Copied first: the name may lie in the strings that are freed next.
     const ktqtbase::TextRange bare = bareName(name);
-    auto text = std::make_unique<CStdStr<wchar_t>>(bare.begin, bare.end);
+    auto text = std::make_unique<CStdStr<wchar_t>>();
+    // And room for the separator that AppendSlash puts behind a folder.
+    text->reserve(bare.size() + 1);
+    text->assign(bare.begin, bare.end);
     const bool hasColon = std::wcschr(name, kColon);
     Empty();
     if (text->empty() || hasSeveralColons(*text))
@@ -157,7 +160,7 @@ int GetPathCatType(wchar_t first, wchar_t second, wchar_t sep, path_category& ca
     } else if (second == kColon && ktqtbase::isLetter(first)) {
         cat = PC_DRIVE;
         if (!s->empty())
-            s->front() = ktqtbase::upperCase(first);
+            s->front() = ktqtbase::upperCase(s->front());
         return 0;
     }
     if (holds(*s, kColon))

@@ -5,13 +5,18 @@
 
 namespace {
 
-// Null, 1 (the main program) and -1 (no handle) name no module. The macOS loader refuses them
-// itself; the one of the GNU C library takes null for the global scope and reads what any other
-// value points at.
+// Null and 1 (the main program) name no module. The macOS loader refuses them itself; the one of the
+// GNU C library takes null for the global scope and reads what 1 points at.
 bool isModule(void* handle)
 {
-    const auto value = reinterpret_cast<std::intptr_t>(handle);
-    return value != 0 && value != 1 && value != -1;
+    return handle && handle != reinterpret_cast<void*>(1);
+}
+
+// Neither does -1 (no handle), in which both loaders look symbols up and which only that of macOS
+// refuses to close.
+bool canBeClosed(void* handle)
+{
+    return isModule(handle) && handle != reinterpret_cast<void*>(-1);
 }
 
 } // namespace
@@ -30,7 +35,7 @@ void* findSymbol(void* module, const char* name)
 
 int closeModule(void* module)
 {
-    return isModule(module) ? dlclose(module) : -1;
+    return canBeClosed(module) ? dlclose(module) : -1;
 }
 
 int moduleFileName(const void* address, const char** fileName)

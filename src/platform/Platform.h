@@ -28,7 +28,8 @@ int mainScreenWidth();
 int mainScreenHeight();
 
 // The dynamic loader, with lazy binding. A null handle, and the handle 1 that stands for the main
-// program, name no module: no symbol is found in them and closing them fails (non-zero).
+// program, name no module: no symbol is found in them and closing them fails (non-zero). So does
+// closing -1.
 void* openModule(const char* fileName);
 void* findSymbol(void* module, const char* name);
 int closeModule(void* module);

@@ -39,7 +39,8 @@ namespace ktqtbase::platform {
 
 int executablePath(char* buffer, std::uint32_t* size)
 {
-    static const std::string path = readExecutablePath();
+    // Asked once, for the executable does not move; never freed, for hosts ask while they exit.
+    static const std::string& path = *new const std::string(readExecutablePath());
     const auto needed = static_cast<std::uint32_t>(path.empty() ? 0 : path.size() + 1);
     if (needed == 0 || needed > *size) {
         *size = needed;

@@ -29,17 +29,8 @@ namespace ktqtbase {
 
 NarrowText::NarrowText(const wchar_t* wide)
 {
-    if (!wide || copyAscii(wide))
-        return;
-    // Not four bytes a character: some C libraries write six for values beyond the last code point,
-    // and a room too small would cut the text without a terminator.
-    const std::size_t room = std::wcslen(wide) * MB_CUR_MAX + 1;
-    if (room <= kShortRoom) {
-        convert(wide, m_short, kShortRoom);
-        return;
-    }
-    m_long = std::make_unique<char[]>(room);
-    convert(wide, m_long.get(), room);
+    if (wide && !copyAscii(wide))
+        convertAny(wide);
 }
 
 // Takes a short ASCII text, which is the same bytes in every LC_CTYPE: at the length of a usual
@@ -58,6 +49,19 @@ bool NarrowText::copyAscii(const wchar_t* wide)
         }
     }
     return false;
+}
+
+void NarrowText::convertAny(const wchar_t* wide)
+{
+    // Not four bytes a character: some C libraries write six for values beyond the last code point,
+    // and a room too small would cut the text without a terminator.
+    const std::size_t room = std::wcslen(wide) * MB_CUR_MAX + 1;
+    if (room <= kShortRoom) {
+        convert(wide, m_short, kShortRoom);
+        return;
+    }
+    m_long = std::make_unique<char[]>(room);
+    convert(wide, m_long.get(), room);
 }
 
 void NarrowText::convert(const wchar_t* wide, char* room, std::size_t size)

@@ -29,6 +29,7 @@ private:
     static constexpr std::size_t kShortRoom = 512;
 
     bool copyAscii(const wchar_t* wide);
+    void convertAny(const wchar_t* wide);
     void convert(const wchar_t* wide, char* room, std::size_t size);
 
     char* m_text = nullptr;

@@ -14,5 +14,9 @@ bool CRbUiVolumeDescriptor::VolMatch(const wchar_t* a, const CStdStr<wchar_t>* b
 
 bool CRbUiVolumeDescriptor::VolMatch(const CStdStr<wchar_t>* a, const CStdStr<wchar_t>* b) const
 {
-    return b && CRbUiVolumeDescriptor::VolMatch(a->c_str(), b);
+    if (!b)
+        return false;
+    if (IsCaseSensitive())
+        return *b == *a;
+    return ktqtbase::equalFolded(a->c_str(), b->c_str());
 }

@@ -43,8 +43,8 @@ public:
     //   width, height    in: pixels
     //   bytesPerPixel    in: 4. It sizes the back image's buffer and rows and nothing else: below 4
     //                    there is no back image (QImage::isNull), above 4 rows have a gap
-    // A negative argument, a size in bytes above 2^31 - 1 or memory that is refused leaves no
-    // images. Sizes of 0 give null images, and count as made.
+    // A negative argument, a size in bytes above 2^31 - 1, a size that QImage refuses or memory that
+    // is refused leaves no images. Sizes of 0 give null images, and count as made.
     // Kept: the widget's size is compared and not the images'; hosts call this before every paint
     // at the size of the widget. Reads the widget only where images exist; it must not be null
     // then.
@@ -68,7 +68,9 @@ public:
     KtQtPainterWrapper* memPainter() const;
     KtQtPainterWrapper* frontPainter() const;
 
-    // Result: an image, or null while there are none; valid until the images are destroyed.
+    // Result: an image, or null while there are none; valid until the images are destroyed. A copy
+    // of it shares its pixels, and painting then moves the image away from memBits(): take
+    // QImage::copy() of an image that is still painted on.
     QImage* memImage() const;
     QImage* frontImage() const;
 

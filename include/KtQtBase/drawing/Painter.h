@@ -15,8 +15,9 @@
 // that it names.
 //
 // Settings and drawing act on the painter while it paints, that is between beginDraw and endDraw.
-// Outside, Qt prints a warning and does nothing. Nothing is checked for null but where a function
-// says so. Points and text belong to the caller and are read during the call.
+// Outside, Qt does nothing, mostly with a warning; setClipRegion and the path bracket work at all
+// times. Nothing is checked for null but where a function says so. Points and text belong to the
+// caller and are read during the call.
 #ifndef KTQTBASE_DRAWING_PAINTER_H
 #define KTQTBASE_DRAWING_PAINTER_H
 
@@ -72,11 +73,12 @@ public:
     // Kept: true even where the device refuses to be painted on (a null image, one that is already
     // painted on); hosts go on, and Qt ignores what they draw.
     // Kept: the brush fills; set Qt::NoBrush for an outline.
-    // On Windows: a device context keeps its settings from one use to the next and starts white.
+    // On Windows: the default brush is white, and only private contexts keep their settings.
     bool beginDraw();
 
     // Undoes the settings and ends painting. A device must not be destroyed before this.
-    // Result: false without a device, and nothing happens; else whether a painting was ended.
+    // Result: false without a device, and nothing happens, so that a painting whose device was taken
+    // away goes on; else whether a painting was ended.
     bool endDraw();
 
     // Saves the painter's whole state, or takes the last one saved back. Each save needs its
@@ -171,6 +173,7 @@ public:
     //   operation    in: how it joins the clip that is set; Qt::NoClip removes clipping
     // Give an empty rectangle with Qt::NoClip: to any other one Qt still cuts text that has an
     // opaque background.
+    // On Windows: right and bottom are not part of the rectangle.
     void setClipRect(const QRect& rect, Qt::ClipOperation operation);
 
     // Stores a clip of polygons, which replaces the one there is: at once while painting, and at
@@ -178,8 +181,9 @@ public:
     //   points    in: the corners, polygon after polygon; null removes the clip
     //   counts    in: the number of corners of each polygon; the sum is below 2^31
     //   n         in: the number of polygons; 0 removes the clip
-    // A spot is inside where an odd number of polygons covers it. Polygons without an area remove
-    // the clip.
+    // Corners are in the painter's coordinates; keep them within some thousands, since much larger
+    // polygons are slow, and beyond what Qt can fill they remove the clip. A spot is inside where an
+    // odd number of polygons covers it. Polygons without an area remove the clip.
     // On Windows: the region is an object of its own.
     void setClipRegion(POINT* points, unsigned int* counts, unsigned int n);
 
@@ -240,7 +244,9 @@ public:
     //   x, y    in: the left end of the baseline
     //   text    in: UTF-32
     //   len     in: characters, NULs among them kept; negative for up to the NUL
-    // On Windows: the place is the upper left corner unless set otherwise.
+    // The colour is the pen's; with PS_NULL there is no text.
+    // On Windows: the text has a colour of its own, and the place is the upper left corner unless
+    // set otherwise.
     void drawText(int x, int y, const wchar_t* text, int len);
 
     // Draws a rectangle, filled with a translucent colour and outlined with the pen.
@@ -268,6 +274,7 @@ public:
     // Fills a rectangle; pen and brush play no part and stay.
     //   rect     in: Qt's inclusive rectangle
     //   color    in: the colour
+    // On Windows: right and bottom are not painted, and a brush gives the colour.
     void fillRect(const QRect& rect, Qt::GlobalColor color);
 
     // ---- Fields --------------------------------------------------------------------------------

@@ -32,6 +32,8 @@ public:
     ~CRnUiPathname();
 
     // Parses a name; a relative one is taken as lying in g_CurrentDirPrefix.
+    //   name    in: the name; it may point into this object's own strings
+    //   flag    not used
     // Result: 0 done; 1 a bad name, null, or a relative name while the prefix is unparsed.
     int Parse(const wchar_t* name, bool flag) override;
 

@@ -113,7 +113,8 @@ public:
     // The last character of a text, or 0 for an empty one.
     static wchar_t GetLastCharacter(const CStdStr<wchar_t>& s);
 
-    // The prefix and the work string, joined by one separator. Only a relative name has a prefix.
+    // The prefix and the work string, joined by one separator. The prefix of a rooted name is not
+    // used.
     //   out    out: the full path; untouched where nothing is parsed
     // Result: whether a name is parsed.
     //   f.txt with prefix /home/u => /home/u/f.txt     C:/f.txt => C:/f.txt
@@ -153,6 +154,7 @@ public:
     //   C:file    drive       (stays)          C:/              C:/
     //   name      relative    (stays)          3                3
     //   a/b       relative    (stays)          a/               a
+    // TrimComponent of a root gives the root again, with m_type PT_NOT_FOUND.
 
     // Takes one closing separator off, unless it is the root's.
     int TrimSlash();
@@ -190,7 +192,9 @@ public:
     // A list holds extensions without dots, separated by semicolons; its items are compared whole,
     // and null counts as an empty list. An empty item matches nothing but an empty extension.
     // Results: 0 done; 1 a null extension; 2 nothing parsed. An extension may point into this
-    // object's own strings. A dot in a folder's name is none of an extension's.
+    // object's own strings. A dot in a folder's name is none of an extension's. What is carried out
+    // sets m_type to PT_NOT_FOUND, also where the name stays the same; an IfNoMatch that matches
+    // changes nothing.
 
     // Whether the name's extension is in a list, letters A to Z in any case; with both the list and
     // the extension empty it is, with one of them empty it is not.
@@ -240,7 +244,7 @@ public:
     //   out      out: the form; empty where nothing is parsed
     //   width    in: characters at most, below 12 counts as 12; -1 for the whole work string
     //   aa/bb/cc/dd/file, 12                => .../dd/file
-    //   C:/aa/bb/cc/dd/file, 14, volume C:  => C:\.../dd/file, where that fits, else file
+    //   C:/aa/bb/cc/dd/file, 14, volume C:  => C:\.../dd/file; with 12 C:\.../file
     //   a base name of 30 with .txt, 12     => its first 7 characters, ~.txt
     //   a base name of 30 with ten of extension, 12  => its first 10 characters, ~
     //   /abc/12345678, 12                   => ..., since four places count beside the tail
@@ -251,6 +255,7 @@ public:
 
     // Copies exactly n characters, terminators among them, and a terminator behind them.
     //   dst    out: room for n + 1 characters
+    //   src    in: at least n characters
     //   n      in: how many; a negative number copies and writes nothing
     void lstrncpy_x(wchar_t* dst, const wchar_t* src, int n) const;
 

@@ -38,12 +38,15 @@ KTQTBASE_EXPORT void GetUNCScount(CStdStr<wchar_t>* s, int* index, unsigned int&
 
 // Ends a server and share name of the category PC_UNC with a separator, where nothing follows the
 // share.
+//   cat      in: the category of the text
 //   s        in/out: the text; of every other category it stays as it is, with its drive
+//   sep      in: the separator
 //   index    in: where the part behind the volume begins
 KTQTBASE_EXPORT void GetWorkPtrByIndex(path_category cat, CStdStr<wchar_t>* s, wchar_t sep,
                                        int index);
 
 // Makes the prefix of a name.
+//   cat     in: the category of the name
 //   text    in: the prefix of a rooted name
 //   out     out: PC_RELATIVE: a new string with the full path of *base, null where that is empty;
 //           PC_ROOTED: a new copy of text; untouched for other categories. The caller owns it.
@@ -61,9 +64,9 @@ KTQTBASE_EXPORT bool GetPathBuffer(CStdStr<wchar_t>** relPath, bool flag, CStdSt
 KTQTBASE_EXPORT bool IsPathType(CStdStr<wchar_t> name, path_type* type);
 
 // Asks the file system what a name denotes.
-//   work       in: where the name's pointer lies
-//   relPath    in: where its prefix's pointer lies; both may be null. A slash is put between the
-//              two, also behind a prefix that ends with one.
+//   work       in: where the name's pointer lies; neither may be null
+//   relPath    in: where its prefix's pointer lies; either may be null. A slash is put between the
+//              two texts, also behind a prefix that ends with one.
 //   type       out: where the pointer to the result lies: PT_NOT_FOUND, PT_FILE or PT_DIRECTORY
 KTQTBASE_EXPORT void GetAttByPath(const CStdStr<wchar_t>** work, const CStdStr<wchar_t>** relPath,
                                   path_type** type);
@@ -79,7 +82,8 @@ KTQTBASE_EXPORT void ParseRelPath(CStdStr<wchar_t>** pp, wchar_t sep, path_categ
 
 // Cuts a name before its extension: before its last dot, where that stands behind the last
 // separator.
-//   pp    in/out: where the string's pointer lies
+//   pp     in/out: where the string's pointer lies
+//   sep    in: the separator
 //   L"/d/a.tar.gz" => L"/d/a.tar"     L"/d.x/a" => L"/d.x/a"
 KTQTBASE_EXPORT void GetPathStrNoExt(CStdStr<wchar_t>** pp, wchar_t sep);
 

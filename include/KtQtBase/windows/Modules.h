@@ -41,9 +41,10 @@ KTQTBASE_EXPORT HINSTANCE LoadLibraryEx(const wchar_t* lpLibFileName, void* hFil
                                         unsigned int dwFlags);
 
 // Gives a reference to a module back.
-// Result: false when the module was released, true when releasing failed, as it does for null
-// and 1. Kept: the sense is the loader's (0 is success), and hosts do not rely on the result. On
-// Windows: non-zero means that the module was released.
+// Result: false when the module was released, true when releasing failed, as it does for null, 1
+// and -1.
+// Kept: the sense is the loader's (0 is success), and hosts do not rely on the result.
+// On Windows: non-zero means that the module was released.
 KTQTBASE_EXPORT bool FreeLibrary(HINSTANCE hLibModule);
 
 // Finds a function or an object in a module.
@@ -66,7 +67,8 @@ KTQTBASE_EXPORT HINSTANCE GetModuleHandle(const wchar_t* lpModuleName);
 // The file name of a module.
 //   hModule       in: null or 1 for the main program; any other value is taken as an address inside
 //                 a module
-//   lpFilename    out: the name; a name of nSize characters or more is cut and not terminated
+//   lpFilename    out: the name; a name of nSize characters or more is cut and not terminated;
+//                 null writes nothing
 //   nSize         in: the room in characters; 0 writes nothing
 // Result, main program: 0 when the path was obtained; 0xFFFFFFFF when it has 1,024 bytes or more,
 // with the empty string written. Result, others: non-zero when the loader knows the address; else

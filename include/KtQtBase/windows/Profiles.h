@@ -44,7 +44,8 @@
 //   out            out: the text, zero-terminated, and zeros behind it up to size
 //   size           in: the size of out in bytes, terminator included
 //   fileName       in: the file, in the multibyte encoding of the file system; null is no file
-// All texts are multibyte, none is changed or kept, and names may have any length.
+// All texts are multibyte, none is changed or kept, and names may have any length. No text may lie
+// in out, which is filled with zeros first.
 // Result: the bytes of the text as it was before its quotes were removed, without the terminator.
 //   "Width = 10"        => "10", 2
 //   "Title = \"a b\""   => "a b", 5

@@ -45,6 +45,7 @@ KTQTBASE_EXPORT unsigned int GetTickCount();
 KTQTBASE_EXPORT unsigned int GetLastError();
 
 // Whether a byte begins a two-byte character. Result: what the OS-base library answers.
+// On Windows: bytes from 0x81 up begin one in the code pages of East Asia.
 KTQTBASE_EXPORT int IsDBCSLeadByte(unsigned char TestChar);
 
 } // namespace KtKernel32

@@ -87,7 +87,7 @@ TEST_F(PathAllocation, LeavesCaseBlanksAndTypeAlone)
         {"RemoveSpaces", After::BothStay, true, [](auto& name, auto&) { name.RemoveSpaces(); }},
         {"BaseToLower", After::BothStay, true, [](auto& name, auto&) { name.BaseToLower(); }},
         {"BaseToUpper", After::BothStay, true, [](auto& name, auto&) { name.BaseToUpper(); }},
-        {"Exists", After::BothStay, true, [](auto& name, auto&) { name.Exists(); }},
+        {"Exists", After::BothStay, false, [](auto& name, auto&) { name.Exists(); }},
         {"Rename", After::BothStay, true, [](auto& name, auto&) { name.Rename(kLongText); }},
         {"OpenReadOnly", After::BothStay, true,
          [](auto& name, auto&) {
