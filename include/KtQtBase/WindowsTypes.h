@@ -13,6 +13,7 @@
 #define KTQTBASE_WINDOWSTYPES_H
 
 #include <KtQtBase/windows/Constants.h>
+#include <KtQtBase/windows/Packing.h>
 #include <KtQtBase/windows/Records.h>
 #include <KtQtBase/windows/Scalars.h>
 
