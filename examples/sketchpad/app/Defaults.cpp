@@ -1,0 +1,54 @@
+// SPDX-License-Identifier: MIT
+#include "Defaults.h"
+
+#include "FileNames.h"
+
+#include <KtQtBase/WindowsFunctions.h>
+
+#include <algorithm>
+#include <cwchar>
+
+namespace {
+
+constexpr wchar_t kSection[] = L"Sketchpad";
+
+// The number beside a key. GetPrivateProfileInt would answer 0 for a missing key, whatever default
+// it is given.
+int ProfileNumber(const wchar_t* key, int fallback, int lowest, int highest, const wchar_t* file)
+{
+    wchar_t text[32] = {};
+    GetPrivateProfileString(kSection, key, L"", text, 32, file);
+    wchar_t* end = text;
+    const long number = std::wcstol(text, &end, 0);
+    if (end == text)
+        return fallback;
+    return static_cast<int>(std::clamp<long>(number, lowest, highest));
+}
+
+// A section that is there has at least one key; no other answer tells a file that is not read.
+bool IsRead(const wchar_t* file)
+{
+    wchar_t keys[64] = {};
+    return GetPrivateProfileString(L"", L"", L"", keys, 64, file) > 0 ||
+           GetPrivateProfileString(kSection, L"PenWidth", L"", keys, 64, file) > 0;
+}
+
+} // namespace
+
+CDefaults ReadDefaults(std::wstring& reason)
+{
+    const std::wstring path = BesideExecutable(L"sketchpad.ini");
+    const wchar_t* file = path.c_str();
+    CDefaults defaults;
+    if (IsFolder(path))
+        reason = L"The built-in defaults are used: " + path + L" is a folder";
+    else if (!IsRead(file))
+        reason = L"The built-in defaults are used: " + path + L" is missing or may not be written";
+    defaults.pen.width = ProfileNumber(L"PenWidth", defaults.pen.width, 0, 20, file);
+    defaults.pen.color = static_cast<COLORREF>(
+        ProfileNumber(L"PenColor", static_cast<int>(defaults.pen.color), 0, 0xFFFFFF, file));
+    defaults.paper.cx = ProfileNumber(L"PaperWidth", defaults.paper.cx, 100, 2000, file);
+    defaults.paper.cy = ProfileNumber(L"PaperHeight", defaults.paper.cy, 100, 2000, file);
+    defaults.grid = ProfileNumber(L"Grid", defaults.grid, 0, 200, file);
+    return defaults;
+}

@@ -1,0 +1,99 @@
+// SPDX-License-Identifier: MIT
+#include "FileNames.h"
+
+#include "Narrow.h"
+#include "Reasons.h"
+
+#include <filesystem>
+
+namespace fs = std::filesystem;
+
+namespace {
+
+constexpr int kLongestSegment = 255;
+
+std::wstring SegmentTyped(const std::wstring& typed)
+{
+    return typed.substr(typed.rfind(L'/') + 1);
+}
+
+// Drawings travel to Windows machines, so their names keep to what NTFS takes.
+bool IsValidSegment(const std::wstring& segment)
+{
+    CRbUiNTFSVolumeDescriptor rules(CStdStr<wchar_t>(L"C:"));
+    rules.m_maxComponentLen = kLongestSegment;
+    const CStdStr<wchar_t> text(segment);
+    return rules.ValidateSegment(&text, false);
+}
+
+} // namespace
+
+std::wstring AbsoluteName(const std::wstring& name)
+{
+    const auto bytes = Narrow(name);
+    if (!bytes || bytes->empty())
+        return name;
+    std::error_code error;
+    const fs::path path = fs::absolute(*bytes, error).lexically_normal();
+    return error ? name : WidenForDisplay(path.string());
+}
+
+bool IsFolder(const std::wstring& path)
+{
+    const auto bytes = Narrow(path);
+    std::error_code ignored;
+    return bytes && fs::is_directory(*bytes, ignored);
+}
+
+std::wstring FolderOf(const std::wstring& path)
+{
+    return path.substr(0, path.rfind(L'/') + 1);
+}
+
+std::wstring FullPath(const CRnUiPathname& name)
+{
+    CStdStr<wchar_t> path;
+    name.GetFullPath(path);
+    return path;
+}
+
+std::wstring BesideExecutable(const wchar_t* name)
+{
+    CRnUiPathname path;
+    return path.Parse(name, false) == 0 ? FullPath(path) : std::wstring();
+}
+
+bool TakeSaveName(const std::wstring& typed, const wchar_t* extension, CRnUiPathname& name,
+                  bool& added, std::wstring& reason)
+{
+    const std::wstring segment = SegmentTyped(typed);
+    if (segment.empty() || !IsValidSegment(segment)) {
+        reason = L"a name must not be empty nor hold any of * : < > ? / \\ | \"";
+        return false;
+    }
+    if (name.Parse(typed.c_str(), false) != 0) {
+        reason = kUnusableName;
+        return false;
+    }
+    added = !name.VerifyExtension(extension);
+    name.AddExtensionIfNoMatch(extension);
+    return true;
+}
+
+std::wstring UniqueName(const std::wstring& path)
+{
+    CRnUiPathname name;
+    CRnUiPathname free;
+    if (name.Parse(path.c_str(), false) != 0 || !name.GetUniqueName(free, false))
+        return std::wstring();
+    return FullPath(free);
+}
+
+std::wstring DisplayName(const std::wstring& path, int width)
+{
+    CRnUiPathname name;
+    CStdStr<wchar_t> text;
+    if (name.Parse(path.c_str(), false) == 0)
+        name.GetDisplayName(text, width);
+    return text;
+}

@@ -1,0 +1,17 @@
+// SPDX-License-Identifier: MIT
+//
+// Why something did not work, in words.
+#ifndef SKETCHPAD_REASONS_H
+#define SKETCHPAD_REASONS_H
+
+#include <string>
+#include <system_error>
+
+constexpr wchar_t kUnusableName[] = L"the name is too long, or not valid in this locale";
+
+std::wstring ReasonOf(const std::error_code& error);
+
+// The reason of the last call of the standard library that failed.
+std::wstring LastErrorReason();
+
+#endif

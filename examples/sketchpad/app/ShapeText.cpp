@@ -1,0 +1,118 @@
+// SPDX-License-Identifier: MIT
+#include "ShapeText.h"
+
+#include "Narrow.h"
+
+#include <algorithm>
+#include <iomanip>
+#include <iterator>
+#include <sstream>
+
+namespace {
+
+constexpr const char* kKinds[] = {"line", "polygon", "text"};
+constexpr int kMaxPoints = 100000;
+constexpr int kMaxWidth = 100;
+constexpr char kNoFill[] = "none";
+
+bool ReadKind(std::istream& stream, CShape& shape)
+{
+    std::string word;
+    stream >> word;
+    const auto found = std::find(std::begin(kKinds), std::end(kKinds), word);
+    shape.kind = static_cast<ShapeKind>(found - std::begin(kKinds));
+    return found != std::end(kKinds);
+}
+
+bool ReadPen(std::istream& stream, CPenInfo& pen)
+{
+    std::string color;
+    std::string fill;
+    if (!(stream >> pen.style >> pen.width >> color >> fill))
+        return false;
+    pen.filled = fill != kNoFill;
+    return pen.style >= PS_SOLID && pen.style <= PS_NULL && pen.width >= 0 &&
+           pen.width <= kMaxWidth && ColorFromText(color, pen.color) &&
+           (!pen.filled || ColorFromText(fill, pen.fill));
+}
+
+bool ReadPoints(std::istream& stream, CShape& shape)
+{
+    int count = 0;
+    if (!(stream >> count) || count < 1 || count > kMaxPoints)
+        return false;
+    for (int i = 0; i < count; ++i) {
+        POINT point = {};
+        char comma = 0;
+        if (!(stream >> point.x >> comma >> point.y) || comma != ',')
+            return false;
+        shape.points.push_back(point);
+    }
+    return true;
+}
+
+bool ReadText(std::istream& stream, CShape& shape)
+{
+    std::string rest;
+    std::getline(stream, rest);
+    if (shape.kind != ShapeKind::Text)
+        return rest.empty();
+    const auto text = Widen(rest);
+    if (!text || text->size() < 2)
+        return false;
+    shape.text = text->substr(1); // the blank behind the point
+    return true;
+}
+
+void WriteColor(std::ostream& stream, COLORREF color)
+{
+    stream << std::hex << std::setw(6) << std::setfill('0') << color << std::dec;
+}
+
+void WritePen(std::ostream& stream, const CPenInfo& pen)
+{
+    stream << ' ' << pen.style << ' ' << pen.width << ' ';
+    WriteColor(stream, pen.color);
+    stream << ' ';
+    if (pen.filled)
+        WriteColor(stream, pen.fill);
+    else
+        stream << kNoFill;
+}
+
+} // namespace
+
+bool ColorFromText(const std::string& text, COLORREF& color)
+{
+    if (text.size() != 6 || text.find_first_not_of("0123456789abcdefABCDEF") != std::string::npos)
+        return false;
+    color = static_cast<COLORREF>(std::stoul(text, nullptr, 16));
+    return true;
+}
+
+bool ShapeFromText(const std::string& line, CShape& shape, std::wstring& problem)
+{
+    std::istringstream stream(line);
+    if (!ReadKind(stream, shape))
+        problem = L"no shape begins like this";
+    else if (!ReadPen(stream, shape.pen))
+        problem = L"the pen or the fill is wrong";
+    else if (!ReadPoints(stream, shape))
+        problem = L"a point is missing or wrong";
+    else if (!ReadText(stream, shape))
+        problem = L"the text is missing, or there is one too many";
+    return problem.empty();
+}
+
+std::string TextFromShape(const CShape& shape)
+{
+    std::ostringstream stream;
+    stream << kKinds[static_cast<int>(shape.kind)];
+    WritePen(stream, shape.pen);
+    stream << ' ' << shape.points.size();
+    for (const POINT& point : shape.points)
+        stream << ' ' << point.x << ',' << point.y;
+    if (shape.kind == ShapeKind::Text)
+        stream << ' ' << NarrowForDisplay(shape.text);
+    return stream.str();
+}

@@ -1,0 +1,38 @@
+// SPDX-License-Identifier: MIT
+//
+// What the tools and the view say to each other. SendMessage answers 0 whatever the receiver does:
+// answers travel through the memory that lParam points to.
+#ifndef SKETCHPAD_SKETCHMESSAGES_H
+#define SKETCHPAD_SKETCHMESSAGES_H
+
+#include <KtQtBase/WindowsTypes.h>
+
+constexpr UINT WM_SKETCH_ADDSHAPE = WM_USER + 1;  // lParam: const CShape*
+constexpr UINT WM_SKETCH_PREVIEW = WM_USER + 2;   // lParam: const CShape*, or 0 to end it
+constexpr UINT WM_SKETCH_GETPEN = WM_USER + 3;    // lParam: CPenInfo*, written
+constexpr UINT WM_SKETCH_SETPEN = WM_USER + 4;    // lParam: const CPenInfo*
+constexpr UINT WM_SKETCH_SELECT = WM_USER + 5;    // lParam: const CRect*
+constexpr UINT WM_SKETCH_DRAGRECT = WM_USER + 6;  // lParam: const CRect*, or 0 to end it
+constexpr UINT WM_SKETCH_SETTOOL = WM_USER + 7;   // wParam: a ToolId
+constexpr UINT WM_SKETCH_GETCOUNTS = WM_USER + 8; // lParam: CSketchCounts*, written
+constexpr UINT WM_SKETCH_CHANGED = WM_USER + 9;   // posted when the drawing is not as it was
+
+struct CSketchCounts
+{
+    int shapes = -1;
+    int selected = -1;
+};
+
+enum ToolId : unsigned int
+{
+    TOOL_SELECT,
+    TOOL_FREEHAND,
+    TOOL_LINE,
+    TOOL_RECTANGLE,
+    TOOL_ELLIPSE,
+    TOOL_TEXT,
+    TOOL_PLUGIN,
+    TOOL_COUNT
+};
+
+#endif

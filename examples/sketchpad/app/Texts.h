@@ -1,0 +1,22 @@
+// SPDX-License-Identifier: MIT
+//
+// The program's texts: from the resource module, or the built-in ones where that is missing.
+#ifndef SKETCHPAD_TEXTS_H
+#define SKETCHPAD_TEXTS_H
+
+#include "TextIds.h"
+
+#include <string>
+
+// Loads the resource module that lies beside the executable. Comes before all else, since it also
+// sets the locale in which names convert; and after the application object, which resets that.
+// Result: an empty text, or why the built-in texts are used.
+std::wstring LoadTexts();
+
+std::wstring Text(TextId id);
+
+// The text with its %ls replaced.
+std::wstring Text(TextId id, const std::wstring& argument);
+std::wstring Text(TextId id, const std::wstring& first, const std::wstring& second);
+
+#endif
