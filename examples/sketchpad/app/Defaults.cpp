@@ -2,11 +2,13 @@
 #include "Defaults.h"
 
 #include "FileNames.h"
+#include "Narrow.h"
 
 #include <KtQtBase/WindowsFunctions.h>
 
 #include <algorithm>
 #include <cwchar>
+#include <fstream>
 
 namespace {
 
@@ -25,12 +27,11 @@ int ProfileNumber(const wchar_t* key, int fallback, int lowest, int highest, con
     return static_cast<int>(std::clamp<long>(number, lowest, highest));
 }
 
-// A section that is there has at least one key; no other answer tells a file that is not read.
-bool IsRead(const wchar_t* file)
+// The profile functions open a file for reading and writing, and one that refuses that is absent.
+bool IsRead(const std::wstring& path)
 {
-    wchar_t keys[64] = {};
-    return GetPrivateProfileString(L"", L"", L"", keys, 64, file) > 0 ||
-           GetPrivateProfileString(kSection, L"PenWidth", L"", keys, 64, file) > 0;
+    return std::fstream(Narrow(path).value_or(std::string()), std::ios::in | std::ios::out)
+        .is_open();
 }
 
 } // namespace
@@ -42,7 +43,7 @@ CDefaults ReadDefaults(std::wstring& reason)
     CDefaults defaults;
     if (IsFolder(path))
         reason = L"The built-in defaults are used: " + path + L" is a folder";
-    else if (!IsRead(file))
+    else if (!IsRead(path))
         reason = L"The built-in defaults are used: " + path + L" is missing or may not be written";
     defaults.pen.width = ProfileNumber(L"PenWidth", defaults.pen.width, 0, 20, file);
     defaults.pen.color = static_cast<COLORREF>(

@@ -48,9 +48,16 @@ void CSketchApp::UpdateFrame()
     const std::wstring changed = m_document.IsModified() ? L"*" : L"";
     m_shell.SetWindowText(NameForPeople() + changed + L" - " + Text(IDS_APPTITLE));
     m_shell.SetRecentFiles(ReadRecentFiles());
-    if (const int selected = m_view.CountSelected())
-        m_shell.ShowLine(Text(IDS_SELECTED, std::to_wstring(selected)));
+    ShowSelection();
     m_shell.Refresh();
+}
+
+void CSketchApp::ShowSelection()
+{
+    const int selected = m_view.CountSelected();
+    if (selected != m_nShownSelected && selected > 0)
+        m_shell.ShowLine(Text(IDS_SELECTED, std::to_wstring(selected)));
+    m_nShownSelected = selected;
 }
 
 void CSketchApp::OnFileNew(UINT)

@@ -68,10 +68,12 @@ private:
     bool WriteDocument(const std::wstring& path);
     void Remember(const std::wstring& path);
     std::wstring NameForPeople() const;
+    void ShowSelection();
 
     CShell& m_shell;
     CSketchDoc m_document;
     CSketchView m_view;
+    int m_nShownSelected = 0;
 };
 
 #endif

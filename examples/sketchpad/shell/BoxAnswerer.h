@@ -22,6 +22,9 @@ public:
     void answerNext(bool yes) { m_answers.append(yes); }
     void chooseNext(const QString& name) { m_choices.append(name); }
 
+    // Whether an answer or a choice is left that nothing asked for.
+    bool hasLeftovers() const { return !m_answers.isEmpty() || !m_choices.isEmpty(); }
+
     // Called with each box's text and its answer; expected is false where no answer was ready.
     std::function<void(const QString& text, bool yes, bool expected)> answered;
 

@@ -55,6 +55,8 @@ void ScriptPlayer::finish()
 {
     if (!m_window.close())
         fail("the window did not close");
+    if (m_answerer.hasLeftovers())
+        fail("nothing asked for an answer or a name that was ready");
     QApplication::exit(m_failures == 0 ? 0 : 1);
 }
 
