@@ -1,0 +1,131 @@
+// SPDX-License-Identifier: MIT
+#include "Person.h"
+
+#include <QtCore/QElapsedTimer>
+#include <QtCore/QThread>
+#include <QtGui/QGuiApplication>
+#include <QtGui/QScreen>
+
+namespace {
+
+constexpr int kPatience = 10000;
+constexpr int kMoveSteps = 4;
+
+QString xdotool(const QStringList& arguments)
+{
+    QProcess process;
+    process.start(QStringLiteral(XDOTOOL), arguments);
+    process.waitForFinished(kPatience);
+    return QString::fromUtf8(process.readAllStandardOutput()).trimmed();
+}
+
+QStringList place(const QPoint& point)
+{
+    return {QString::number(point.x()), QString::number(point.y())};
+}
+
+} // namespace
+
+Person::Person(const Host& host, const QStringList& arguments)
+{
+    host.prepare(m_program, arguments);
+    m_program.setProcessChannelMode(QProcess::ForwardedErrorChannel);
+    m_program.start();
+    if (waitForTitle(" - Sketchpad"))
+        m_window = xdotool({"getactivewindow"});
+}
+
+Person::~Person()
+{
+    m_program.kill();
+    m_program.waitForFinished(kPatience);
+}
+
+bool Person::waitFor(const std::function<bool()>& condition)
+{
+    QElapsedTimer timer;
+    timer.start();
+    while (!condition()) {
+        if (timer.elapsed() > kPatience)
+            return false;
+        QThread::msleep(20);
+    }
+    return true;
+}
+
+QString Person::activeTitle()
+{
+    return xdotool({"getactivewindow", "getwindowname"});
+}
+
+bool Person::waitForTitle(const QString& end) const
+{
+    return waitFor([&end] { return activeTitle().endsWith(end); });
+}
+
+bool Person::waitForEnd(int status)
+{
+    return m_program.waitForFinished(kPatience) && m_program.exitCode() == status;
+}
+
+void Person::press(const QString& keys) const
+{
+    xdotool({"key", "--clearmodifiers", keys});
+}
+
+void Person::type(const QString& text) const
+{
+    xdotool({"type", "--delay", "10", text});
+}
+
+void Person::drag(const QPoint& from, const QPoint& to) const
+{
+    xdotool(QStringList{"mousemove", "--sync", "--window", m_window} + place(from));
+    xdotool({"mousedown", "1"});
+    for (int step = 1; step <= kMoveSteps; ++step)
+        xdotool(QStringList{"mousemove", "--window", m_window} +
+                place(from + (to - from) * step / kMoveSteps));
+    xdotool({"mouseup", "1"});
+}
+
+// The first Return may only take a name that the field proposes.
+bool Person::answerDialog(const QString& title, const QString& name) const
+{
+    if (!waitForTitle(title))
+        return false;
+    type(name);
+    return waitFor([this, &title] {
+        press("Return");
+        QThread::msleep(100);
+        return activeTitle() != title;
+    });
+}
+
+void Person::moveWindow(const QPoint& point) const
+{
+    xdotool(QStringList{"windowmove", "--sync", m_window} + place(point));
+}
+
+QRect Person::windowRect() const
+{
+    QRect rect;
+    for (const QString& line : xdotool({"getwindowgeometry", "--shell", m_window}).split('\n')) {
+        const int number = line.section('=', 1).toInt();
+        if (line.startsWith("X="))
+            rect.moveLeft(number);
+        else if (line.startsWith("Y="))
+            rect.moveTop(number);
+        else if (line.startsWith("WIDTH="))
+            rect.setWidth(number);
+        else if (line.startsWith("HEIGHT="))
+            rect.setHeight(number);
+    }
+    return rect;
+}
+
+QPixmap Person::picture() const
+{
+    const QRect framed = windowRect().adjusted(-1, -20, 1, 5);
+    return QGuiApplication::primaryScreen()->grabWindow(0, framed.x(), framed.y(), framed.width(),
+                                                        framed.height());
+}

@@ -1,0 +1,47 @@
+// SPDX-License-Identifier: MIT
+//
+// Someone at the keyboard and the mouse of an X display, outside of the drawing program's process.
+#ifndef KTQTBASE_TESTS_EXAMPLES_SKETCHPAD_PERSON_H
+#define KTQTBASE_TESTS_EXAMPLES_SKETCHPAD_PERSON_H
+
+#include "Host.h"
+
+#include <QtCore/QPoint>
+#include <QtCore/QRect>
+#include <QtGui/QPixmap>
+
+#include <functional>
+
+class Person
+{
+public:
+    // Starts the program and waits for its window to be active.
+    explicit Person(const Host& host, const QStringList& arguments = QStringList());
+    // The program is killed where it still runs.
+    ~Person();
+
+    // Each result says whether it happened within some seconds.
+    static bool waitFor(const std::function<bool()>& condition);
+    bool waitForTitle(const QString& end) const; // of the active window
+    bool waitForEnd(int status);
+
+    void press(const QString& keys) const;
+    void type(const QString& text) const;
+    // With the left button from one place of the main window to another.
+    void drag(const QPoint& from, const QPoint& to) const;
+
+    // Types a name into the dialog of this title and waits until the dialog is gone.
+    bool answerDialog(const QString& title, const QString& name) const;
+
+    void moveWindow(const QPoint& place) const;
+    QRect windowRect() const; // without its frame, on the screen
+    QPixmap picture() const;  // with its frame
+
+    static QString activeTitle();
+
+private:
+    QProcess m_program;
+    QString m_window;
+};
+
+#endif
