@@ -15,6 +15,7 @@ namespace {
 constexpr wchar_t kDrawing[] = L"sketch";
 constexpr wchar_t kPdf[] = L"pdf";
 constexpr int kNameWidth = 40;
+constexpr int kTitleWidth = 24;
 constexpr int kStatusExists = 1;
 
 // The window's input, off for as long as a dialog runs.
@@ -203,5 +204,5 @@ void CSketchApp::Remember(const std::wstring& path)
 std::wstring CSketchApp::NameForPeople() const
 {
     const std::wstring& path = m_document.GetPathName();
-    return path.empty() ? Text(IDS_UNTITLED) : DisplayName(path, kNameWidth);
+    return path.empty() ? Text(IDS_UNTITLED) : DisplayName(path, kTitleWidth);
 }

@@ -130,16 +130,19 @@ void MainWindow::makeFillMenu()
                ID_FILL_COLOR_FIRST);
 }
 
+// Without its frame, whose size is not known before the window is shown.
 void MainWindow::placeWindow()
 {
-    resize(sizeHint());
+    const int screenWidth = GetSystemMetrics(SM_CXFULLSCREEN);
+    const int screenHeight = GetSystemMetrics(SM_CYFULLSCREEN);
+    const QSize size = sizeHint();
+    QRect rect((screenWidth - size.width()) / 2, (screenHeight - size.height()) / 2, size.width(),
+               size.height());
     const auto place = ReadWindowPlace();
-    if (!place || place->left < 0 || place->top < 0 ||
-        place->left > GetSystemMetrics(SM_CXFULLSCREEN) - kVisiblePart ||
-        place->top > GetSystemMetrics(SM_CYFULLSCREEN) - kVisiblePart)
-        return;
-    move(place->left, place->top);
-    resize(place->right - place->left, place->bottom - place->top);
+    if (place && place->left >= 0 && place->top >= 0 && place->left < screenWidth - kVisiblePart &&
+        place->top < screenHeight - kVisiblePart)
+        rect.setCoords(place->left, place->top, place->right - 1, place->bottom - 1);
+    setGeometry(rect);
 }
 
 bool MainWindow::saveScreenshot(const std::wstring& path)
@@ -193,6 +196,7 @@ void MainWindow::closeEvent(QCloseEvent* event)
         event->ignore();
         return;
     }
-    WriteWindowPlace(CRect(x(), y(), x() + width(), y() + height()));
+    const QRect rect = geometry();
+    WriteWindowPlace(CRect(rect.x(), rect.y(), rect.x() + rect.width(), rect.y() + rect.height()));
     event->accept();
 }

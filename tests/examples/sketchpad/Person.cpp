@@ -2,6 +2,7 @@
 #include "Person.h"
 
 #include <QtCore/QElapsedTimer>
+#include <QtCore/QRect>
 #include <QtCore/QThread>
 #include <QtGui/QGuiApplication>
 #include <QtGui/QScreen>
@@ -22,6 +23,14 @@ QString xdotool(const QStringList& arguments)
 QStringList place(const QPoint& point)
 {
     return {QString::number(point.x()), QString::number(point.y())};
+}
+
+int valueIn(const QString& shell, const QString& name)
+{
+    for (const QString& line : shell.split('\n'))
+        if (line.startsWith(name))
+            return line.mid(name.size()).toInt();
+    return 0;
 }
 
 } // namespace
@@ -80,7 +89,7 @@ void Person::type(const QString& text) const
 
 void Person::drag(const QPoint& from, const QPoint& to) const
 {
-    xdotool(QStringList{"mousemove", "--sync", "--window", m_window} + place(from));
+    xdotool(QStringList{"mousemove", "--window", m_window} + place(from));
     xdotool({"mousedown", "1"});
     for (int step = 1; step <= kMoveSteps; ++step)
         xdotool(QStringList{"mousemove", "--window", m_window} +
@@ -106,26 +115,19 @@ void Person::moveWindow(const QPoint& point) const
     xdotool(QStringList{"windowmove", "--sync", m_window} + place(point));
 }
 
-QRect Person::windowRect() const
+// By way of the mouse, since xdotool counts the frame twice for some windows.
+QPoint Person::windowPlace() const
 {
-    QRect rect;
-    for (const QString& line : xdotool({"getwindowgeometry", "--shell", m_window}).split('\n')) {
-        const int number = line.section('=', 1).toInt();
-        if (line.startsWith("X="))
-            rect.moveLeft(number);
-        else if (line.startsWith("Y="))
-            rect.moveTop(number);
-        else if (line.startsWith("WIDTH="))
-            rect.setWidth(number);
-        else if (line.startsWith("HEIGHT="))
-            rect.setHeight(number);
-    }
-    return rect;
+    xdotool({"mousemove", "--window", m_window, "0", "0"});
+    const QString shell = xdotool({"getmouselocation", "--shell"});
+    return QPoint(valueIn(shell, "X="), valueIn(shell, "Y="));
 }
 
 QPixmap Person::picture() const
 {
-    const QRect framed = windowRect().adjusted(-1, -20, 1, 5);
+    const QString shell = xdotool({"getwindowgeometry", "--shell", m_window});
+    const QSize size(valueIn(shell, "WIDTH="), valueIn(shell, "HEIGHT="));
+    const QRect framed = QRect(windowPlace(), size).adjusted(-1, -20, 1, 5);
     return QGuiApplication::primaryScreen()->grabWindow(0, framed.x(), framed.y(), framed.width(),
                                                         framed.height());
 }

@@ -7,7 +7,6 @@
 #include "Host.h"
 
 #include <QtCore/QPoint>
-#include <QtCore/QRect>
 #include <QtGui/QPixmap>
 
 #include <functional>
@@ -34,8 +33,8 @@ public:
     bool answerDialog(const QString& title, const QString& name) const;
 
     void moveWindow(const QPoint& place) const;
-    QRect windowRect() const; // without its frame, on the screen
-    QPixmap picture() const;  // with its frame
+    QPoint windowPlace() const; // of its corner inside the frame, on the screen
+    QPixmap picture() const;    // with its frame
 
     static QString activeTitle();
 
