@@ -32,6 +32,11 @@ enum CommandId : unsigned int
     ID_FILL_COLOR_LAST = ID_FILL_COLOR_FIRST + 5
 };
 
+constexpr UINT CommandOf(ToolId tool)
+{
+    return ID_TOOL_FIRST + static_cast<UINT>(tool);
+}
+
 constexpr COLORREF kColors[] = {RGB(0, 0, 0),     RGB(200, 30, 30),  RGB(20, 120, 50),
                                 RGB(20, 70, 190), RGB(250, 200, 60), RGB(170, 205, 245)};
 

@@ -93,7 +93,7 @@ void MainWindow::makeTools()
     m_tools = new QActionGroup(this);
     addChoices(menu, names, ID_TOOL_FIRST);
     if (LoadShapePlugIn())
-        addCommand(menu, "St&ar", ID_TOOL_FIRST + TOOL_PLUGIN);
+        addCommand(menu, "St&ar", CommandOf(TOOL_PLUGIN));
     int number = 0;
     for (QAction* action : menu->actions()) {
         action->setCheckable(true);
@@ -181,7 +181,7 @@ void MainWindow::ShowLine(const std::wstring& line)
 void MainWindow::Refresh()
 {
     for (QAction* action : m_tools->actions())
-        action->setChecked(action->data().toUInt() == ID_TOOL_FIRST + m_app.GetView().GetTool());
+        action->setChecked(action->data().toUInt() == CommandOf(m_app.GetView().GetTool()));
     m_canvas->update();
 }
 

@@ -17,7 +17,6 @@ using testing::StartsWith;
 namespace {
 
 constexpr char kSquare[] = "tool rectangle\ndrag 60,60 160,160\n";
-constexpr char kSquareLine[] = "polygon 0 3 000000 none 4 60,60 160,60 160,160 60,160\n";
 constexpr char kSquareFile[] =
     "SKETCHPAD 1\npolygon 0 3 000000 none 4 60,60 160,60 160,160 60,160\n";
 
