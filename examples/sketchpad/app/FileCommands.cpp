@@ -153,7 +153,7 @@ bool CSketchApp::WriteDocument(const std::wstring& path)
     m_document.SetPathName(path);
     m_document.SetModifiedFlag(false);
     Remember(path);
-    m_shell.ShowLine(Text(IDS_SAVED, path));
+    m_shell.ShowLine(Text(IDS_SAVED, path, std::to_wstring(StatusOf(path))));
     return true;
 }
 

@@ -80,6 +80,13 @@ bool TakeSaveName(const std::wstring& typed, const wchar_t* extension, CRnUiPath
     return true;
 }
 
+int StatusOf(const std::wstring& path)
+{
+    CRnUiPathname name;
+    name.Parse(path.c_str(), false);
+    return name.Status();
+}
+
 std::wstring UniqueName(const std::wstring& path)
 {
     CRnUiPathname name;

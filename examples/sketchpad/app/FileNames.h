@@ -31,6 +31,9 @@ std::wstring BesideExecutable(const wchar_t* name);
 bool TakeSaveName(const std::wstring& typed, const wchar_t* extension, CRnUiPathname& name,
                   bool& added, std::wstring& reason);
 
+// What CRnUiPathname::Status says of a name.
+int StatusOf(const std::wstring& path);
+
 // A name in the same folder that is free, or an empty text.
 std::wstring UniqueName(const std::wstring& path);
 

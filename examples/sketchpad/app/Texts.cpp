@@ -35,7 +35,7 @@ const wchar_t* BuiltInText(TextId id)
     case IDS_OPENED:
         return L"Opened %ls";
     case IDS_SAVED:
-        return L"Saved %ls";
+        return L"Saved %ls (status %ls)";
     case IDS_COPIED:
         return L"Saved a copy as %ls";
     case IDS_PRINTED:
