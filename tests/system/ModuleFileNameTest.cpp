@@ -69,6 +69,16 @@ TEST(GetModuleFileName, TerminatesAPathThatHasOneCharacterToSpare)
     EXPECT_EQ(nameOf(kMainProgram, path.size() + 1).buffer, path + L'\0' + L'#');
 }
 
+TEST(GetModuleFileName, Is0ForTheMainProgramAndANullBuffer)
+{
+    for (const Function function : {::GetModuleFileName, KtKernel32::GetModuleFileName}) {
+        for (const unsigned int size : {0u, 1u, 1024u}) {
+            EXPECT_EQ(function(nullptr, nullptr, size), 0u) << size;
+            EXPECT_EQ(function(kMainProgram, nullptr, size), 0u) << size;
+        }
+    }
+}
+
 // ---- Addresses inside a module -----------------------------------------------------------------
 
 // The address of a function of the module, as a handle.
@@ -192,6 +202,15 @@ TEST(ExecutablePath, MayHoldCharactersBeyondAscii)
     Answers answers = answersFrom(folder / "\u4e2d\U0001F600");
     EXPECT_EQ(answers["module"], (folder / "\u4e2d\U0001F600/where_am_i").string());
     EXPECT_EQ(answers["directory"], (folder / "\u4e2d\U0001F600").string());
+}
+
+TEST(ExecutablePath, IsStillKnownWhenTheProgramsOwnObjectsGo)
+{
+    const TemporaryFolder folder;
+    Answers answers = answersFrom(folder / "place");
+    EXPECT_EQ(answers["exit.result"], "1024");
+    EXPECT_EQ(answers["exit"], (folder / "place").string());
+    EXPECT_EQ(answers["exit"], answers["directory"]);
 }
 
 } // namespace

@@ -3,6 +3,7 @@
 
 #include <KtOsBase/KtOsBase.h>
 #include <KtQtBase/WindowsTypes.h>
+#include <KtQtBase/windows/KernelStubs.h>
 #include <KtQtBase/windows/SystemInformation.h>
 
 #include <QtGui/QGuiApplication>
@@ -71,6 +72,16 @@ TEST(GetLastError, IsErrno)
         const unsigned int twin = KtKernel32::GetLastError();
         EXPECT_EQ(global, static_cast<unsigned int>(error));
         EXPECT_EQ(twin, static_cast<unsigned int>(error));
+    }
+}
+
+TEST(GetLastError, KnowsNothingOfSetLastError)
+{
+    for (const auto read : {&::GetLastError, &KtKernel32::GetLastError}) {
+        errno = ENOENT;
+        KtKernel32::SetLastError(5);
+        EXPECT_EQ(read(), static_cast<unsigned int>(ENOENT));
+        EXPECT_EQ(errno, ENOENT);
     }
 }
 

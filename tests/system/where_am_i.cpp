@@ -57,6 +57,14 @@ void printParse(const char* name, const wchar_t* text)
     printText("", path.m_pRelPath ? path.m_pRelPath->c_str() : nullptr);
 }
 
+// Asks again when the objects that main's questions may have made are gone.
+struct AtExit
+{
+    ~AtExit() { printDirectory("exit", GetCurrentDirectoryW); }
+};
+
+const AtExit g_atExit;
+
 } // namespace
 
 int main()

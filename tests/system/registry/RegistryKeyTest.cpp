@@ -3,6 +3,7 @@
 
 #include <QtCore/QFile>
 #include <QtCore/QSettings>
+#include <QtCore/QStringList>
 #include <QtCore/QTemporaryDir>
 
 #include <gtest/gtest.h>
@@ -74,6 +75,23 @@ struct Query
     std::vector<wchar_t> area;
     unsigned int room;
     unsigned int result;
+};
+
+// Keeps what Qt prints meanwhile.
+class Prints
+{
+public:
+    Prints() : m_former(qInstallMessageHandler(keep)) { texts.clear(); }
+    ~Prints() { qInstallMessageHandler(m_former); }
+    Prints(const Prints&) = delete;
+    Prints& operator=(const Prints&) = delete;
+
+    inline static QStringList texts;
+
+private:
+    static void keep(QtMsgType, const QMessageLogContext&, const QString& text) { texts << text; }
+
+    QtMessageHandler m_former;
 };
 
 } // namespace
@@ -230,6 +248,28 @@ TEST_F(RegistryKey, NestsOneLevelDeeperAtEachRefusal)
     EXPECT_EQ(stored("Group/Group/Group/Count").toString(), "7");
 }
 
+TEST_F(RegistryKey, StaysInsideItselfAfterClose)
+{
+    m_key.Create(nullptr, L"Group");
+    m_key.SetValue(L"12345678901", L"Name");
+    EXPECT_EQ(Query(m_key, L"Name", 10).result, kTooLong);
+    EXPECT_EQ(m_key.Close(), 0u);
+    m_key.SetValue(L"7", L"Count");
+    EXPECT_EQ(stored("Group/Group/Count").toString(), "7");
+    EXPECT_FALSE(stored("Group/Count").isValid());
+}
+
+TEST_F(RegistryKey, StaysInsideItselfAfterAnotherCreate)
+{
+    m_key.Create(nullptr, L"Group");
+    m_key.SetValue(L"12345678901", L"Name");
+    EXPECT_EQ(Query(m_key, L"Name", 10).result, kTooLong);
+    m_key.Create(nullptr, L"Other");
+    m_key.SetValue(L"7", L"Count");
+    EXPECT_EQ(stored("Group/Other/Count").toString(), "7");
+    EXPECT_FALSE(stored("Other/Count").isValid());
+}
+
 TEST_F(RegistryKey, SetValueIgnoresKindAndLength)
 {
     EXPECT_EQ(m_key.SetValue(L"abc", L"Name", true, 1), 0u);
@@ -257,6 +297,16 @@ TEST_F(RegistryKey, TakesNullTexts)
     m_key.Create(nullptr, nullptr);
     m_key.SetValue(L"top", L"Name");
     EXPECT_EQ(stored("Name").toString(), "top");
+}
+
+TEST_F(RegistryKey, PrintsNothingForAValueWithoutAName)
+{
+    const Prints prints;
+    for (const wchar_t* name : {static_cast<const wchar_t*>(nullptr), L""}) {
+        EXPECT_EQ(m_key.SetValue(L"abc", name), 0u);
+        EXPECT_EQ(Query(m_key, name, 10).end(), 0u);
+    }
+    EXPECT_EQ(Prints::texts, QStringList());
 }
 
 TEST_F(RegistryKey, QueryTakesNullAreaAndRoom)
