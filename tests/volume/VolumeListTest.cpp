@@ -41,7 +41,7 @@ TEST_F(VolumeList, FindsAVolumeByItsExactName)
     volumeList << &c << &d;
     EXPECT_EQ(find(L"C:"), &c);
     EXPECT_EQ(find(L"D:"), &d);
-    for (const wchar_t* name : {L"c:", L"C", L"C:\\", L"C: ", L" C:", L"E:", L""})
+    for (const wchar_t* name : {L"c:", L"C", L"C:\\", L"Cx", L"CD", L"C: ", L" C:", L"E:", L""})
         EXPECT_EQ(find(name), nullptr) << name;
 }
 

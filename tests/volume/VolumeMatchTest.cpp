@@ -36,6 +36,7 @@ const MatchRow kRows[] = {
     {"letter with an accent in other case", L"\u00e9", L"\u00c9", false, false},
     {"same letter with an accent", L"\u00e9", L"\u00e9", true, true},
     {"terminator in the second", L"AB", Text(L"ab\0cd", 5), true, false},
+    {"terminator in the second, same case", L"ab", Text(L"ab\0cd", 5), true, false},
 };
 
 void expectMatches(const CRbUiVolumeDescriptor& volume, bool exact)
@@ -59,6 +60,18 @@ TEST(VolMatch, IsExactOnACaseSensitiveVolume)
     PlainVolume volume(L"C:");
     volume.m_flags |= kCaseSensitive;
     expectMatches(volume, true);
+}
+
+TEST(VolMatch, ComparesTheWholeLengthOfTwoStringsOnACaseSensitiveVolume)
+{
+    PlainVolume volume(L"C:");
+    volume.m_flags |= kCaseSensitive;
+    const Text longer(L"x\0y", 3);
+    const Text same(L"x\0y", 3);
+    const Text shorter = L"x";
+    EXPECT_FALSE(volume.VolMatch(&longer, &shorter));
+    EXPECT_FALSE(volume.VolMatch(&shorter, &longer));
+    EXPECT_TRUE(volume.VolMatch(&longer, &same));
 }
 
 TEST(VolMatch, AsksNoLocaleOfTheHost)
