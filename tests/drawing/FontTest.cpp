@@ -168,6 +168,19 @@ TEST(FontSize, IsDepthTimesHeightByThirtySixCut)
     }
 }
 
+TEST(FontSize, GoesByTheWrappedDeviceNotTheOneBeingPaintedOn)
+{
+    QImage painted = drawing::ground(QImage::Format_ARGB32_Premultiplied);
+    QImage wrapped = drawing::ground(QImage::Format_RGB888);
+    KtQtPainterWrapper painter(&painted);
+    ASSERT_TRUE(painter.beginDraw());
+    painter.setWrappedDevice(&wrapped);
+    const LOGFONTW lf = record({"", 18, 400, 0, 0});
+    painter.setFontIndirect(&lf);
+    EXPECT_EQ(painter.wrappedPainter()->font().pixelSize(), 12);
+    EXPECT_TRUE(painter.endDraw());
+}
+
 TEST(FontSize, BelowOnePixelStaysQtsOwn)
 {
     const LOGFONTW lf = record({"", 0, 0, 0, 0});

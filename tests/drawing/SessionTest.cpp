@@ -177,6 +177,29 @@ TEST(EndDraw, TakesTheSettingsBackBeforeItEnds)
     EXPECT_FALSE(painter.endDraw());
 }
 
+TEST(EndDraw, WithoutADeviceIsFalseAndLeavesTheSessionOpen)
+{
+    QImage image = drawing::ground();
+    KtQtPainterWrapper painter(&image);
+    ASSERT_TRUE(painter.beginDraw());
+    painter.setWrappedDevice(nullptr);
+    EXPECT_FALSE(painter.endDraw());
+    EXPECT_TRUE(painter.wrappedPainter()->isActive());
+    painter.setWrappedDevice(&image);
+    EXPECT_TRUE(painter.endDraw());
+    EXPECT_FALSE(painter.wrappedPainter()->isActive());
+}
+
+TEST(EndDraw, EndsASessionThatWasBegunTwice)
+{
+    QImage image = drawing::ground();
+    KtQtPainterWrapper painter(&image);
+    EXPECT_TRUE(painter.beginDraw());
+    EXPECT_TRUE(painter.beginDraw());
+    EXPECT_TRUE(painter.endDraw());
+    EXPECT_FALSE(painter.wrappedPainter()->isActive());
+}
+
 TEST(Save, IsUndoneByRestore)
 {
     EXPECT_TRUE(drawing::drawsLike(
