@@ -284,3 +284,15 @@ TEST(GetPathStrNoExt, CutsBeforeTheLastDotOfTheLastComponent)
         EXPECT_EQ(std::wstring(text), row.after);
     }
 }
+
+TEST(Extensions, LieBehindTheSeparatorOfTheObject)
+{
+    HandMadePath removed(PC_ROOTED, L"/d.x|a");
+    removed.m_separator = L'|';
+    removed.RemoveExtensionAlways();
+    EXPECT_EQ(workOf(removed), L"/d.x|a");
+    HandMadePath replaced(PC_ROOTED, L"/d.x|a");
+    replaced.m_separator = L'|';
+    EXPECT_EQ(replaced.ReplaceExtensionAlways(L"y"), 0);
+    EXPECT_EQ(workOf(replaced), L"/d.x|a.y");
+}

@@ -199,6 +199,17 @@ TEST(GetFileSystem, EndsItsArgumentWithTheSeparator)
     }
 }
 
+TEST(GetFileSystem, AppendsTheSeparatorOfTheObject)
+{
+    CRbUiPathname path;
+    path.m_separator = L'|';
+    for (const wchar_t* text : {L"C:/", L"C:/|"}) {
+        CStdStr<wchar_t> name(text);
+        EXPECT_EQ(path.GetFileSystem(name), 0);
+        EXPECT_EQ(std::wstring(name), L"C:/|");
+    }
+}
+
 TEST(IsPathType, TellsAPatternFromAName)
 {
     for (const WildcardRow& row : std::initializer_list<WildcardRow>{

@@ -233,3 +233,15 @@ TEST(ParseRelPath, GoesByTheSeparatorItIsGiven)
     ParseRelPath(&pointer, L'\\', category);
     EXPECT_EQ(category, PC_UNC);
 }
+
+TEST(GetParent, CutsAtTheSeparatorOfTheObject)
+{
+    for (const wchar_t* text : {L"|d/x|a", L"|d/x|a|"}) {
+        SCOPED_TRACE(text);
+        HandMadePath name(PC_ROOTED, text);
+        name.m_separator = L'|';
+        CRbUiPathname parent;
+        name.GetParent(parent);
+        EXPECT_EQ(workOf(parent), L"|d/x|");
+    }
+}
