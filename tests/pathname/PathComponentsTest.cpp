@@ -89,6 +89,8 @@ const ComponentRow kComponentRows[] = {
     {"Wildcard", L"*.txt", PT_WILDCARD, L"*.txt", kUntouched, L"txt"},
     {"Type5", L"a.b", static_cast<path_type>(5), L"a.b", L"a", L"b"},
     {"Type6", L"a.b", static_cast<path_type>(6), L"a.b", kUntouched, L"b"},
+    {"Type33", L"a.b", static_cast<path_type>(33), L"a.b", kUntouched, L"b"},
+    {"Type35", L"a.b", static_cast<path_type>(35), L"a.b", kUntouched, L"b"},
     {"Unparsed", L"a.b", PT_NONE, kUntouched, kUntouched, kUntouched},
 };
 

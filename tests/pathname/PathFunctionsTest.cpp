@@ -113,6 +113,15 @@ const CategoryRow kCategoryRows[] = {
 
 INSTANTIATE_TEST_SUITE_P(Table, GetPathCatTypeRows, testing::ValuesIn(kCategoryRows), RowName());
 
+TEST(GetPathCatType, RaisesTheTextsOwnLetterWhateverTheFirstItIsGiven)
+{
+    Text text(L"qz:");
+    path_category category = PC_RELATIVE;
+    EXPECT_EQ(GetPathCatType(L'x', L':', L'/', category, &text, nullptr), 0);
+    EXPECT_EQ(category, PC_DRIVE);
+    EXPECT_STREQ(text.c_str(), L"Qz:");
+}
+
 TEST(GetPathCatType, RefusesARelativeNameWithAnUnparsedBase)
 {
     const CRbUiPathname base;
