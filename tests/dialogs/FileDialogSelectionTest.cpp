@@ -84,6 +84,15 @@ TEST(PraseFileInfoOf, NamesAreCutAtTheFirstNul)
     EXPECT_EQ(dialog.GetNextPathName(pos), L"/tmp/a");
 }
 
+TEST(PraseFileInfoOf, FileNameAndExtensionAreCutAtTheirFirstNul)
+{
+    KtQtFileDialog dialog(true);
+    select(dialog, {QString::fromLatin1("/tmp/a.t\0xt", 11)});
+    dialog.PraseFileInfo();
+    EXPECT_EQ(dialog.GetFileName(), L"a.t");
+    EXPECT_EQ(dialog.GetFileExt(), L"t");
+}
+
 struct FilterRow
 {
     const char* name;
@@ -156,6 +165,9 @@ TEST(GetNextPathName, IsEmptyWhereALongerSelectionHadItsFiles)
     EXPECT_EQ(pos, nullptr);
     pos = position(UINTPTR_MAX);
     EXPECT_EQ(dialog.GetNextPathName(pos), L"");
+    pos = position((std::uintptr_t(1) << 32) + 1);
+    EXPECT_EQ(dialog.GetNextPathName(pos), L"");
+    EXPECT_EQ(pos, position(std::uintptr_t(1) << 32));
 }
 
 } // namespace

@@ -127,6 +127,26 @@ TEST_F(DoModal, WritesNothingButTheFilterIndexIntoTheBlock)
     EXPECT_EQ(std::memcmp(&dialog.GetOFN(), &before, sizeof before), 0);
 }
 
+TEST_F(DoModal, SavesUnderTheTypedNameWhateverTheFlagsAndTexts)
+{
+    constexpr DWORD kEveryFlag = 0xFFFFFFFF;
+    KtQtFileDialog dialog(false, L"dat", L"argument", kEveryFlag);
+    fill(dialog);
+    wchar_t title[] = L"title";
+    dialog.GetOFN().lpstrFileTitle = title;
+    dialog.GetOFN().lpstrDefExt = L"dat";
+    dialog.GetOFN().Flags = kEveryFlag;
+    const OPENFILENAMEW before = dialog.GetOFN();
+    const User<QFileDialog> user([](QFileDialog& shown) {
+        EXPECT_EQ(nameEdit(shown)->text(), QString());
+        typeNameAndReturn(shown, QStringLiteral("new"));
+    });
+    EXPECT_EQ(dialog.DoModal(), IDOK);
+    EXPECT_EQ(dialog.GetPathName(), widePath("new"));
+    EXPECT_EQ(std::memcmp(&dialog.GetOFN(), &before, sizeof before), 0);
+    EXPECT_STREQ(title, L"title");
+}
+
 struct EndRow
 {
     const char* name;

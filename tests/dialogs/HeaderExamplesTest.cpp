@@ -11,6 +11,18 @@
 
 namespace {
 
+// The lines of a file that begin in one way, without that beginning and the blanks around them.
+QByteArray linesFrom(const char* fileName, const QByteArray& prefix)
+{
+    QFile file(QString::fromUtf8(fileName));
+    EXPECT_TRUE(file.open(QIODevice::ReadOnly));
+    QByteArray lines;
+    for (const QByteArray& line : file.readAll().split('\n'))
+        if (line.startsWith(prefix))
+            lines += line.mid(prefix.size()).trimmed() + '\n';
+    return lines;
+}
+
 class Panel : public QWidget
 {
 protected:
@@ -64,6 +76,13 @@ TEST_F(FileDialogExample, ImportsWhatTheUserSelects)
             import(dialog.GetNextPathName(pos));
     }
     EXPECT_EQ(imported, std::vector<std::wstring>{widePath("may.txt")});
+}
+
+TEST(FileDialogHeader, ShowsTheExampleThatIsCompiledHere)
+{
+    const QByteArray example = linesFrom(FILEDIALOG_HEADER, "//     ");
+    EXPECT_TRUE(example.contains("POSITION pos = dialog.GetStartPosition();\n"));
+    EXPECT_TRUE(linesFrom(HEADER_EXAMPLES, "    ").contains(example)) << example.toStdString();
 }
 
 } // namespace

@@ -84,6 +84,42 @@ private:
 
 int Prints::s_count = 0;
 
+// Sees a widget's messages before the widget does, and may keep them from it.
+class Filter : public QObject
+{
+public:
+    explicit Filter(bool eats) : m_eats(eats) {}
+
+    int seen = 0;
+
+protected:
+    bool eventFilter(QObject*, QEvent* event) override
+    {
+        const bool isMessage = dynamic_cast<QKtMsgEvent*>(event);
+        seen += isMessage;
+        return isMessage && m_eats;
+    }
+
+private:
+    bool m_eats;
+};
+
+// Notes the types of the user events it gets.
+class TypeReceiver : public QWidget
+{
+public:
+    std::vector<int> types;
+
+protected:
+    bool event(QEvent* event) override
+    {
+        if (event->type() < QEvent::User)
+            return QWidget::event(event);
+        types.push_back(event->type());
+        return true;
+    }
+};
+
 HWND staleHandle()
 {
     return Receiver().handle();
@@ -150,6 +186,18 @@ TEST(SendMessage, BringsTheAnswerBackThroughMemory)
     EXPECT_EQ(answer, 42);
 }
 
+TEST(SendMessage, PassesTheFiltersOfItsReceiver)
+{
+    for (const bool eats : {false, true}) {
+        Receiver receiver;
+        Filter filter(eats);
+        receiver.installEventFilter(&filter);
+        EXPECT_EQ(SendMessage(receiver.handle(), WM_USER + 1, 2, 3), 0);
+        EXPECT_EQ(filter.seen, 1) << eats;
+        EXPECT_EQ(receiver.messages.size(), eats ? 0u : 1u) << eats;
+    }
+}
+
 TEST(SendMessage, IsSilentForAHandleThatNamesNoWidget)
 {
     const HWND stale = staleHandle();
@@ -167,6 +215,18 @@ TEST(PostMessage, IsDeliveredByTheEventLoopInOrder)
     EXPECT_TRUE(receiver.messages.empty());
     QCoreApplication::sendPostedEvents(&receiver);
     EXPECT_EQ(receiver.messages, (std::vector<Values>{{WM_USER + 1, 2, 3}, {WM_USER + 2, 4, 5}}));
+}
+
+TEST(PostMessage, WaitsBehindEventsThatWerePostedBefore)
+{
+    TypeReceiver receiver;
+    const HWND handle = reinterpret_cast<HWND>(receiver.winId());
+    const int plain = QEvent::MaxUser;
+    QCoreApplication::postEvent(&receiver, new QEvent(static_cast<QEvent::Type>(plain)));
+    EXPECT_TRUE(PostMessage(handle, WM_USER + 1, 2, 3));
+    QCoreApplication::postEvent(&receiver, new QEvent(static_cast<QEvent::Type>(plain)));
+    QCoreApplication::sendPostedEvents(&receiver);
+    EXPECT_EQ(receiver.types, (std::vector<int>{plain, QKtMsgEvent::eventType(), plain}));
 }
 
 TEST(PostMessage, IsSilentForAHandleThatNamesNoWidget)

@@ -2,7 +2,9 @@
 #include <KtQtBase/Messages.h>
 #include <KtQtBase/windows/Constants.h>
 
-#include <QtGui/QGuiApplication>
+#include <QtTest/QTest>
+#include <QtWidgets/QApplication>
+#include <QtWidgets/QLineEdit>
 #include <QtWidgets/QWidget>
 
 #include <gtest/gtest.h>
@@ -39,6 +41,21 @@ TEST(SetFocus, IsNullAndMovesNoFocus)
     QWidget widget;
     EXPECT_EQ(KtUser32::SetFocus(handleOf(widget)), nullptr);
     EXPECT_FALSE(widget.hasFocus());
+    EXPECT_EQ(KtUser32::GetFocus(), nullptr);
+}
+
+TEST(SetFocus, LeavesTheFocusOfAnActiveWindow)
+{
+    QWidget window;
+    QLineEdit first(&window);
+    QLineEdit second(&window);
+    window.show();
+    window.activateWindow();
+    ASSERT_TRUE(QTest::qWaitForWindowActive(&window));
+    first.setFocus();
+    ASSERT_TRUE(first.hasFocus());
+    EXPECT_EQ(KtUser32::SetFocus(handleOf(second)), nullptr);
+    EXPECT_EQ(QApplication::focusWidget(), &first);
     EXPECT_EQ(KtUser32::GetFocus(), nullptr);
 }
 
