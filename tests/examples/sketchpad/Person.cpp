@@ -7,6 +7,8 @@
 #include <QtGui/QGuiApplication>
 #include <QtGui/QScreen>
 
+#include <utility>
+
 namespace {
 
 constexpr int kPatience = 10000;
@@ -113,6 +115,13 @@ bool Person::answerDialog(const QString& title, const QString& name) const
 void Person::moveWindow(const QPoint& point) const
 {
     xdotool(QStringList{"windowmove", "--sync", m_window} + place(point));
+    // The first change of place need not be the last, and the program hears of it later still.
+    QPoint last;
+    waitFor([&] {
+        QThread::msleep(200);
+        const QPoint former = std::exchange(last, windowPlace());
+        return last == former;
+    });
 }
 
 // By way of the mouse, since xdotool counts the frame twice for some windows.
