@@ -3,6 +3,7 @@
 
 #include "system/ProfileResult.h"
 #include "system/ProfileScanner.h"
+#include "system/ProfileSearch.h"
 #include "system/ProfileText.h"
 
 using ktqtbase::ProfileQuery;
@@ -32,10 +33,14 @@ std::string_view trimmedDefault(const char* text)
 void answer(std::string_view text, const ProfileQuery& query, std::string_view fallback,
             ProfileResult& result)
 {
-    ProfileScanner scanner(text, query, result);
-    const std::optional<std::string_view> value = scanner.findValue();
-    if (value || !scanner.listed())
+    if (query.section && query.key) {
+        const auto value = ktqtbase::searchProfile(text, *query.section, *query.key);
         result.assign(value.value_or(fallback));
+    } else {
+        ProfileScanner scanner(text, query, result);
+        if (!scanner.list())
+            result.assign(fallback);
+    }
     result.stripQuotes();
 }
 

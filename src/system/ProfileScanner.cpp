@@ -17,21 +17,14 @@ ProfileScanner::ProfileScanner(std::string_view text, const ProfileQuery& query,
     : m_rest(text), m_query(query), m_list(list)
 {}
 
-std::optional<std::string_view> ProfileScanner::findValue()
+bool ProfileScanner::list()
 {
     while (!m_rest.empty()) {
         const std::string_view line = trimmed(takeLine());
-        if (line.empty() || readHeader(line))
-            continue;
-        if (const auto value = readKeyLine(line))
-            return value;
+        if (!line.empty() && !readHeader(line))
+            readKeyLine(line);
     }
-    return std::nullopt;
-}
-
-bool ProfileScanner::listed() const
-{
-    return !m_query.section || (m_inSection && !m_query.key);
+    return !m_query.section || m_inSection;
 }
 
 std::string_view ProfileScanner::takeLine()
@@ -74,26 +67,14 @@ void ProfileScanner::enterSection(std::string_view name)
         m_inSection = true;
 }
 
-std::optional<std::string_view> ProfileScanner::readKeyLine(std::string_view line)
+void ProfileScanner::readKeyLine(std::string_view line)
 {
-    if (!m_inSection)
-        return std::nullopt;
+    if (!m_inSection || m_keyListStopped)
+        return;
     const std::size_t equals = line.find('=');
-    if (equals == kNowhere || !isWantedKey(trimmedEnd(line.substr(0, equals))))
-        return std::nullopt;
-    return trimmedStart(line.substr(equals + 1));
-}
-
-// A name that nobody asks for by name goes into the list.
-bool ProfileScanner::isWantedKey(std::string_view name)
-{
-    if (name.empty())
-        return false;
-    if (m_query.key)
-        return name == *m_query.key;
-    if (!m_keyListStopped)
+    const std::string_view name = trimmedEnd(line.substr(0, equals));
+    if (equals != kNowhere && !name.empty())
         m_list.addName(name);
-    return false;
 }
 
 } // namespace ktqtbase

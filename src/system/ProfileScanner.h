@@ -19,26 +19,23 @@ struct ProfileQuery
     std::optional<std::string_view> key;
 };
 
+// Makes the list that a query without a section or without a key asks for.
 class ProfileScanner
 {
 public:
     // The text and the list must outlive the scanner.
     ProfileScanner(std::string_view text, const ProfileQuery& query, ProfileResult& list);
 
-    // Walks to the wanted key or to the end, and fills the list where one is asked for.
-    // Result: the wanted key's value, or none.
-    std::optional<std::string_view> findValue();
-
-    // After the walk: whether the list is the answer, be it empty.
-    bool listed() const;
+    // Walks to the end of the text and fills the list.
+    // Result: whether the list is the answer, be it empty; not where the section is missing.
+    bool list();
 
 private:
     std::string_view takeLine();
     std::size_t lineLength();
     bool readHeader(std::string_view line);
     void enterSection(std::string_view name);
-    std::optional<std::string_view> readKeyLine(std::string_view line);
-    bool isWantedKey(std::string_view name);
+    void readKeyLine(std::string_view line);
 
     std::string_view m_rest;
     const ProfileQuery m_query;
