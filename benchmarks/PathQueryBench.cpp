@@ -90,12 +90,19 @@ void addEdits(std::size_t length)
 }
 
 // The parent keeps two strings, so that the hand copies two.
+// The library's own class, as hosts pass it: a derived one may watch itself being filled, which costs
+// the strings that are freed first.
+struct Parent
+{
+    CRbUiPathname name;
+};
+
 void addParent(std::size_t length)
 {
     Row("GetParent", sizeOf(length))
         .library([=] {
-            return [path = parsed(length), parent = std::make_shared<bench::Name>()] {
-                path->GetParent(*parent);
+            return [path = parsed(length), parent = std::make_shared<Parent>()] {
+                path->GetParent(parent->name);
             };
         })
         .reference("std::wstring", [=] {
