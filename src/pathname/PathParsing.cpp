@@ -2,31 +2,19 @@
 #include <KtQtBase/PathName.h>
 
 #include "pathname/PathInternals.h"
+#include "pathname/PathTypeLookup.h"
 #include "string/CaseFolding.h"
 #include "string/WhiteSpace.h"
 
 #include <algorithm>
 #include <cwchar>
 #include <memory>
+#include <utility>
 
 namespace {
 
-bool holds(const CStdStr<wchar_t>& text, wchar_t ch)
-{
-    return text.find(ch) != text.npos;
-}
-
-bool hasSeveralColons(const CStdStr<wchar_t>& text)
-{
-    const std::size_t first = text.find(kColon);
-    return first != text.npos && text.find(kColon, first + 1) != text.npos;
-}
-
-// Where the part behind the volume begins.
-int volumeLength(path_category category)
-{
-    return category == PC_DRIVE ? 2 : 0;
-}
+using Text = CStdStr<wchar_t>;
+using OwnedText = std::unique_ptr<Text>;
 
 bool isQuoted(const ktqtbase::TextRange& text)
 {
@@ -41,28 +29,116 @@ ktqtbase::TextRange bareName(const wchar_t* name)
     return isQuoted(text) ? trimmed({text.begin + 1, text.end - 1}, isSpace) : text;
 }
 
-// Normalises and classifies a text into name's category. Result: as of GetPathCatType.
-int classify(CRbUiPathname& name, CStdStr<wchar_t>& text, const CRbUiPathname* base)
+// A copy of a text in the string of the parse before, where there is one: to fill a string costs
+// less than to free it and to get another. The text may lie in that string.
+OwnedText copied(const ktqtbase::TextRange& text, OwnedText former)
 {
-    wchar_t last = 0;
-    wchar_t first = 0;
-    wchar_t second = 0;
-    GetWorkString(&text, name.m_separator, last, first, second);
-    name.m_category = PC_RELATIVE;
-    return GetPathCatType(first, second, name.m_separator, name.m_category, &text, base);
+    if (!former) {
+        former = std::make_unique<Text>();
+        // And room for the separator that AppendSlash puts behind a folder.
+        former->reserve(text.size() + 1);
+    }
+    former->assign(text.begin, text.size());
+    return former;
 }
 
-const CRbUiVolumeDescriptor* volumeOf(const CRbUiPathname& name, const CStdStr<wchar_t>& text,
+// How many there are of the two characters that a parse looks for.
+struct MarkCounts
+{
+    unsigned int colons = 0;
+    unsigned int backslashes = 0;
+};
+
+// One loop without a branch takes several characters at once; for a short name that is less than
+// the calls of two searches.
+MarkCounts countMarks(const ktqtbase::TextRange& text)
+{
+    MarkCounts counts;
+    for (const wchar_t* p = text.begin; p != text.end; ++p) {
+        counts.colons += *p == kColon;
+        counts.backslashes += *p == kBackslash;
+    }
+    return counts;
+}
+
+wchar_t secondCharacter(const Text& text)
+{
+    return text.size() > 1 ? text[1] : kEOS;
+}
+
+// Changes a category to what a name's first two characters tell. Result: whether that is a drive.
+bool classify(wchar_t first, wchar_t second, wchar_t separator, path_category& category)
+{
+    if (first == separator) {
+        category = second == separator ? PC_UNC : PC_ROOTED;
+        return false;
+    }
+    if (second != kColon || !ktqtbase::isLetter(first))
+        return false;
+    category = PC_DRIVE;
+    return true;
+}
+
+// Writes only what changes: a search right behind the write would wait for it.
+void raiseDriveLetter(Text& text)
+{
+    const wchar_t letter = ktqtbase::upperCase(text.c_str()[0]);
+    if (!text.empty() && text.front() != letter)
+        text.front() = letter;
+}
+
+// Whether a name's base will do: a relative name needs a parsed one.
+bool acceptsBase(path_category category, const CRbUiPathname* base)
+{
+    return category != PC_RELATIVE || (base && ktqtbase::isParsed(base->m_type));
+}
+
+// Whether a text is a name. Compared in a loop, since most have two characters and a call of the C
+// library's comparison costs more.
+bool equalsName(const Text& text, const ktqtbase::TextRange& name)
+{
+    return text.size() == name.size() &&
+           std::mismatch(name.begin, name.end, text.data()).first == name.end;
+}
+
+// The first volume of the list with a local name, or null.
+const CRbUiVolumeDescriptor* listedVolume(const ktqtbase::TextRange& name)
+{
+    for (const CRbUiVolumeDescriptor* volume : qAsConst(volumeList)) {
+        const Text* localName = volume ? volume->GetLocalName() : nullptr;
+        if (localName && equalsName(*localName, name))
+            return volume;
+    }
+    return nullptr;
+}
+
+// A drive that is not in the list has no volume, since no descriptor is ever made for it.
+const CRbUiVolumeDescriptor* volumeOf(path_category category, const Text& text,
                                       const CRbUiPathname* base)
 {
-    switch (name.m_category) {
+    switch (category) {
     case PC_DRIVE:
-        return name.FindVolumeDescriptor(text.Left(2));
+        return listedVolume({text.data(), text.data() + 2});
     case PC_RELATIVE:
         return base->m_pVolume;
     default:
         return nullptr;
     }
+}
+
+// The prefix of a name, in the string of the parse before where there is one. A drive has none, and
+// neither has a relative name whose base is an empty text.
+OwnedText prefixOf(path_category category, const CRbUiPathname* base, OwnedText former)
+{
+    if (category == PC_DRIVE)
+        return nullptr;
+    OwnedText prefix = former ? std::move(former) : std::make_unique<Text>();
+    prefix->clear();
+    if (category == PC_ROOTED)
+        return prefix;
+    if (base)
+        base->GetFullPath(*prefix);
+    return prefix->empty() ? nullptr : std::move(prefix);
 }
 
 } // namespace
@@ -71,33 +147,39 @@ int CRbUiPathname::ParseRelative(const wchar_t* name, const CRbUiPathname* base,
 {
     if (!name)
         return 1;
-    // Copied first: the name may lie in the strings that are freed next.
+    OwnedText formerWork(std::exchange(m_pWork, nullptr));
+    OwnedText formerPrefix(std::exchange(m_pRelPath, nullptr));
+    m_pVolume = nullptr;
+    m_type = PT_NONE;
+    // Read and copied first: the name may lie in the former strings.
+    const bool qualifies = m_bQualified || std::wcschr(name, kColon);
     const ktqtbase::TextRange bare = bareName(name);
-    auto text = std::make_unique<CStdStr<wchar_t>>();
-    // And room for the separator that AppendSlash puts behind a folder.
-    text->reserve(bare.size() + 1);
-    text->assign(bare.begin, bare.end);
-    const bool hasColon = std::wcschr(name, kColon);
-    Empty();
-    if (text->empty() || hasSeveralColons(*text))
+    const MarkCounts counts = countMarks(bare);
+    if (bare.size() == 0 || counts.colons > 1)
         return 1;
-    if (classify(*this, *text, base) != 0 || m_category == PC_UNC)
+    OwnedText text = copied(bare, std::move(formerWork));
+    if (counts.backslashes > 0)
+        std::replace(text->begin(), text->end(), kBackslash, m_separator);
+
+    m_category = PC_RELATIVE;
+    if (classify(text->front(), secondCharacter(*text), m_separator, m_category))
+        raiseDriveLetter(*text);
+    else if (counts.colons > 0 || m_category == PC_UNC || !acceptsBase(m_category, base))
         return 1;
 
     ktqtbase::EmptyUnlessFinished guard(*this);
-    m_pVolume = volumeOf(*this, *text, base);
-    GetWorkPtrByIndex(m_category, text.get(), m_separator, volumeLength(m_category));
+    m_pVolume = volumeOf(m_category, *text, base);
     if (m_pVolume)
         m_pVolume->VolCase(*text);
-    const CStdStr<wchar_t> noPrefix;
-    GetRelPath(m_category, &noPrefix, &m_pRelPath, &base);
-    GetPathBuffer(&m_pRelPath, false, text.get(), m_separator);
+    m_pRelPath = prefixOf(m_category, base, std::move(formerPrefix)).release();
     m_pWork = text.release();
-    GetAttributes(m_pWork, m_pRelPath, &m_type);
+    m_type = PT_NOT_FOUND;
+    m_type = ktqtbase::isPattern(*m_pWork, m_separator)
+                 ? PT_WILDCARD
+                 : ktqtbase::typeOnDisk(*m_pWork, m_pRelPath);
     guard.finished();
 
-    if (hasColon || holds(*m_pWork, m_separator))
-        m_bQualified = true;
+    m_bQualified = qualifies || m_pWork->find(m_separator) != m_pWork->npos;
     return 0;
 }
 
@@ -129,12 +211,8 @@ const CRbUiVolumeDescriptor* CRbUiPathname::FindVolumeDescriptor(const CStdStr<w
 {
     if (name.empty())
         return nullptr;
-    for (const CRbUiVolumeDescriptor* volume : qAsConst(volumeList)) {
-        const CStdStr<wchar_t>* localName = volume ? volume->GetLocalName() : nullptr;
-        if (localName && *localName == name)
-            return volume;
-    }
-    return NewVolDescriptor(name);
+    const CRbUiVolumeDescriptor* volume = listedVolume({name.data(), name.data() + name.size()});
+    return volume ? volume : NewVolDescriptor(name);
 }
 
 const CRbUiVolumeDescriptor* CRbUiPathname::NewVolDescriptor(const CStdStr<wchar_t>&) const
@@ -146,27 +224,19 @@ void GetWorkString(CStdStr<wchar_t>* s, wchar_t sep, wchar_t& last, wchar_t& fir
 {
     if (!s->empty())
         last = s->back();
-    for (std::size_t i = s->find(kBackslash); i != s->npos; i = s->find(kBackslash, i + 1))
-        (*s)[i] = sep;
+    std::replace(s->begin(), s->end(), kBackslash, sep);
     first = s->c_str()[0];
-    second = s->size() > 1 ? (*s)[1] : kEOS;
+    second = secondCharacter(*s);
 }
 
 int GetPathCatType(wchar_t first, wchar_t second, wchar_t sep, path_category& cat,
                    CStdStr<wchar_t>* s, const CRbUiPathname* base)
 {
-    if (first == sep) {
-        cat = second == sep ? PC_UNC : PC_ROOTED;
-    } else if (second == kColon && ktqtbase::isLetter(first)) {
-        cat = PC_DRIVE;
-        if (!s->empty())
-            s->front() = ktqtbase::upperCase(s->front());
+    if (classify(first, second, sep, cat)) {
+        raiseDriveLetter(*s);
         return 0;
     }
-    if (holds(*s, kColon))
-        return 1;
-    const bool needsBase = cat == PC_RELATIVE;
-    return !needsBase || (base && ktqtbase::isParsed(base->m_type)) ? 0 : 1;
+    return s->find(kColon) == s->npos && acceptsBase(cat, base) ? 0 : 1;
 }
 
 void GetUNCScount(CStdStr<wchar_t>*, int*, unsigned int&, int&, wchar_t) {}
@@ -180,14 +250,10 @@ void GetWorkPtrByIndex(path_category cat, CStdStr<wchar_t>* s, wchar_t sep, int 
 void GetRelPath(path_category cat, const CStdStr<wchar_t>* text, CStdStr<wchar_t>** out,
                 const CRbUiPathname** base)
 {
-    if (cat == PC_RELATIVE) {
-        auto prefix = std::make_unique<CStdStr<wchar_t>>();
-        if (base && *base)
-            (*base)->GetFullPath(*prefix);
-        *out = prefix->empty() ? nullptr : prefix.release();
-    } else if (cat == PC_ROOTED) {
+    if (cat == PC_RELATIVE)
+        *out = prefixOf(cat, base ? *base : nullptr, nullptr).release();
+    else if (cat == PC_ROOTED)
         *out = text ? new CStdStr<wchar_t>(*text) : new CStdStr<wchar_t>();
-    }
 }
 
 bool GetPathBuffer(CStdStr<wchar_t>**, bool, CStdStr<wchar_t>*, wchar_t,

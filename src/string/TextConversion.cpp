@@ -35,20 +35,21 @@ NarrowText::NarrowText(const wchar_t* wide)
 
 // Takes a short ASCII text, which is the same bytes in every LC_CTYPE: at the length of a usual
 // file name the C library's conversion costs more than the system call that the name is made for.
+// The loop looks at every character, since without a way out it takes several at once.
 bool NarrowText::copyAscii(const wchar_t* wide)
 {
-    for (std::size_t i = 0; i < kShortRoom; ++i) {
-        const auto unit = static_cast<unsigned int>(wide[i]);
-        if (unit > kLastAscii)
-            return false;
-        m_short[i] = static_cast<char>(unit);
-        if (unit == 0) {
-            m_text = m_short;
-            m_length = i;
-            return true;
-        }
+    const std::size_t length = std::wcslen(wide);
+    if (length >= kShortRoom)
+        return false;
+    unsigned int bits = 0;
+    for (std::size_t i = 0; i < length; ++i) {
+        bits |= static_cast<unsigned int>(wide[i]);
+        m_short[i] = static_cast<char>(wide[i]);
     }
-    return false;
+    m_short[length] = '\0';
+    m_text = bits <= kLastAscii ? m_short : nullptr;
+    m_length = length;
+    return m_text;
 }
 
 void NarrowText::convertAny(const wchar_t* wide)

@@ -25,8 +25,8 @@ private:
     // Asking a facet costs more than the rest of a short trim, and the classic one is known.
     static const std::ctype<wchar_t>* classesOf(const std::locale& locale)
     {
-        const bool isClassicLocale = locale == std::locale::classic();
-        return isClassicLocale ? nullptr : &std::use_facet<std::ctype<wchar_t>>(locale);
+        static const std::locale& classic = std::locale::classic();
+        return locale == classic ? nullptr : &std::use_facet<std::ctype<wchar_t>>(locale);
     }
 
     static bool isClassic(wchar_t ch) { return ch == L' ' || (ch >= L'\t' && ch <= L'\r'); }

@@ -195,6 +195,8 @@ TEST_F(PathAllocation, EmptiesANameWhoseParseFailsBehindItsReset)
                                 false);
          }},
         {"Parse", After::EmptyInTime, true,
+         [](auto& name, auto&) { name.Parse(kLongText, false); }},
+        {"Parse of its own text", After::EmptyInTime, false,
          [](auto& name, auto&) { name.Parse(name.GetPathString(), false); }},
         {"Parse of the base", After::EmptyInTime, true,
          [](auto& name, auto&) { name.CRbUiPathname::Parse(name.GetPathString(), false); }},
@@ -210,18 +212,18 @@ TEST_F(PathAllocation, EmptiesANameWhoseParseFailsBehindItsReset)
 
 TEST_F(PathAllocation, EmptiesANameWhoseLookUpFails)
 {
-    const std::wstring text = L"/" + std::wstring(300, L'n');
-    int last = 0;
-    CRnUiPathname probe;
-    while (
-        failingnew::failsAt(last + 1, [&] { probe.ParseRelative(text.c_str(), nullptr, false); }))
-        ++last;
-    // The last allocation is that of the conversion for the file system.
-    CRnUiPathname name;
-    ASSERT_EQ(name.ParseRelative(L"/no/such", nullptr, false), 0);
-    EXPECT_TRUE(
-        failingnew::failsAt(last, [&] { name.ParseRelative(text.c_str(), nullptr, false); }));
-    expectUnparsed(name);
+    const std::wstring text = L"/" + std::wstring(600, L'n');
+    int failures = 0;
+    for (;; ++failures) {
+        CRnUiPathname name;
+        ASSERT_EQ(name.ParseRelative(L"/no/such", nullptr, false), 0);
+        if (!failingnew::failsAt(failures + 1,
+                                 [&] { name.ParseRelative(text.c_str(), nullptr, false); }))
+            break;
+        expectUnparsed(name);
+    }
+    // The work string grows, and the look-up takes a wide text and its conversion.
+    EXPECT_EQ(failures, 3);
 }
 
 TEST_F(PathAllocation, EmptiesThePrefixWhereItCannotBeSet)
