@@ -1,64 +1,31 @@
 // SPDX-License-Identifier: MIT
 #include <KtQtBase/PathName.h>
 
+#include "pathname/NameText.h"
 #include "pathname/PathInternals.h"
 #include "pathname/PathTypeLookup.h"
 #include "string/CaseFolding.h"
-#include "string/WhiteSpace.h"
 
 #include <algorithm>
 #include <cwchar>
-#include <memory>
 #include <utility>
 
 namespace {
 
+using ktqtbase::NameMarks;
+using ktqtbase::OwnedText;
+using ktqtbase::TextRange;
 using Text = CStdStr<wchar_t>;
-using OwnedText = std::unique_ptr<Text>;
 
-bool isQuoted(const ktqtbase::TextRange& text)
+bool holds(const Text& text, wchar_t ch)
 {
-    return text.size() >= 2 && *text.begin == kDoubleQuote && text.end[-1] == kDoubleQuote;
+    return text.find(ch) != text.npos;
 }
 
-// A name without its quotes and the blanks around and inside them, found in place.
-ktqtbase::TextRange bareName(const wchar_t* name)
+bool holdsSeveralColons(const Text& text)
 {
-    const ktqtbase::WhiteSpace isSpace;
-    const ktqtbase::TextRange text = trimmed({name, name + std::wcslen(name)}, isSpace);
-    return isQuoted(text) ? trimmed({text.begin + 1, text.end - 1}, isSpace) : text;
-}
-
-// A copy of a text in the string of the parse before, where there is one: to fill a string costs
-// less than to free it and to get another. The text may lie in that string.
-OwnedText copied(const ktqtbase::TextRange& text, OwnedText former)
-{
-    if (!former) {
-        former = std::make_unique<Text>();
-        // And room for the separator that AppendSlash puts behind a folder.
-        former->reserve(text.size() + 1);
-    }
-    former->assign(text.begin, text.size());
-    return former;
-}
-
-// How many there are of the two characters that a parse looks for.
-struct MarkCounts
-{
-    unsigned int colons = 0;
-    unsigned int backslashes = 0;
-};
-
-// One loop without a branch takes several characters at once; for a short name that is less than
-// the calls of two searches.
-MarkCounts countMarks(const ktqtbase::TextRange& text)
-{
-    MarkCounts counts;
-    for (const wchar_t* p = text.begin; p != text.end; ++p) {
-        counts.colons += *p == kColon;
-        counts.backslashes += *p == kBackslash;
-    }
-    return counts;
+    const std::size_t first = text.find(kColon);
+    return first != text.npos && text.find(kColon, first + 1) != text.npos;
 }
 
 wchar_t secondCharacter(const Text& text)
@@ -93,16 +60,32 @@ bool acceptsBase(path_category category, const CRbUiPathname* base)
     return category != PC_RELATIVE || (base && ktqtbase::isParsed(base->m_type));
 }
 
+// Normalises a name's text and sets its category. Result: whether the name is a good one.
+bool accept(CRbUiPathname& name, Text& text, const NameMarks& marks, const CRbUiPathname* base)
+{
+    if (text.empty() || (marks.colon && holdsSeveralColons(text)))
+        return false;
+    if (marks.backslash)
+        std::replace(text.begin(), text.end(), kBackslash, name.m_separator);
+    name.m_category = PC_RELATIVE;
+    if (classify(text.front(), secondCharacter(text), name.m_separator, name.m_category)) {
+        raiseDriveLetter(text);
+        return true;
+    }
+    const bool hasColon = marks.colon || secondCharacter(text) == kColon;
+    return !hasColon && name.m_category != PC_UNC && acceptsBase(name.m_category, base);
+}
+
 // Whether a text is a name. Compared in a loop, since most have two characters and a call of the C
 // library's comparison costs more.
-bool equalsName(const Text& text, const ktqtbase::TextRange& name)
+bool equalsName(const Text& text, const TextRange& name)
 {
     return text.size() == name.size() &&
            std::mismatch(name.begin, name.end, text.data()).first == name.end;
 }
 
 // The first volume of the list with a local name, or null.
-const CRbUiVolumeDescriptor* listedVolume(const ktqtbase::TextRange& name)
+const CRbUiVolumeDescriptor* listedVolume(const TextRange& name)
 {
     for (const CRbUiVolumeDescriptor* volume : qAsConst(volumeList)) {
         const Text* localName = volume ? volume->GetLocalName() : nullptr;
@@ -147,24 +130,14 @@ int CRbUiPathname::ParseRelative(const wchar_t* name, const CRbUiPathname* base,
 {
     if (!name)
         return 1;
-    OwnedText formerWork(std::exchange(m_pWork, nullptr));
+    OwnedText text(std::exchange(m_pWork, nullptr));
     OwnedText formerPrefix(std::exchange(m_pRelPath, nullptr));
     m_pVolume = nullptr;
     m_type = PT_NONE;
-    // Read and copied first: the name may lie in the former strings.
+    // The name is read first, for it may lie in the strings that are filled next.
     const bool qualifies = m_bQualified || std::wcschr(name, kColon);
-    const ktqtbase::TextRange bare = bareName(name);
-    const MarkCounts counts = countMarks(bare);
-    if (bare.size() == 0 || counts.colons > 1)
-        return 1;
-    OwnedText text = copied(bare, std::move(formerWork));
-    if (counts.backslashes > 0)
-        std::replace(text->begin(), text->end(), kBackslash, m_separator);
-
-    m_category = PC_RELATIVE;
-    if (classify(text->front(), secondCharacter(*text), m_separator, m_category))
-        raiseDriveLetter(*text);
-    else if (counts.colons > 0 || m_category == PC_UNC || !acceptsBase(m_category, base))
+    const NameMarks marks = fill(text, ktqtbase::bareName(name));
+    if (!accept(*this, *text, marks, base))
         return 1;
 
     ktqtbase::EmptyUnlessFinished guard(*this);
@@ -174,12 +147,14 @@ int CRbUiPathname::ParseRelative(const wchar_t* name, const CRbUiPathname* base,
     m_pRelPath = prefixOf(m_category, base, std::move(formerPrefix)).release();
     m_pWork = text.release();
     m_type = PT_NOT_FOUND;
-    m_type = ktqtbase::isPattern(*m_pWork, m_separator)
+    // A volume may have changed any character.
+    const bool mayBePattern = marks.wildcard || m_pVolume;
+    m_type = mayBePattern && ktqtbase::isPattern(*m_pWork, m_separator)
                  ? PT_WILDCARD
                  : ktqtbase::typeOnDisk(*m_pWork, m_pRelPath);
     guard.finished();
 
-    m_bQualified = qualifies || m_pWork->find(m_separator) != m_pWork->npos;
+    m_bQualified = qualifies || holds(*m_pWork, m_separator);
     return 0;
 }
 
@@ -196,8 +171,8 @@ int CRbUiPathname::AppendSlash()
 void CRbUiPathname::Unquote(CStdStr<wchar_t>& s)
 {
     const ktqtbase::WhiteSpace isSpace;
-    const ktqtbase::TextRange text = trimmed({s.data(), s.data() + s.size()}, isSpace);
-    if (isQuoted(text))
+    const TextRange text = trimmed({s.data(), s.data() + s.size()}, isSpace);
+    if (ktqtbase::isQuoted(text))
         s.assign(text.begin + 1, text.size() - 2);
 }
 
@@ -236,7 +211,7 @@ int GetPathCatType(wchar_t first, wchar_t second, wchar_t sep, path_category& ca
         raiseDriveLetter(*s);
         return 0;
     }
-    return s->find(kColon) == s->npos && acceptsBase(cat, base) ? 0 : 1;
+    return !holds(*s, kColon) && acceptsBase(cat, base) ? 0 : 1;
 }
 
 void GetUNCScount(CStdStr<wchar_t>*, int*, unsigned int&, int&, wchar_t) {}

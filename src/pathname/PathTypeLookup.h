@@ -1,87 +1,86 @@
 // SPDX-License-Identifier: MIT
 //
-// What a name denotes. The functions are inline for the parse: behind a system call the processor
-// has forgotten where the calls before it return to, so that each level of them costs extra.
+// What a name denotes.
 #ifndef KTQTBASE_PATHNAME_PATHTYPELOOKUP_H
 #define KTQTBASE_PATHNAME_PATHTYPELOOKUP_H
 
-#include <KtQtBase/windows/Constants.h>
-#include <KtQtBase/windows/Files.h>
+#include <KtQtBase/WideString.h>
+#include <KtQtBase/pathname/PathTypes.h>
 
-#include "pathname/PathInternals.h"
-
-#include <algorithm>
-#include <cwchar>
-#include <memory>
+#include "string/TextConversion.h"
+#include "system/FileMode.h"
 
 namespace ktqtbase {
 
-// The directory attribute of Windows; in a POSIX mode the same bit is the group's write permission.
-inline constexpr unsigned int kDirectoryAttribute = 0x10;
+// Whether a text holds an asterisk or a question mark.
+bool holdsWildcard(const CStdStr<wchar_t>& text);
 
-inline bool holdsWildcard(const wchar_t* text, std::size_t length)
-{
-    return std::wmemchr(text, kAsterisk, length) || std::wmemchr(text, kQuestionmark, length);
-}
+// Whether the last component of a name is a pattern.
+bool isPattern(const CStdStr<wchar_t>& work, wchar_t separator);
 
-inline bool holdsWildcard(const CStdStr<wchar_t>& text)
-{
-    return holdsWildcard(text.data(), text.size());
-}
+// Whether GetFileAttributes is the library's own. A host may have put another before it.
+bool isOwnGetFileAttributes();
 
-// Whether the last component of a name is a pattern. Most names hold no wildcard anywhere, so that
-// their last component need not be found.
-inline bool isPattern(const CStdStr<wchar_t>& work, wchar_t separator)
-{
-    if (!holdsWildcard(work))
-        return false;
-    const std::size_t last = lastComponent(work, separator);
-    return holdsWildcard(work.data() + last, work.size() - last);
-}
+// What GetFileAttributes answers for a name behind its prefix, which may be null.
+unsigned int attributesByWideName(const CStdStr<wchar_t>& work, const CStdStr<wchar_t>* prefix);
 
-// A prefix, a slash and a name, on the stack where they are short: a string's storage costs as much
-// there as the rest of the joining.
-class JoinedPath
+// A short ASCII name as the system calls take it: what GetFileAttributes would make of the wide
+// text, without that text.
+class ShortPath
 {
 public:
-    JoinedPath(const CStdStr<wchar_t>& prefix, const CStdStr<wchar_t>& work)
+    // Result: false where the name gets too long, or is not ASCII and so left to LC_CTYPE.
+    bool append(const CStdStr<wchar_t>& text)
     {
-        const std::size_t size = prefix.size() + 1 + work.size() + 1;
-        if (size > kShortRoom)
-            m_long = std::make_unique<wchar_t[]>(size);
-        m_text = m_long ? m_long.get() : m_short;
-        wchar_t* const end = std::copy(prefix.begin(), prefix.end(), m_text);
-        *end = kSlash;
-        std::copy_n(work.c_str(), work.size() + 1, end + 1);
+        if (text.size() >= kRoom - m_length ||
+            !narrowAscii(text.data(), text.size(), m_text + m_length))
+            return false;
+        m_length += text.size();
+        return true;
     }
-    JoinedPath(const JoinedPath&) = delete;
-    JoinedPath& operator=(const JoinedPath&) = delete;
 
-    const wchar_t* c_str() const { return m_text; }
+    bool appendSlash()
+    {
+        m_text[m_length] = '/';
+        return ++m_length < kRoom;
+    }
+
+    const char* terminated()
+    {
+        m_text[m_length] = '\0';
+        return m_text;
+    }
 
 private:
-    static constexpr std::size_t kShortRoom = 512;
+    static constexpr std::size_t kRoom = 512;
 
-    wchar_t* m_text;
-    std::unique_ptr<wchar_t[]> m_long;
-    wchar_t m_short[kShortRoom];
+    std::size_t m_length = 0;
+    char m_text[kRoom];
 };
 
-inline path_type typeFromAttributes(unsigned int attributes)
+// The same as of attributesByWideName. Inline, since a processor has forgotten behind a system call
+// where it returns to, so that each level of calls costs extra.
+__attribute__((always_inline)) inline unsigned int attributesOf(const CStdStr<wchar_t>& work,
+                                                                const CStdStr<wchar_t>* prefix)
 {
-    if (attributes == INVALID_FILE_ATTRIBUTES)
-        return PT_NOT_FOUND;
-    return attributes & kDirectoryAttribute ? PT_DIRECTORY : PT_FILE;
+    ShortPath path;
+    if (isOwnGetFileAttributes() && (!prefix || (path.append(*prefix) && path.appendSlash())) &&
+        path.append(work))
+        return modeOf(path.terminated());
+    return attributesByWideName(work, prefix);
 }
 
 // What the file system has under a name behind its prefix, which may be null.
 __attribute__((always_inline)) inline path_type typeOnDisk(const CStdStr<wchar_t>& work,
                                                            const CStdStr<wchar_t>* prefix)
 {
-    if (!prefix)
-        return typeFromAttributes(GetFileAttributes(work.c_str()));
-    const JoinedPath path(*prefix, work);
-    return typeFromAttributes(GetFileAttributes(path.c_str()));
+    // The directory attribute of Windows; in a POSIX mode the same bit is the group's write
+    // permission.
+    constexpr unsigned int kDirectoryAttribute = 0x10;
+    const unsigned int attributes = attributesOf(work, prefix);
+    if (attributes == INVALID_FILE_ATTRIBUTES)
+        return PT_NOT_FOUND;
+    return attributes & kDirectoryAttribute ? PT_DIRECTORY : PT_FILE;
 }
 
 } // namespace ktqtbase

@@ -2,6 +2,7 @@
 #include "string/TextConversion.h"
 
 #include "platform/Platform.h"
+#include "string/WideBlock.h"
 
 #include <clocale>
 #include <cstdlib>
@@ -27,29 +28,37 @@ std::size_t widenCharacter(wchar_t* wide, const char* narrow, std::size_t left,
 
 namespace ktqtbase {
 
+bool narrowAscii(const wchar_t* wide, std::size_t length, char* narrow)
+{
+    Found others;
+    std::size_t i = 0;
+    for (; length - i >= WideBlock::kSize; i += WideBlock::kSize) {
+        const WideBlock block(wide + i);
+        others.add(block.placesOfOthers());
+        block.narrowTo(narrow + i);
+    }
+    for (; i < length; ++i) {
+        others.add(static_cast<unsigned int>(wide[i]) > kLastAscii);
+        narrow[i] = static_cast<char>(wide[i]);
+    }
+    return !others.anywhere();
+}
+
 NarrowText::NarrowText(const wchar_t* wide)
 {
     if (wide && !copyAscii(wide))
         convertAny(wide);
 }
 
-// Takes a short ASCII text, which is the same bytes in every LC_CTYPE: at the length of a usual
-// file name the C library's conversion costs more than the system call that the name is made for.
-// The loop looks at every character, since without a way out it takes several at once.
 bool NarrowText::copyAscii(const wchar_t* wide)
 {
     const std::size_t length = std::wcslen(wide);
-    if (length >= kShortRoom)
+    if (length >= kShortRoom || !narrowAscii(wide, length, m_short))
         return false;
-    unsigned int bits = 0;
-    for (std::size_t i = 0; i < length; ++i) {
-        bits |= static_cast<unsigned int>(wide[i]);
-        m_short[i] = static_cast<char>(wide[i]);
-    }
     m_short[length] = '\0';
-    m_text = bits <= kLastAscii ? m_short : nullptr;
+    m_text = m_short;
     m_length = length;
-    return m_text;
+    return true;
 }
 
 void NarrowText::convertAny(const wchar_t* wide)

@@ -4,6 +4,7 @@
 #ifndef KTQTBASE_STRING_WHITESPACE_H
 #define KTQTBASE_STRING_WHITESPACE_H
 
+#include <cstring>
 #include <locale>
 
 namespace ktqtbase {
@@ -22,11 +23,14 @@ public:
     }
 
 private:
-    // Asking a facet costs more than the rest of a short trim, and the classic one is known.
+    // Asking a facet costs more than the rest of a short trim, and the classic one is known. A
+    // locale of the same bytes is the same one; where an equal one has others, its facet is asked.
     static const std::ctype<wchar_t>* classesOf(const std::locale& locale)
     {
         static const std::locale& classic = std::locale::classic();
-        return locale == classic ? nullptr : &std::use_facet<std::ctype<wchar_t>>(locale);
+        return std::memcmp(&locale, &classic, sizeof locale) == 0
+                   ? nullptr
+                   : &std::use_facet<std::ctype<wchar_t>>(locale);
     }
 
     static bool isClassic(wchar_t ch) { return ch == L' ' || (ch >= L'\t' && ch <= L'\r'); }

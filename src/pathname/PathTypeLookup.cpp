@@ -1,0 +1,70 @@
+// SPDX-License-Identifier: MIT
+#include "pathname/PathTypeLookup.h"
+
+#include <KtQtBase/windows/Files.h>
+
+#include "pathname/PathInternals.h"
+#include "string/WideBlock.h"
+
+#include <dlfcn.h>
+
+namespace {
+
+bool holdsWildcard(const wchar_t* text, std::size_t length)
+{
+    using ktqtbase::WideBlock;
+    ktqtbase::Found wildcard;
+    std::size_t i = 0;
+    for (; length - i >= WideBlock::kSize; i += WideBlock::kSize) {
+        const WideBlock block(text + i);
+        wildcard.add(block.placesOf(kAsterisk));
+        wildcard.add(block.placesOf(kQuestionmark));
+    }
+    for (; i < length; ++i)
+        wildcard.add(text[i] == kAsterisk || text[i] == kQuestionmark);
+    return wildcard.anywhere();
+}
+
+// The address at which the library lies that holds a function, or null.
+const void* libraryOf(const void* function)
+{
+    Dl_info info;
+    return dladdr(function, &info) ? info.dli_fbase : nullptr;
+}
+
+} // namespace
+
+namespace ktqtbase {
+
+bool holdsWildcard(const CStdStr<wchar_t>& text)
+{
+    return ::holdsWildcard(text.data(), text.size());
+}
+
+bool isPattern(const CStdStr<wchar_t>& work, wchar_t separator)
+{
+    // Most names hold no wildcard anywhere, so that their last component need not be found.
+    if (!holdsWildcard(work))
+        return false;
+    const std::size_t last = lastComponent(work, separator);
+    return ::holdsWildcard(work.data() + last, work.size() - last);
+}
+
+bool isOwnGetFileAttributes()
+{
+    static const bool isOwn = libraryOf(reinterpret_cast<const void*>(&GetFileAttributes)) ==
+                              libraryOf(reinterpret_cast<const void*>(&isOwnGetFileAttributes));
+    return isOwn;
+}
+
+unsigned int attributesByWideName(const CStdStr<wchar_t>& work, const CStdStr<wchar_t>* prefix)
+{
+    if (!prefix)
+        return GetFileAttributes(work.c_str());
+    CStdStr<wchar_t> text;
+    text.reserve(prefix->size() + 1 + work.size());
+    text.append(*prefix).append(1, kSlash).append(work);
+    return GetFileAttributes(text.c_str());
+}
+
+} // namespace ktqtbase
