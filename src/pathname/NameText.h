@@ -63,10 +63,12 @@ inline NameMarks copyAndMark(TextRange text, wchar_t* out)
     return {colon.anywhere(), backslash.anywhere(), wildcard.anywhere()};
 }
 
-// How many characters of a name may be a drive, which may hold the colon of a sound name.
+// How many characters of a name may be a drive, whose colon a sound name may hold.
 inline std::size_t driveLength(const TextRange& name)
 {
-    return name.size() > 1 && name.begin[1] == kColon && *name.begin != kColon ? 2 : 0;
+    const bool mayBeDrive = name.size() > 1 && name.begin[1] == kColon && *name.begin != kColon &&
+                            *name.begin != kBackslash;
+    return mayBeDrive ? 2 : 0;
 }
 
 // Copies a name into the string of the parse before, where there is one: to fill a string costs

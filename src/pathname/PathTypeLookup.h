@@ -29,7 +29,8 @@ unsigned int attributesByWideName(const CStdStr<wchar_t>& work, const CStdStr<wc
 class ShortPath
 {
 public:
-    // Result: false where the name gets too long, or is not ASCII and so left to LC_CTYPE.
+    // Keeps room for one more character, a slash or the terminator. Result: false where the name
+    // gets too long, or is not ASCII and so left to LC_CTYPE.
     bool append(const CStdStr<wchar_t>& text)
     {
         if (text.size() >= kRoom - m_length ||
@@ -39,10 +40,12 @@ public:
         return true;
     }
 
-    bool appendSlash()
+    bool appendFolder(const CStdStr<wchar_t>& text)
     {
-        m_text[m_length] = '/';
-        return ++m_length < kRoom;
+        if (!append(text))
+            return false;
+        m_text[m_length++] = '/';
+        return true;
     }
 
     const char* terminated()
@@ -64,8 +67,7 @@ __attribute__((always_inline)) inline unsigned int attributesOf(const CStdStr<wc
                                                                 const CStdStr<wchar_t>* prefix)
 {
     ShortPath path;
-    if (isOwnGetFileAttributes() && (!prefix || (path.append(*prefix) && path.appendSlash())) &&
-        path.append(work))
+    if (isOwnGetFileAttributes() && (!prefix || path.appendFolder(*prefix)) && path.append(work))
         return modeOf(path.terminated());
     return attributesByWideName(work, prefix);
 }

@@ -169,6 +169,24 @@ TEST(ParseRelative, LooksForTheSeparatorInWhatTheVolumeMadeOfTheName)
     EXPECT_FALSE(name.m_bQualified);
 }
 
+// Puts a pattern in the place of each name.
+class PatternVolume : public RecordingVolume
+{
+public:
+    using RecordingVolume::RecordingVolume;
+    void VolCase(Text& name) const override { name += L"*"; }
+};
+
+TEST(ParseRelative, LooksForAPatternInWhatTheVolumeMadeOfTheName)
+{
+    PatternVolume volume(L"C:");
+    const ListedVolumes listed{&volume};
+    CRbUiPathname name;
+    ASSERT_EQ(name.ParseRelative(L"c:\\dir\\a", nullptr, false), 0);
+    EXPECT_STREQ(name.GetPathString(), L"C:/dir/a*");
+    EXPECT_EQ(name.m_type, PT_WILDCARD);
+}
+
 class ThrowingVolume : public RecordingVolume
 {
 public:

@@ -13,6 +13,7 @@
 
 namespace {
 
+using ktqtbase::narrowAscii;
 using ktqtbase::NarrowText;
 using ktqtbase::widen;
 using ktqtbase::test::LocaleScope;
@@ -32,6 +33,35 @@ const PairRow kPairs[] = {
     {"emoji", L"a\U0001F600", "a\xf0\x9f\x98\x80"},
     {"last code point", L"\U0010FFFF", "\xf4\x8f\xbf\xbf"},
 };
+
+TEST(NarrowAscii, TakesAsciiOfEveryLengthAndWritesNoMore)
+{
+    for (std::size_t length = 0; length <= 40; ++length) {
+        std::wstring wide;
+        std::string expected;
+        for (std::size_t i = 0; i < length; ++i) {
+            wide += static_cast<wchar_t>(0x7F - i);
+            expected += static_cast<char>(0x7F - i);
+        }
+        std::string narrow(length + 1, '-');
+        EXPECT_TRUE(narrowAscii(wide.data(), length, &narrow[0]));
+        EXPECT_EQ(narrow, expected + '-');
+    }
+}
+
+TEST(NarrowAscii, RefusesAnyOtherCharacterAtAnyPlace)
+{
+    char narrow[40];
+    for (const wchar_t other : {0x80, 0xFF, 0x100, 0x8041, 0x10041, 0x10FFFF, -1, -0x7FFFFFBF}) {
+        for (std::size_t length = 1; length <= 40; ++length) {
+            for (std::size_t place = 0; place < length; ++place) {
+                std::wstring wide(length, L'a');
+                wide[place] = other;
+                EXPECT_FALSE(narrowAscii(wide.data(), length, narrow)) << other << ' ' << place;
+            }
+        }
+    }
+}
 
 TEST(NarrowText, IsUtf8InAUtf8Locale)
 {

@@ -150,6 +150,64 @@ std::wstring tail(const std::wstring& work, int prefix, int width)
     return rest;
 }
 
+bool isBlank(wchar_t ch)
+{
+    return ch == L' ' || ch == L'\t' || ch == L'\n' || ch == L'\v' || ch == L'\f' || ch == L'\r';
+}
+
+std::wstring withoutBlanks(std::wstring text)
+{
+    while (lengthOf(text) > 0 && isBlank(at(text, lengthOf(text) - 1)))
+        text = firstOf(text, lengthOf(text) - 1);
+    while (lengthOf(text) > 0 && isBlank(at(text, 0)))
+        text = from(text, 1);
+    return text;
+}
+
+std::wstring withoutQuotes(const std::wstring& text)
+{
+    const std::wstring bare = withoutBlanks(text);
+    const int length = lengthOf(bare);
+    const bool isQuoted = length >= 2 && at(bare, 0) == L'"' && at(bare, length - 1) == L'"';
+    return isQuoted ? from(firstOf(bare, length - 1), 1) : text;
+}
+
+int countOf(const std::wstring& text, wchar_t wanted)
+{
+    int count = 0;
+    for (const wchar_t ch : text) {
+        if (ch == wanted)
+            ++count;
+    }
+    return count;
+}
+
+std::wstring withSlashes(std::wstring text)
+{
+    for (wchar_t& ch : text) {
+        if (ch == L'\\')
+            ch = L'/';
+    }
+    return text;
+}
+
+int categoryOf(const std::wstring& text)
+{
+    const wchar_t second = lengthOf(text) > 1 ? at(text, 1) : L'\0';
+    if (at(text, 0) == L'/')
+        return second == L'/' ? slow::Unc : slow::Rooted;
+    return second == L':' && isLetter(at(text, 0)) ? slow::Drive : slow::Relative;
+}
+
+bool isPattern(const std::wstring& work)
+{
+    int start = lastIndex(work, L'/') + 1;
+    if (start == 0)
+        start = lastIndex(work, L':') + 1;
+    const std::wstring last = from(work, start);
+    return countOf(last, L'*') + countOf(last, L'?') > 0;
+}
+
 } // namespace
 
 int slow::trimSlash(Name& name)
@@ -290,4 +348,28 @@ bool slow::isValidFilename(const std::wstring& name, bool allowWildcards)
             return false;
     }
     return true;
+}
+
+slow::Parse slow::parse(const std::wstring& text, const std::optional<std::wstring>& base)
+{
+    Parse result;
+    std::wstring work = withSlashes(withoutBlanks(withoutQuotes(text)));
+    if (work.empty() || countOf(work, L':') > 1)
+        return result;
+    result.category = result.name.category = categoryOf(work);
+    const bool isDrive = result.category == Drive;
+    const bool hasColon = countOf(work, L':') == 1;
+    if (result.category == Unc || (!isDrive && hasColon) || (result.category == Relative && !base))
+        return result;
+    if (isDrive && at(work, 0) >= L'a')
+        work[0] = static_cast<wchar_t>(at(work, 0) - (L'a' - L'A'));
+    if (result.category == Rooted)
+        result.name.prefix = L"";
+    else if (result.category == Relative && !base->empty())
+        result.name.prefix = *base;
+    result.good = true;
+    result.name.work = work;
+    result.name.type = isPattern(work) ? Wildcard : NotFound;
+    result.qualified = countOf(text, L':') > 0 || countOf(work, L'/') > 0;
+    return result;
 }

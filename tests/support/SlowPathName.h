@@ -38,6 +38,18 @@ struct Name
     bool raised = false;  // in place of std::out_of_range
 };
 
+// What a parse makes of a text, as though no file existed anywhere.
+struct Parse
+{
+    bool good = false;
+    std::optional<int> category; // none where the parse leaves the former one
+    Name name;
+    bool qualified = false; // by this name alone
+};
+
+// Parses a text; a relative one needs a base, which is given by its full path.
+Parse parse(const std::wstring& text, const std::optional<std::wstring>& base);
+
 // The edits. Result: the result code.
 int trimSlash(Name& name);
 int trim(Name& name);
