@@ -52,6 +52,28 @@ inline bool liesIn(const CStdStr<wchar_t>& s, const wchar_t* text)
     return notAfter(s.data(), text) && notAfter(text, s.data() + s.size());
 }
 
+// Makes an owned string a copy of another one, or null. Overwriting keeps the storage, which costs
+// more to free and to get again than to fill.
+inline void copyString(CStdStr<wchar_t>*& own, const CStdStr<wchar_t>* other)
+{
+    if (!other)
+        ReleaseCStrPtr(&own);
+    else if (own)
+        own->assign(*other);
+    else
+        own = new CStdStr<wchar_t>(*other);
+}
+
+// Copies what a name holds besides its strings.
+inline void copyState(CRbUiPathname& name, const CRbUiPathname& other)
+{
+    name.m_type = other.m_type;
+    name.m_pVolume = other.m_pVolume;
+    name.m_category = other.m_category;
+    name.m_separator = other.m_separator;
+    name.m_bQualified = other.m_bQualified;
+}
+
 // Empties a path name that was begun and not finished, so that no host meets half of a name.
 class EmptyUnlessFinished
 {

@@ -27,6 +27,26 @@ void replaceByPrefix(CRbUiPathname& name)
     ParseRelPath(&name.m_pWork, name.m_separator, name.m_category);
 }
 
+// Whether a name has a prefix and neither separator nor colon.
+bool isBareName(const CRbUiPathname& name)
+{
+    return name.m_pRelPath && !name.m_pWork->empty() &&
+           ktqtbase::lastComponent(*name.m_pWork, name.m_separator) == 0;
+}
+
+// Makes a parent the prefix of a bare name, as replaceByPrefix does with a whole copy of the name,
+// of which it would throw one string away.
+void copyPrefix(CRbUiPathname& parent, const CRbUiPathname& name)
+{
+    ktqtbase::EmptyUnlessFinished guard(parent);
+    ktqtbase::copyString(parent.m_pWork, name.m_pRelPath);
+    ReleaseCStrPtr(&parent.m_pRelPath);
+    ktqtbase::copyState(parent, name);
+    guard.finished();
+    parent.m_type = PT_DIRECTORY;
+    ParseRelPath(&parent.m_pWork, parent.m_separator, parent.m_category);
+}
+
 } // namespace
 
 void CRbUiPathname::GetParent(CRbUiPathname& parent) const
@@ -40,7 +60,12 @@ void CRbUiPathname::GetParent(CRbUiPathname& parent) const
         return;
     }
     // What is overwritten at once need not be freed first.
-    if (seesItsCopy(parent))
+    const bool isSeen = seesItsCopy(parent);
+    if (!isSeen && isBareName(*this)) {
+        copyPrefix(parent, *this);
+        return;
+    }
+    if (isSeen)
         parent.Empty();
     parent.AssignCopy(*this);
     parent.m_type = PT_DIRECTORY;
