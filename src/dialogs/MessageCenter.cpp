@@ -13,13 +13,11 @@ QWidget* widgetOf(HWND hWnd)
     return QWidget::find(reinterpret_cast<WId>(hWnd));
 }
 
-} // namespace
-
 // Both make the event before they know whether anybody gets it: its type is registered by the first
 // message, delivered or not. A null receiver crashes Qt's sendEvent, and postEvent prints a
 // warning.
 
-LRESULT QKtMessageCenter::sendMessage(HWND hWnd, UINT msg, WPARAM wParam, LPARAM lParam)
+LRESULT send(HWND hWnd, UINT msg, WPARAM wParam, LPARAM lParam)
 {
     QKtMsgEvent event(msg, wParam, lParam);
     if (QWidget* const receiver = widgetOf(hWnd))
@@ -27,7 +25,7 @@ LRESULT QKtMessageCenter::sendMessage(HWND hWnd, UINT msg, WPARAM wParam, LPARAM
     return 0;
 }
 
-bool QKtMessageCenter::postMessage(HWND hWnd, UINT msg, WPARAM wParam, LPARAM lParam)
+bool post(HWND hWnd, UINT msg, WPARAM wParam, LPARAM lParam)
 {
     auto event = std::make_unique<QKtMsgEvent>(msg, wParam, lParam);
     if (QWidget* const receiver = widgetOf(hWnd))
@@ -35,12 +33,24 @@ bool QKtMessageCenter::postMessage(HWND hWnd, UINT msg, WPARAM wParam, LPARAM lP
     return true;
 }
 
+} // namespace
+
+LRESULT QKtMessageCenter::sendMessage(HWND hWnd, UINT msg, WPARAM wParam, LPARAM lParam)
+{
+    return send(hWnd, msg, wParam, lParam);
+}
+
+bool QKtMessageCenter::postMessage(HWND hWnd, UINT msg, WPARAM wParam, LPARAM lParam)
+{
+    return post(hWnd, msg, wParam, lParam);
+}
+
 LRESULT SendMessage(HWND hWnd, UINT Msg, WPARAM wParam, LPARAM lParam)
 {
-    return QKtMessageCenter::sendMessage(hWnd, Msg, wParam, lParam);
+    return send(hWnd, Msg, wParam, lParam);
 }
 
 bool PostMessage(HWND hWnd, UINT Msg, WPARAM wParam, LPARAM lParam)
 {
-    return QKtMessageCenter::postMessage(hWnd, Msg, wParam, lParam);
+    return post(hWnd, Msg, wParam, lParam);
 }

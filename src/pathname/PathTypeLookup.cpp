@@ -50,11 +50,10 @@ bool isPattern(const CStdStr<wchar_t>& work, wchar_t separator)
     return ::holdsWildcard(work.data() + last, work.size() - last);
 }
 
-bool isOwnGetFileAttributes()
+bool findOwnGetFileAttributes()
 {
-    static const bool isOwn = libraryOf(reinterpret_cast<const void*>(&GetFileAttributes)) ==
-                              libraryOf(reinterpret_cast<const void*>(&isOwnGetFileAttributes));
-    return isOwn;
+    return libraryOf(reinterpret_cast<const void*>(&GetFileAttributes)) ==
+           libraryOf(reinterpret_cast<const void*>(&findOwnGetFileAttributes));
 }
 
 unsigned int attributesByWideName(const CStdStr<wchar_t>& work, const CStdStr<wchar_t>* prefix)

@@ -18,8 +18,14 @@ bool holdsWildcard(const CStdStr<wchar_t>& text);
 // Whether the last component of a name is a pattern.
 bool isPattern(const CStdStr<wchar_t>& work, wchar_t separator);
 
-// Whether GetFileAttributes is the library's own. A host may have put another before it.
-bool isOwnGetFileAttributes();
+// Looks up whether GetFileAttributes is the library's own. A host may have put another before it.
+bool findOwnGetFileAttributes();
+
+inline bool isOwnGetFileAttributes()
+{
+    static const bool isOwn = findOwnGetFileAttributes();
+    return isOwn;
+}
 
 // What GetFileAttributes answers for a name behind its prefix, which may be null.
 unsigned int attributesByWideName(const CStdStr<wchar_t>& work, const CStdStr<wchar_t>* prefix);

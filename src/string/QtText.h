@@ -10,11 +10,8 @@
 
 namespace ktqtbase {
 
-// A terminated text as a Qt string; null gives an empty one.
-inline QString toQt(const wchar_t* text)
-{
-    return QString::fromUcs4(reinterpret_cast<const char32_t*>(text), -1);
-}
+// A terminated text as a Qt string; null gives a null one.
+QString toQt(const wchar_t* text);
 
 // A Qt string as wide text, up to its first NUL.
 inline CStdStr<wchar_t> toWide(const QString& text)

@@ -28,7 +28,8 @@ std::size_t widenCharacter(wchar_t* wide, const char* narrow, std::size_t left,
 
 namespace ktqtbase {
 
-bool narrowAscii(const wchar_t* wide, std::size_t length, char* narrow)
+template<class Unit>
+bool narrowAscii(const wchar_t* wide, std::size_t length, Unit* narrow)
 {
     Found others;
     std::size_t i = 0;
@@ -39,10 +40,13 @@ bool narrowAscii(const wchar_t* wide, std::size_t length, char* narrow)
     }
     for (; i < length; ++i) {
         others.add(static_cast<unsigned int>(wide[i]) > kLastAscii);
-        narrow[i] = static_cast<char>(wide[i]);
+        narrow[i] = static_cast<Unit>(wide[i]);
     }
     return !others.anywhere();
 }
+
+template bool narrowAscii(const wchar_t*, std::size_t, char*);
+template bool narrowAscii(const wchar_t*, std::size_t, char16_t*);
 
 NarrowText::NarrowText(const wchar_t* wide)
 {

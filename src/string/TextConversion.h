@@ -10,12 +10,14 @@
 
 namespace ktqtbase {
 
-// Narrows ASCII text, which is the same bytes in every LC_CTYPE: at the length of a usual file name
-// the C library's conversion costs more than the system call that the name is made for.
+// Narrows ASCII text, which is the same bytes in every LC_CTYPE, and the same units in UTF-16: at
+// the length of a usual file name the C library's conversion costs more than the system call that
+// the name is made for, and Qt's about as much.
 //   wide      in: the text, of so many characters
-//   narrow    out: as many bytes, without a terminator
+//   narrow    out: as many bytes (char) or units (char16_t), without a terminator
 // Result: whether the text is ASCII; narrow is not to be used where it is not.
-bool narrowAscii(const wchar_t* wide, std::size_t length, char* narrow);
+template<class Unit>
+bool narrowAscii(const wchar_t* wide, std::size_t length, Unit* narrow);
 
 // A wide text in multibyte form, or none where the text is null or does not convert.
 class NarrowText

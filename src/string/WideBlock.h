@@ -30,11 +30,16 @@ public:
         store(text + kSize / 2, m_second);
     }
 
-    // Writes kSize bytes, which are the same text where it is ASCII.
+    // Writes kSize bytes, or units of UTF-16, which are the same text where it is ASCII.
     void narrowTo(char* text) const
     {
         const __m128i bytes = _mm_packus_epi16(m_words, m_words);
         _mm_storel_epi64(reinterpret_cast<__m128i*>(text), bytes);
+    }
+
+    void narrowTo(char16_t* text) const
+    {
+        _mm_storeu_si128(reinterpret_cast<__m128i*>(text), m_words);
     }
 
     // Where an ASCII character stands, for Found.

@@ -25,16 +25,16 @@ int CStdStr<T>::Find(const T* sub) const
 template<class T>
 CStdStr<T> CStdStr<T>::Mid(int first, int count) const
 {
-    const std::size_t start = static_cast<std::size_t>(std::max(first, 0));
-    if (start >= this->size())
-        return CStdStr();
-    return CStdStr(*this, start, static_cast<std::size_t>(std::max(count, 0)));
+    const std::size_t start = std::min(static_cast<std::size_t>(std::max(first, 0)), this->size());
+    const std::size_t wanted = static_cast<std::size_t>(std::max(count, 0));
+    return CStdStr(this->data() + start, std::min(wanted, this->size() - start));
 }
 
 template<class T>
 CStdStr<T> CStdStr<T>::Left(int count) const
 {
-    return CStdStr(*this, 0, static_cast<std::size_t>(std::max(count, 0)));
+    const std::size_t wanted = static_cast<std::size_t>(std::max(count, 0));
+    return CStdStr(this->data(), std::min(wanted, this->size()));
 }
 
 template<class T>

@@ -5,15 +5,13 @@
 #include <QtCore/QString>
 #include <QtCore/QVariant>
 
+#include "string/QtText.h"
+
+using ktqtbase::toQt;
+
 namespace {
 
 constexpr unsigned int kTooLong = 0xFFFFFFFF;
-
-// Up to the first NUL; null gives the empty string.
-QString toQString(const wchar_t* text)
-{
-    return QString::fromWCharArray(text);
-}
 
 // QSettings prints a warning about an empty name, and the library has no log.
 void store(QSettings& settings, const QString& name, const QString& value)
@@ -49,8 +47,8 @@ unsigned int CRegKey::Create(HKEY, const wchar_t* lpszKeyName, wchar_t*, unsigne
 
 unsigned int CRegKey::SetValue(const wchar_t* lpszValue, const wchar_t* lpszValueName, bool, int)
 {
-    m_pSettings->beginGroup(toQString(m_pKeyName));
-    store(*m_pSettings, toQString(lpszValueName), toQString(lpszValue));
+    m_pSettings->beginGroup(toQt(m_pKeyName));
+    store(*m_pSettings, toQt(lpszValueName), toQt(lpszValue));
     m_pSettings->endGroup();
     return ERROR_SUCCESS;
 }
@@ -58,8 +56,8 @@ unsigned int CRegKey::SetValue(const wchar_t* lpszValue, const wchar_t* lpszValu
 unsigned int CRegKey::QueryValue(wchar_t* szValue, const wchar_t* lpszValueName,
                                  unsigned int* pnChars)
 {
-    m_pSettings->beginGroup(toQString(m_pKeyName));
-    const QString text = stored(*m_pSettings, toQString(lpszValueName));
+    m_pSettings->beginGroup(toQt(m_pKeyName));
+    const QString text = stored(*m_pSettings, toQt(lpszValueName));
     const unsigned int room = pnChars ? *pnChars : 0;
     // Kept: the group stays open, as the header promises.
     if (static_cast<unsigned int>(text.size()) > room)

@@ -89,6 +89,9 @@ TEST(WideBlock, NarrowsEachAsciiCharacterAndNoMore)
         std::string out(WideBlock::kSize + 2, '-');
         WideBlock(text.data()).narrowTo(&out[1]);
         EXPECT_EQ(out, '-' + expected + '-');
+        std::u16string units(WideBlock::kSize + 2, u'-');
+        WideBlock(text.data()).narrowTo(&units[1]);
+        EXPECT_EQ(units, u'-' + std::u16string(expected.begin(), expected.end()) + u'-');
     }
 }
 
