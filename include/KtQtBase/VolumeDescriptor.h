@@ -20,16 +20,16 @@
 
 // ---- Characters --------------------------------------------------------------------------------
 
-inline constexpr KTQTBASE_EXPORT wchar_t kBackslash = L'\\';
-inline constexpr KTQTBASE_EXPORT wchar_t kColon = L':';
-inline constexpr KTQTBASE_EXPORT wchar_t kDoubleQuote = L'"';
-inline constexpr KTQTBASE_EXPORT wchar_t kEOS = L'\0'; // the terminator
-inline constexpr KTQTBASE_EXPORT wchar_t kPeriod = L'.';
-inline constexpr KTQTBASE_EXPORT wchar_t kSlash = L'/';
-inline constexpr KTQTBASE_EXPORT wchar_t kSpace = L' ';
-inline constexpr KTQTBASE_EXPORT wchar_t kAsterisk = L'*';
-inline constexpr KTQTBASE_EXPORT wchar_t kQuestionmark = L'?';
-inline constexpr KTQTBASE_EXPORT wchar_t kZero = L'0'; // the digit
+extern KTQTBASE_EXPORT const wchar_t kBackslash;
+extern KTQTBASE_EXPORT const wchar_t kColon;
+extern KTQTBASE_EXPORT const wchar_t kDoubleQuote;
+extern KTQTBASE_EXPORT const wchar_t kEOS; // the terminator, 0
+extern KTQTBASE_EXPORT const wchar_t kPeriod;
+extern KTQTBASE_EXPORT const wchar_t kSlash;
+extern KTQTBASE_EXPORT const wchar_t kSpace;
+extern KTQTBASE_EXPORT const wchar_t kAsterisk;
+extern KTQTBASE_EXPORT const wchar_t kQuestionmark;
+extern KTQTBASE_EXPORT const wchar_t kZero; // the digit
 
 // ---- File systems ------------------------------------------------------------------------------
 

@@ -39,7 +39,8 @@ struct NameMarks
 };
 
 // Copies a text and looks for its marks on the way: at the length of a usual name each call of a
-// search or a copy costs as much again. The two may overlap where out lies first.
+// search or a copy costs as much again. The two may overlap where out lies first. The marks are
+// written out, since the exported constants would be fetched for each name.
 inline NameMarks copyAndMark(TextRange text, wchar_t* out)
 {
     Found colon;
@@ -47,17 +48,17 @@ inline NameMarks copyAndMark(TextRange text, wchar_t* out)
     Found wildcard;
     for (; text.size() >= WideBlock::kSize; text.begin += WideBlock::kSize) {
         const WideBlock block(text.begin);
-        colon.add(block.placesOf(kColon));
-        backslash.add(block.placesOf(kBackslash));
-        wildcard.add(block.placesOf(kAsterisk));
-        wildcard.add(block.placesOf(kQuestionmark));
+        colon.add(block.placesOf(L':'));
+        backslash.add(block.placesOf(L'\\'));
+        wildcard.add(block.placesOf(L'*'));
+        wildcard.add(block.placesOf(L'?'));
         block.copyTo(out);
         out += WideBlock::kSize;
     }
     for (; text.size() > 0; ++text.begin) {
-        colon.add(*text.begin == kColon);
-        backslash.add(*text.begin == kBackslash);
-        wildcard.add(*text.begin == kAsterisk || *text.begin == kQuestionmark);
+        colon.add(*text.begin == L':');
+        backslash.add(*text.begin == L'\\');
+        wildcard.add(*text.begin == L'*' || *text.begin == L'?');
         *out++ = *text.begin;
     }
     return {colon.anywhere(), backslash.anywhere(), wildcard.anywhere()};
@@ -66,8 +67,8 @@ inline NameMarks copyAndMark(TextRange text, wchar_t* out)
 // How many characters of a name may be a drive, whose colon a sound name may hold.
 inline std::size_t driveLength(const TextRange& name)
 {
-    const bool mayBeDrive = name.size() > 1 && name.begin[1] == kColon && *name.begin != kColon &&
-                            *name.begin != kBackslash;
+    const bool mayBeDrive =
+        name.size() > 1 && name.begin[1] == L':' && *name.begin != L':' && *name.begin != L'\\';
     return mayBeDrive ? 2 : 0;
 }
 

@@ -17,11 +17,11 @@ bool holdsWildcard(const wchar_t* text, std::size_t length)
     std::size_t i = 0;
     for (; length - i >= WideBlock::kSize; i += WideBlock::kSize) {
         const WideBlock block(text + i);
-        wildcard.add(block.placesOf(kAsterisk));
-        wildcard.add(block.placesOf(kQuestionmark));
+        wildcard.add(block.placesOf(L'*'));
+        wildcard.add(block.placesOf(L'?'));
     }
     for (; i < length; ++i)
-        wildcard.add(text[i] == kAsterisk || text[i] == kQuestionmark);
+        wildcard.add(text[i] == L'*' || text[i] == L'?');
     return wildcard.anywhere();
 }
 

@@ -1,13 +1,13 @@
 // SPDX-License-Identifier: MIT
 #include <KtQtBase/VolumeDescriptor.h>
 
-namespace {
-
-// Makes the library export the constants, although compilers put their values where they are used:
-// hosts may ask for their addresses.
-__attribute__((used)) const wchar_t* const kExported[] = {
-    &kBackslash, &kColon, &kDoubleQuote, &kEOS,          &kPeriod,
-    &kSlash,     &kSpace, &kAsterisk,    &kQuestionmark, &kZero,
-};
-
-} // namespace
+const wchar_t kBackslash = L'\\';
+const wchar_t kColon = L':';
+const wchar_t kDoubleQuote = L'"';
+const wchar_t kEOS = L'\0';
+const wchar_t kPeriod = L'.';
+const wchar_t kSlash = L'/';
+const wchar_t kSpace = L' ';
+const wchar_t kAsterisk = L'*';
+const wchar_t kQuestionmark = L'?';
+const wchar_t kZero = L'0';
