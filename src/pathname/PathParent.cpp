@@ -27,15 +27,8 @@ void replaceByPrefix(CRbUiPathname& name)
     ParseRelPath(&name.m_pWork, name.m_separator, name.m_category);
 }
 
-// Whether a name has a prefix and neither separator nor colon.
-bool isBareName(const CRbUiPathname& name)
-{
-    return name.m_pRelPath && !name.m_pWork->empty() &&
-           ktqtbase::lastComponent(*name.m_pWork, name.m_separator) == 0;
-}
-
-// Makes a parent the prefix of a bare name, as replaceByPrefix does with a whole copy of the name,
-// of which it would throw one string away.
+// Makes a parent the prefix of a name without separator or colon, as replaceByPrefix does with a
+// whole copy of the name, of which it would throw one string away.
 void copyPrefix(CRbUiPathname& parent, const CRbUiPathname& name)
 {
     ktqtbase::EmptyUnlessFinished guard(parent);
@@ -59,12 +52,13 @@ void CRbUiPathname::GetParent(CRbUiPathname& parent) const
         self.GetParent(parent);
         return;
     }
-    // What is overwritten at once need not be freed first.
     const bool isSeen = seesItsCopy(parent);
-    if (!isSeen && isBareName(*this)) {
+    const std::size_t last = ktqtbase::lastComponent(*m_pWork, m_separator);
+    if (!isSeen && last == 0 && m_pRelPath && !m_pWork->empty()) {
         copyPrefix(parent, *this);
         return;
     }
+    // What is overwritten at once need not be freed first.
     if (isSeen)
         parent.Empty();
     parent.AssignCopy(*this);
@@ -74,7 +68,9 @@ void CRbUiPathname::GetParent(CRbUiPathname& parent) const
         return;
     if (GetLastCharacter(*parent.m_pWork) == m_separator)
         parent.TrimSlash();
-    const std::size_t length = ktqtbase::lastComponent(*parent.m_pWork, m_separator);
+    const bool isSame = !isSeen && parent.m_pWork->size() == m_pWork->size();
+    const std::size_t length =
+        isSame ? last : ktqtbase::lastComponent(*parent.m_pWork, m_separator);
     if (length > 0)
         parent.m_pWork->resize(length);
     else
