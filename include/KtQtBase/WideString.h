@@ -16,6 +16,8 @@
 
 #include <KtQtBase/Export.h>
 
+#include <algorithm>
+#include <cstddef>
 #include <locale>
 #include <string>
 #include <utility>
@@ -92,6 +94,22 @@ public:
     // On Windows: the string gets the text's own length, and is emptied on failure.
     bool LoadString(unsigned int id);
 };
+
+// In sight of hosts, since a call between two libraries costs as much as a short text.
+template<class T>
+CStdStr<T> CStdStr<T>::Mid(int first, int count) const
+{
+    const std::size_t start = std::min(static_cast<std::size_t>(std::max(first, 0)), this->size());
+    const std::size_t wanted = static_cast<std::size_t>(std::max(count, 0));
+    return CStdStr(this->data() + start, std::min(wanted, this->size() - start));
+}
+
+template<class T>
+CStdStr<T> CStdStr<T>::Left(int count) const
+{
+    const std::size_t wanted = static_cast<std::size_t>(std::max(count, 0));
+    return CStdStr(this->data(), std::min(wanted, this->size()));
+}
 
 // The operations exist once, in the library, for the wide string only.
 extern template class KTQTBASE_EXPORT CStdStr<wchar_t>;

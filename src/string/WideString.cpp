@@ -3,7 +3,6 @@
 
 #include "string/WhiteSpace.h"
 
-#include <algorithm>
 
 namespace {
 
@@ -20,21 +19,6 @@ int CStdStr<T>::Find(const T* sub) const
 {
     const std::size_t position = sub ? this->find(sub) : 0;
     return position == this->npos ? -1 : static_cast<int>(position);
-}
-
-template<class T>
-CStdStr<T> CStdStr<T>::Mid(int first, int count) const
-{
-    const std::size_t start = std::min(static_cast<std::size_t>(std::max(first, 0)), this->size());
-    const std::size_t wanted = static_cast<std::size_t>(std::max(count, 0));
-    return CStdStr(this->data() + start, std::min(wanted, this->size() - start));
-}
-
-template<class T>
-CStdStr<T> CStdStr<T>::Left(int count) const
-{
-    const std::size_t wanted = static_cast<std::size_t>(std::max(count, 0));
-    return CStdStr(this->data(), std::min(wanted, this->size()));
 }
 
 template<class T>
