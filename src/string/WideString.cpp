@@ -3,7 +3,6 @@
 
 #include "string/WhiteSpace.h"
 
-
 namespace {
 
 template<class T>

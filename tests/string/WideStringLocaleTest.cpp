@@ -30,6 +30,16 @@ TEST(TrimRight, AsksTheGlobalLocaleForWhiteSpace)
     EXPECT_EQ(Text(L"xxx").TrimRight(), L"");
 }
 
+TEST(TrimLeft, TakesTheWhiteSpaceOfTheClassicFacet)
+{
+    const auto& facet = std::use_facet<std::ctype<wchar_t>>(std::locale::classic());
+    for (wchar_t ch = 1; ch < 0x3100; ++ch) {
+        const bool isSpace = facet.is(std::ctype_base::space, ch);
+        EXPECT_EQ(Text({ch, L'a'}).TrimLeft().size(), isSpace ? 1u : 2u) << ch;
+        EXPECT_EQ(Text({L'a', ch}).TrimRight().size(), isSpace ? 1u : 2u) << ch;
+    }
+}
+
 TEST(TrimLeft, AsksTheGlobalLocaleAtEveryCall)
 {
     Text text = L" xa";

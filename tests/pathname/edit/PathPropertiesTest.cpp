@@ -269,6 +269,30 @@ TEST_F(HandMadeNames, HaveTheParentOfTheSlowReading)
     }
 }
 
+// A class that the library does not know is emptied first, and copied into as a whole.
+class HostsPath final : public CRbUiPathname
+{};
+
+TEST_F(HandMadeNames, HaveTheSameParentInAUsedObjectAndInAHostsClass)
+{
+    CRbUiPathname used;
+    HostsPath hosts;
+    for (int round = 0; round < kRounds; ++round) {
+        const slow::Name name = next();
+        SCOPED_TRACE(name.work.c_str());
+        if (slow::parentOf(name).raised)
+            continue;
+        CRbUiPathname made;
+        make(name, made);
+        CRbUiPathname fresh;
+        made.GetParent(fresh);
+        made.GetParent(used);
+        made.GetParent(hosts);
+        ASSERT_EQ(fieldsOf(used), fieldsOf(fresh));
+        ASSERT_EQ(fieldsOf(hosts), fieldsOf(fresh));
+    }
+}
+
 TEST_F(HandMadeNames, AreShownAsTheSlowReadingShowsThem)
 {
     for (int round = 0; round < kRounds; ++round) {
