@@ -79,11 +79,12 @@ TEST(WideBlock, CopiesItsCharactersAndNoMore)
 
 TEST(WideBlock, NarrowsEachAsciiCharacterAndNoMore)
 {
-    for (wchar_t first = 0; first + WideBlock::kSize <= 0x80; ++first) {
+    constexpr std::size_t kAscii = 0x80;
+    for (std::size_t first = 0; first + WideBlock::kSize <= kAscii; ++first) {
         std::wstring text;
         std::string expected;
-        for (wchar_t ch = first; text.size() < WideBlock::kSize; ++ch) {
-            text += ch;
+        for (std::size_t ch = first; text.size() < WideBlock::kSize; ++ch) {
+            text += static_cast<wchar_t>(ch);
             expected += static_cast<char>(ch);
         }
         std::string out(WideBlock::kSize + 2, '-');
