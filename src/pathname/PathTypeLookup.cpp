@@ -4,9 +4,10 @@
 #include <KtQtBase/windows/Files.h>
 
 #include "pathname/PathInternals.h"
+#include "platform/Platform.h"
 #include "string/WideBlock.h"
 
-#include <dlfcn.h>
+#include <cstring>
 
 namespace {
 
@@ -25,11 +26,12 @@ bool holdsWildcard(const wchar_t* text, std::size_t length)
     return wildcard.anywhere();
 }
 
-// The address at which the library lies that holds a function, or null.
-const void* libraryOf(const void* function)
+// The file that a function was loaded from, or an empty text.
+const char* fileOf(const void* function)
 {
-    Dl_info info;
-    return dladdr(function, &info) ? info.dli_fbase : nullptr;
+    const char* fileName = "";
+    ktqtbase::platform::moduleFileName(function, &fileName);
+    return fileName;
 }
 
 } // namespace
@@ -52,8 +54,9 @@ bool isPattern(const CStdStr<wchar_t>& work, wchar_t separator)
 
 bool findOwnGetFileAttributes()
 {
-    return libraryOf(reinterpret_cast<const void*>(&GetFileAttributes)) ==
-           libraryOf(reinterpret_cast<const void*>(&findOwnGetFileAttributes));
+    const char* const used = fileOf(reinterpret_cast<const void*>(&GetFileAttributes));
+    const char* const own = fileOf(reinterpret_cast<const void*>(&findOwnGetFileAttributes));
+    return std::strcmp(used, own) == 0;
 }
 
 unsigned int attributesByWideName(const CStdStr<wchar_t>& work, const CStdStr<wchar_t>* prefix)

@@ -1,8 +1,8 @@
 // SPDX-License-Identifier: MIT
 //
 // Eight wide characters at once, by instructions that every x86-64 processor has. Of a plain loop a
-// compiler makes four times as many, for it may not narrow by saturation; and behind a system call
-// each line of code is fetched anew, so that few instructions matter more than fast ones.
+// compiler makes two to three times the code, for it may not narrow by saturation; and behind a
+// system call each line of code is fetched anew, so that little code matters more than fast code.
 #ifndef KTQTBASE_STRING_WIDEBLOCK_H
 #define KTQTBASE_STRING_WIDEBLOCK_H
 

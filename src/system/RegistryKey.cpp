@@ -1,11 +1,11 @@
 // SPDX-License-Identifier: MIT
 #include <KtQtBase/RegistryKey.h>
 
+#include "string/QtText.h"
+
 #include <QtCore/QSettings>
 #include <QtCore/QString>
 #include <QtCore/QVariant>
-
-#include "string/QtText.h"
 
 using ktqtbase::toQt;
 

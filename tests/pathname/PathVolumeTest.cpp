@@ -149,6 +149,36 @@ TEST(ParseRelative, ForgetsTheVolumeOfTheNameBefore)
     EXPECT_EQ(name.m_pVolume, nullptr);
 }
 
+// Looks at the name that is being parsed.
+class WatchingVolume : public RecordingVolume
+{
+public:
+    using RecordingVolume::RecordingVolume;
+    void VolCase(Text&) const override
+    {
+        EXPECT_EQ(watched->m_type, PT_NONE);
+        EXPECT_EQ(watched->m_pVolume, this);
+        EXPECT_EQ(watched->m_pWork, nullptr);
+        EXPECT_EQ(watched->m_pRelPath, nullptr);
+        ++calls;
+    }
+
+    const CRbUiPathname* watched = nullptr;
+    mutable int calls = 0;
+};
+
+TEST(ParseRelative, ShowsTheVolumeNothingOfTheNameBefore)
+{
+    WatchingVolume volume(L"C:");
+    const ListedVolumes listed{&volume};
+    CRbUiPathname name;
+    volume.watched = &name;
+    ASSERT_EQ(name.ParseRelative(L"/old", nullptr, false), 0);
+    ASSERT_EQ(name.ParseRelative(L"c:\\new", nullptr, false), 0);
+    ASSERT_EQ(name.ParseRelative(L"c:\\newer", nullptr, false), 0);
+    EXPECT_EQ(volume.calls, 2);
+}
+
 // Takes the name apart: what a volume makes of it is the name.
 class SeparatorlessVolume : public RecordingVolume
 {

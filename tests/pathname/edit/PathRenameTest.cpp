@@ -20,6 +20,8 @@ Calls g_calls;
 int g_renameResult = 0;
 HANDLE g_handle = nullptr;
 unsigned int g_attributes = 0;
+const CRbUiPathname* g_asked = nullptr;
+path_type g_typeWhileAsked = PT_NONE;
 
 class FileFunctions : public testing::Test
 {
@@ -74,6 +76,8 @@ HANDLE CreateFile(const wchar_t* name, unsigned int access, unsigned int share,
 unsigned int GetFileAttributes(const wchar_t* name)
 {
     g_calls.push_back(std::wstring(L"attributes ") + name);
+    if (g_asked)
+        g_typeWhileAsked = g_asked->m_type;
     return g_attributes;
 }
 
@@ -134,9 +138,12 @@ TEST_F(Parse, AsksOnceForTheAttributesBehindThePrefix)
 {
     HandMadePath base(PC_ROOTED, L"/prefix", PT_DIRECTORY);
     CRbUiPathname name;
+    g_asked = &name;
     g_attributes = 0x10;
     ASSERT_EQ(name.ParseRelative(L"d/a", &base, false), 0);
     EXPECT_EQ(g_calls, Calls{L"attributes " + prefixOf(name) + L"/d/a"});
     EXPECT_EQ(prefixOf(name).substr(0, 7), L"/prefix");
+    EXPECT_EQ(g_typeWhileAsked, PT_NOT_FOUND);
     EXPECT_EQ(name.m_type, PT_DIRECTORY);
+    g_asked = nullptr;
 }
