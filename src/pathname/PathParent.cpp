@@ -54,7 +54,7 @@ void CRbUiPathname::GetParent(CRbUiPathname& parent) const
     }
     const bool isSeen = seesItsCopy(parent);
     const std::size_t last = ktqtbase::lastComponent(*m_pWork, m_separator);
-    if (!isSeen && last == 0 && m_pRelPath && !m_pWork->empty()) {
+    if (!isSeen && last == 0 && m_pRelPath) {
         copyPrefix(parent, *this);
         return;
     }

@@ -226,6 +226,17 @@ TEST_F(PathAllocation, EmptiesANameWhoseLookUpFails)
     EXPECT_EQ(failures, 3);
 }
 
+TEST_F(PathAllocation, EmptiesTheParentOfABareNameWhosePrefixCannotBeCopied)
+{
+    HandMadePath name(PC_RELATIVE, L"bare");
+    name.setPrefix(L"/" + std::wstring(200, L'p') + L"/");
+    CRbUiPathname parent;
+    ASSERT_EQ(parent.ParseRelative(L"a/b", &g_CurrentDirPrefix, false), 0);
+    ASSERT_TRUE(failingnew::failsAt(1, [&] { name.GetParent(parent); }));
+    expectUnparsed(parent);
+    EXPECT_EQ(workOf(name), L"bare");
+}
+
 TEST_F(PathAllocation, EmptiesThePrefixWhereItCannotBeSet)
 {
     int n = 1;

@@ -178,6 +178,22 @@ TEST(GetParent, LetsAResultCopyNothing)
     EXPECT_EQ(parent.m_type, PT_DIRECTORY);
 }
 
+TEST(GetParent, CutsWhatAResultMadeOfItsCopy)
+{
+    class Rewriting : public CRbUiPathname
+    {
+        void AssignCopy(const CRbUiPathname& other) override
+        {
+            CRbUiPathname::AssignCopy(other);
+            m_pWork->assign(L"/a/bcdef");
+        }
+    };
+    const HandMadePath name(PC_ROOTED, L"/tmp/dir");
+    Rewriting parent;
+    name.GetParent(parent);
+    EXPECT_EQ(workOf(parent), L"/a/");
+}
+
 TEST(GetParent, RaisesOutOfRangeForABareNameWithAnEmptyPrefix)
 {
     HandMadePath name(PC_ROOTED, L"bare");
