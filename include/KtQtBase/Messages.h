@@ -14,6 +14,9 @@
 //     if (AfxMessageBox(L"Save the changes?") == IDYES)
 //         SendMessage(window, WM_USER + 2, 0, reinterpret_cast<LPARAM>(&answer));
 //
+// Cursor, focus and keys, which a Windows program asks for beside its messages, stand in
+// windows/UserStubs.h, which this header includes.
+//
 // A window handle is what QWidget::winId() gives. All of this belongs to the GUI thread, but for
 // what PostMessage says.
 #ifndef KTQTBASE_MESSAGES_H
@@ -21,6 +24,7 @@
 
 #include <KtQtBase/Export.h>
 #include <KtQtBase/windows/Scalars.h>
+#include <KtQtBase/windows/UserStubs.h>
 
 #include <QtCore/QEvent>
 
@@ -128,41 +132,5 @@ KTQTBASE_EXPORT HINSTANCE AfxGetResourceHandle();
 // Stores a handle in m_hCurrentResourceHandle.
 //   hInstResource    in: the module, unchecked; it stays the caller's and must outlive its use
 KTQTBASE_EXPORT void AfxSetResourceHandle(HINSTANCE hInstResource);
-
-// ---- Cursor, focus and keys --------------------------------------------------------------------
-
-namespace KtUser32 {
-
-// The mouse pointer's shape.
-// Inert: returns null. QWidget::cursor knows it.
-// On Windows: returns the shape that is shown.
-KTQTBASE_EXPORT HCURSOR GetCursor();
-
-// Changes the mouse pointer's shape.
-// Inert: changes nothing. QWidget::setCursor does.
-// On Windows: returns the shape that was shown before.
-KTQTBASE_EXPORT void SetCursor(HCURSOR hCursor);
-
-// Lets a window take input, or stops it.
-// Inert: returns true (1) and changes nothing. QWidget::setEnabled does.
-// On Windows: the result says whether the window was disabled before.
-KTQTBASE_EXPORT int EnableWindow(HWND hWnd, bool bEnable);
-
-// Gives a window the keyboard.
-// Inert: returns null and changes nothing. QWidget::setFocus does.
-// On Windows: returns the window that had the keyboard before.
-KTQTBASE_EXPORT HWND SetFocus(HWND hWnd);
-
-// The window that has the keyboard.
-// Inert: returns null. QApplication::focusWidget knows it.
-// On Windows: null only where no window of the thread has it.
-KTQTBASE_EXPORT HWND GetFocus();
-
-} // namespace KtUser32
-
-// Whether a key is down or toggled.
-// Inert: returns 0, which is neither, for every key.
-// On Windows: bit 15 means down, bit 0 toggled.
-KTQTBASE_EXPORT short GetKeyState(int nVirtKey);
 
 #endif

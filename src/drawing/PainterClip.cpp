@@ -3,7 +3,7 @@
 // Clips by rectangle and by polygon list.
 #include <KtQtBase/drawing/Painter.h>
 
-#include "drawing/Clipping.h"
+#include "drawing/PainterClip.h"
 
 #include <QtGui/QPainter>
 

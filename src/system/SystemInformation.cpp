@@ -45,11 +45,6 @@ int getDiaplayHeight()
     return ktqtbase::platform::mainScreenHeight();
 }
 
-const wchar_t* CharNext(const wchar_t* lpsz)
-{
-    return lpsz + 1;
-}
-
 unsigned int KtKernel32::GetTickCount()
 {
     return ::GetTickCount();

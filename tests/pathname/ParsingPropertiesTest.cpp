@@ -2,7 +2,7 @@
 //
 // Parses of random texts beside a slow reading of the same, by an object that is new each time and
 // by one that keeps its strings from parse to parse.
-#include "pathname/edit/HandMadePath.h"
+#include "pathname/HandMadePath.h"
 #include "support/RandomNames.h"
 #include "support/SlowPathName.h"
 #include "support/TemporaryFolder.h"

@@ -145,14 +145,6 @@ TEST(GetSystemMetrics, GivesWidthFor16HeightFor17And0ForAllElse)
 
 // ---- Characters --------------------------------------------------------------------------------
 
-TEST(CharNext, IsTheNextPlaceAlsoAtTheTerminator)
-{
-    const wchar_t text[] = L"\U0001F600b";
-    EXPECT_EQ(CharNext(text), text + 1);
-    EXPECT_EQ(CharNext(text + 1), text + 2);
-    EXPECT_EQ(CharNext(text + 2), text + 3);
-}
-
 TEST(KtKernel32, AsksTheOsBaseLibraryAboutLeadBytes)
 {
     for (int byte = 0; byte < 256; ++byte) {

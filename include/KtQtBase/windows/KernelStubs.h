@@ -166,6 +166,13 @@ KTQTBASE_EXPORT int CompareString(unsigned int Locale, unsigned int dwCmpFlags,
                                   const wchar_t* lpString1, int cchCount1, const wchar_t* lpString2,
                                   int cchCount2);
 
+// Writes out a number as a locale has it.
+// Inert: returns 0; the text is not written.
+// On Windows: the number is written, and its length returned.
+KTQTBASE_EXPORT int GetNumberFormat(unsigned int Locale, unsigned int dwFlags,
+                                    const wchar_t* lpValue, const NUMBERFMTW* lpFormat,
+                                    wchar_t* lpNumberStr, int cchNumber);
+
 // ---- The second set ----------------------------------------------------------------------------
 
 // Hosts call some functions by way of this namespace. Those of the same name outside it do the

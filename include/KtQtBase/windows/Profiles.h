@@ -31,7 +31,7 @@
 #define KTQTBASE_WINDOWS_PROFILES_H
 
 #include <KtQtBase/Export.h>
-#include <KtQtBase/windows/Records.h>
+#include <KtQtBase/windows/KernelStubs.h>
 
 // Reads a key's value, the names of a section's keys, or the names of all sections.
 //   section        in: the section; white space around it is dropped. Null asks for the names of
@@ -125,14 +125,5 @@ KTQTBASE_EXPORT unsigned int GetPrivateProfileSectionNames(wchar_t* lpszReturnBu
 // On Windows: the key is written, or removed where lpString is null.
 KTQTBASE_EXPORT bool WritePrivateProfileString(const wchar_t* lpAppName, const wchar_t* lpKeyName,
                                                const wchar_t* lpString, const wchar_t* lpFileName);
-
-// Writes out a number as a locale has it.
-//   Locale, dwFlags, lpValue, lpFormat, cchNumber    ignored
-//   lpNumberStr                                      not written
-// Inert: returns 0.
-// On Windows: the number is written, and its length returned.
-KTQTBASE_EXPORT int GetNumberFormat(unsigned int Locale, unsigned int dwFlags,
-                                    const wchar_t* lpValue, const NUMBERFMTW* lpFormat,
-                                    wchar_t* lpNumberStr, int cchNumber);
 
 #endif

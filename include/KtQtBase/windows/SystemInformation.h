@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: MIT
 //
-// The clock, the screen's size, the last error, and the step to the next character.
+// The clock, the screen's size and the last error.
 //
 //     unsigned int start = GetTickCount();
 //     work();
@@ -9,6 +9,7 @@
 #define KTQTBASE_WINDOWS_SYSTEMINFORMATION_H
 
 #include <KtQtBase/Export.h>
+#include <KtQtBase/windows/CharNext.h>
 
 // A clock for differences of two readings.
 // Result: milliseconds of the wall clock since 1970, modulo 2^32; wraps about every 49.7 days and
@@ -31,12 +32,6 @@ KTQTBASE_EXPORT int GetSystemMetrics(int nIndex);
 // Kept: the second name is spelt as hosts call it.
 KTQTBASE_EXPORT int getDisplayWidth();
 KTQTBASE_EXPORT int getDiaplayHeight();
-
-// The next character of a text.
-//   lpsz    in: a place in a text
-// Result: lpsz + 1, also at the terminator.
-// On Windows: a place at the terminator is returned as it is.
-KTQTBASE_EXPORT const wchar_t* CharNext(const wchar_t* lpsz);
 
 // The same under the names of kernel32; each does what the global function does.
 namespace KtKernel32 {

@@ -14,6 +14,8 @@
 #include <KtQtBase/windows/Records.h>
 #include <KtQtBase/windows/Scalars.h>
 
+// ---- Windows -----------------------------------------------------------------------------------
+
 // The device context of a window.
 // Inert: returns null. KtQtPainterWrapper draws on a widget.
 // On Windows: returns a context that ReleaseDC gives back.
@@ -49,5 +51,41 @@ KTQTBASE_EXPORT int DestroyAcceleratorTable(HACCEL hAccel);
 // Inert: returns 0, which is no format; nothing is registered.
 // On Windows: returns the same number, 0xC000 or above, for the same name everywhere.
 KTQTBASE_EXPORT unsigned int RegisterClipboardFormatW(const wchar_t* lpszFormat);
+
+// ---- Cursor, focus and keys --------------------------------------------------------------------
+
+namespace KtUser32 {
+
+// The mouse pointer's shape.
+// Inert: returns null. QWidget::cursor knows it.
+// On Windows: returns the shape that is shown.
+KTQTBASE_EXPORT HCURSOR GetCursor();
+
+// Changes the mouse pointer's shape.
+// Inert: changes nothing. QWidget::setCursor does.
+// On Windows: returns the shape that was shown before.
+KTQTBASE_EXPORT void SetCursor(HCURSOR hCursor);
+
+// Lets a window take input, or stops it.
+// Inert: returns true (1) and changes nothing. QWidget::setEnabled does.
+// On Windows: the result says whether the window was disabled before.
+KTQTBASE_EXPORT int EnableWindow(HWND hWnd, bool bEnable);
+
+// Gives a window the keyboard.
+// Inert: returns null and changes nothing. QWidget::setFocus does.
+// On Windows: returns the window that had the keyboard before.
+KTQTBASE_EXPORT HWND SetFocus(HWND hWnd);
+
+// The window that has the keyboard.
+// Inert: returns null. QApplication::focusWidget knows it.
+// On Windows: null only where no window of the thread has it.
+KTQTBASE_EXPORT HWND GetFocus();
+
+} // namespace KtUser32
+
+// Whether a key is down or toggled.
+// Inert: returns 0, which is neither, for every key.
+// On Windows: bit 15 means down, bit 0 toggled.
+KTQTBASE_EXPORT short GetKeyState(int nVirtKey);
 
 #endif

@@ -117,6 +117,11 @@ int CompareString(unsigned int, unsigned int, const wchar_t*, int, const wchar_t
     return 0;
 }
 
+int GetNumberFormat(unsigned int, unsigned int, const wchar_t*, const NUMBERFMTW*, wchar_t*, int)
+{
+    return 0;
+}
+
 namespace KtKernel32 {
 
 int CloseHandle(void*)

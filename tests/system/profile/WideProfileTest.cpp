@@ -237,12 +237,3 @@ TEST(GetPrivateProfileSectionNames, TouchesNothing)
     EXPECT_EQ(area[0], kPoison);
     EXPECT_EQ(GetPrivateProfileSectionNames(nullptr, 0, nullptr), 0u);
 }
-
-TEST(GetNumberFormat, TouchesNothing)
-{
-    const NUMBERFMTW format{};
-    wchar_t area[] = {kPoison, kPoison};
-    EXPECT_EQ(GetNumberFormat(0, 0, L"1234", &format, area, 2), 0);
-    EXPECT_EQ(area[0], kPoison);
-    EXPECT_EQ(GetNumberFormat(0, 0, nullptr, nullptr, nullptr, 0), 0);
-}

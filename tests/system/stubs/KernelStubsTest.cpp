@@ -257,6 +257,15 @@ TEST(GetUserName, WritesNeitherNameNorSize)
     EXPECT_TRUE(size.isUntouched());
 }
 
+TEST(GetNumberFormat, WritesNoText)
+{
+    const NUMBERFMTW format{};
+    Poisoned<wchar_t[2]> area;
+    EXPECT_EQ(GetNumberFormat(0, 0, L"1234", &format, *area.get(), 2), 0);
+    EXPECT_TRUE(area.isUntouched());
+    EXPECT_EQ(GetNumberFormat(0, 0, nullptr, nullptr, nullptr, 0), 0);
+}
+
 TEST(CompareString, IsZeroForEqualAndForDifferentTexts)
 {
     EXPECT_EQ(CompareString(LOCALE_USER_DEFAULT, 0, L"same", 4, L"same", 4), 0);

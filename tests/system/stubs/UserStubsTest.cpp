@@ -1,10 +1,13 @@
 // SPDX-License-Identifier: MIT
+#include "system/stubs/Poisoned.h"
+
 #include <KtQtBase/windows/Constants.h>
 #include <KtQtBase/windows/UserStubs.h>
 
-#include "system/stubs/Poisoned.h"
-
-#include <QApplication>
+#include <QtTest/QTest>
+#include <QtWidgets/QApplication>
+#include <QtWidgets/QLineEdit>
+#include <QtWidgets/QWidget>
 
 #include <gtest/gtest.h>
 
@@ -14,6 +17,11 @@ template<class Handle>
 Handle someHandle()
 {
     return reinterpret_cast<Handle>(0x10ULL);
+}
+
+HWND handleOf(const QWidget& widget)
+{
+    return reinterpret_cast<HWND>(widget.winId());
 }
 
 } // namespace
@@ -32,11 +40,6 @@ TEST(ReleaseDC, ReturnsZero)
 
 TEST(MessageBox, ShowsNoBoxAndReturnsAtOnce)
 {
-    qputenv("QT_QPA_PLATFORM", "offscreen");
-    int argumentCount = 1;
-    char program[] = "test";
-    char* arguments[] = {program, nullptr};
-    QApplication application(argumentCount, arguments);
     EXPECT_EQ(MessageBox(nullptr, L"text", L"caption", MB_YESNO | MB_ICONERROR), 0);
     EXPECT_TRUE(QApplication::topLevelWidgets().isEmpty());
 }
@@ -64,4 +67,54 @@ TEST(RegisterClipboardFormat, RegistersNoFormat)
 {
     EXPECT_EQ(RegisterClipboardFormatW(L"Rich Text Format"), 0u);
     EXPECT_EQ(RegisterClipboardFormatW(L""), 0u);
+}
+
+TEST(GetCursor, IsNull)
+{
+    EXPECT_EQ(KtUser32::GetCursor(), nullptr);
+}
+
+TEST(SetCursor, ChangesNothing)
+{
+    KtUser32::SetCursor(reinterpret_cast<HCURSOR>(1));
+    EXPECT_EQ(KtUser32::GetCursor(), nullptr);
+    EXPECT_EQ(QGuiApplication::overrideCursor(), nullptr);
+}
+
+TEST(EnableWindow, SaysTrueAndChangesNothing)
+{
+    QWidget widget;
+    EXPECT_EQ(KtUser32::EnableWindow(handleOf(widget), false), true);
+    EXPECT_TRUE(widget.isEnabled());
+    EXPECT_EQ(KtUser32::EnableWindow(nullptr, true), true);
+}
+
+TEST(SetFocus, IsNullAndMovesNoFocus)
+{
+    QWidget widget;
+    EXPECT_EQ(KtUser32::SetFocus(handleOf(widget)), nullptr);
+    EXPECT_FALSE(widget.hasFocus());
+    EXPECT_EQ(KtUser32::GetFocus(), nullptr);
+}
+
+TEST(SetFocus, LeavesTheFocusOfAnActiveWindow)
+{
+    QWidget window;
+    QLineEdit first(&window);
+    QLineEdit second(&window);
+    window.show();
+    window.activateWindow();
+    ASSERT_TRUE(QTest::qWaitForWindowActive(&window));
+    first.setFocus();
+    ASSERT_TRUE(first.hasFocus());
+    EXPECT_EQ(KtUser32::SetFocus(handleOf(second)), nullptr);
+    EXPECT_EQ(QApplication::focusWidget(), &first);
+    EXPECT_EQ(KtUser32::GetFocus(), nullptr);
+}
+
+TEST(GetKeyState, ReportsNoKeyDownOrToggled)
+{
+    for (int key = -1; key <= 256; ++key)
+        EXPECT_EQ(GetKeyState(key), 0) << key;
+    EXPECT_EQ(GetKeyState(VK_SHIFT), 0);
 }

@@ -1,0 +1,18 @@
+// SPDX-License-Identifier: MIT
+//
+// The step to the next character of a text.
+//
+//     for (const wchar_t* p = text; *p; p = CharNext(p))
+//         count(*p);
+#ifndef KTQTBASE_WINDOWS_CHARNEXT_H
+#define KTQTBASE_WINDOWS_CHARNEXT_H
+
+#include <KtQtBase/Export.h>
+
+// The next character of a text.
+//   lpsz    in: a place in a text
+// Result: lpsz + 1, also at the terminator.
+// On Windows: a place at the terminator is returned as it is.
+KTQTBASE_EXPORT const wchar_t* CharNext(const wchar_t* lpsz);
+
+#endif

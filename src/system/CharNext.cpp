@@ -1,0 +1,7 @@
+// SPDX-License-Identifier: MIT
+#include <KtQtBase/windows/CharNext.h>
+
+const wchar_t* CharNext(const wchar_t* lpsz)
+{
+    return lpsz + 1;
+}

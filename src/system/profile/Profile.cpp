@@ -1,0 +1,79 @@
+// SPDX-License-Identifier: MIT
+#include <KtQtBase/windows/Profiles.h>
+
+#include "string/TextConversion.h"
+
+#include <algorithm>
+#include <cstdlib>
+
+namespace {
+
+// The room for one argument or result in multibyte form.
+constexpr unsigned int kRoom = 1024;
+
+constexpr int kNumberRoom = 64;
+
+// A name never holds the character that ends it in a file.
+char kNoSection[] = "]";
+char kNoKey[] = "=";
+char kEmpty[] = "";
+
+// A wide argument in multibyte form. Null counts as the empty text; a text that is too long or does
+// not convert is replaced.
+class Argument
+{
+public:
+    Argument(const wchar_t* wide, char* replacement)
+        : m_narrow(wide ? wide : L""), m_replacement(replacement)
+    {}
+
+    char* text()
+    {
+        const bool usable = m_narrow.converted() && m_narrow.length() < kRoom;
+        return usable ? m_narrow.data() : m_replacement;
+    }
+
+private:
+    ktqtbase::NarrowText m_narrow;
+    char* m_replacement;
+};
+
+int read(const wchar_t* section, const wchar_t* key, const wchar_t* defaultText, char* out,
+         int size, const wchar_t* fileName)
+{
+    return read_profile_string(Argument(section, kNoSection).text(), Argument(key, kNoKey).text(),
+                               Argument(defaultText, kEmpty).text(), out, size,
+                               Argument(fileName, nullptr).text());
+}
+
+} // namespace
+
+unsigned int GetPrivateProfileString(const wchar_t* lpAppName, const wchar_t* lpKeyName,
+                                     const wchar_t* lpDefault, wchar_t* lpReturnedString,
+                                     unsigned int nSize, const wchar_t* lpFileName)
+{
+    char result[kRoom] = {};
+    const unsigned int size = std::min(nSize, kRoom);
+    const int count =
+        read(lpAppName, lpKeyName, lpDefault, result, static_cast<int>(size), lpFileName);
+    ktqtbase::widen(result, lpReturnedString, size);
+    return static_cast<unsigned int>(count);
+}
+
+int GetPrivateProfileInt(const wchar_t* lpAppName, const wchar_t* lpKeyName, int,
+                         const wchar_t* lpFileName)
+{
+    char result[kNumberRoom] = {};
+    read(lpAppName, lpKeyName, nullptr, result, kNumberRoom, lpFileName);
+    return std::atoi(result);
+}
+
+unsigned int GetPrivateProfileSectionNames(wchar_t*, unsigned int, const wchar_t*)
+{
+    return 0;
+}
+
+bool WritePrivateProfileString(const wchar_t*, const wchar_t*, const wchar_t*, const wchar_t*)
+{
+    return true;
+}

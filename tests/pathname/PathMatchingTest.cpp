@@ -1,0 +1,172 @@
+// SPDX-License-Identifier: MIT
+#include "pathname/HandMadePath.h"
+#include "pathname/Scopes.h"
+
+namespace {
+
+struct MatchRow
+{
+    const wchar_t* work;
+    const wchar_t* other;
+    bool result;
+};
+
+// Takes every character for another.
+class ForeignCase : public std::ctype<wchar_t>
+{
+protected:
+    wchar_t do_tolower(wchar_t) const override { return L'#'; }
+};
+
+} // namespace
+
+TEST(PathMatch, ComparesFullPathsInAnyCase)
+{
+    const Utf8Scope utf8;
+    for (const MatchRow& row : std::initializer_list<MatchRow>{
+             {L"C:/dir", L"c:/Dir/", true},
+             {L"C:/dir/", L"c:/Dir", true},
+             {L"C:/dir/", L"c:/Dir/", true},
+             {L"C:/dir", L"c:/Dir//", false},
+             {L"C:/dir", L"D:/dir", false},
+             {L"C:/dir", L"C:/di", false},
+             {L"C:/dir", L"C:/dirs", false},
+             {L"C:/dir", L"C:\\dir", false},
+             {L"C:/dir", L"", false},
+             {L"C:/dir", nullptr, false},
+             {L"/Z[`z", L"/z[`Z", true},
+             {L"/[", L"/{", false},
+             {L"/\u00c9", L"/\u00c9", true},
+             {L"/\u00c9", L"/\u00e9", false},
+             {L"\u00c9:/x", L"\u00e9:/x", true},
+             {L"\u00e9:/x", L"\u00e9:/x", false},
+             {L"/", L"/", true},
+             {L"/", L"", true},
+             {L"", L"/", true},
+             {L"", L"", true},
+         }) {
+        SCOPED_TRACE(testing::Message() << row.work << ", " << row.other);
+        EXPECT_EQ(HandMadePath(PC_DRIVE, row.work).PathMatch(row.other), row.result);
+    }
+}
+
+TEST(PathMatch, PutsThePrefixInFront)
+{
+    HandMadePath name(PC_RELATIVE, L"docs/f.txt");
+    name.setPrefix(L"/home/u");
+    EXPECT_TRUE(name.PathMatch(L"/HOME/u/docs/F.txt"));
+    EXPECT_FALSE(name.PathMatch(L"docs/f.txt"));
+    HandMadePath whole(PC_ROOTED, L"/home/u/docs/f.txt/");
+    EXPECT_TRUE(name.PathMatch(&whole));
+    EXPECT_TRUE(whole.PathMatch(&name));
+}
+
+TEST(PathMatch, MayBeGivenTheNamesOwnText)
+{
+    const HandMadePath name(PC_ROOTED, L"/Dir/");
+    EXPECT_TRUE(name.PathMatch(name.GetPathString()));
+    EXPECT_FALSE(name.PathMatch(name.GetPathString() + 1));
+}
+
+TEST(PathMatch, NeedsTheSameVolume)
+{
+    const CRbUiNTFSVolumeDescriptor volume(L"C:");
+    const CRbUiNTFSVolumeDescriptor twin(L"C:");
+    HandMadePath name(PC_DRIVE, L"C:/x");
+    HandMadePath other(PC_DRIVE, L"C:/X");
+    EXPECT_TRUE(name.PathMatch(&other));
+    name.m_pVolume = &volume;
+    EXPECT_FALSE(name.PathMatch(&other));
+    other.m_pVolume = &twin;
+    EXPECT_FALSE(name.PathMatch(&other));
+    other.m_pVolume = &volume;
+    EXPECT_TRUE(name.PathMatch(&other));
+}
+
+TEST(PathMatch, IgnoresTheCaseRuleOfTheVolume)
+{
+    CRbUiNTFSVolumeDescriptor volume(L"C:");
+    volume.m_flags |= 0x40;
+    HandMadePath name(PC_DRIVE, L"C:/x");
+    HandMadePath other(PC_DRIVE, L"C:/X");
+    name.m_pVolume = other.m_pVolume = &volume;
+    EXPECT_TRUE(name.PathMatch(&other));
+}
+
+TEST(PathMatch, FoldsByNoLocaleOfTheHost)
+{
+    const GlobalLocaleScope foreign(std::locale(std::locale::classic(), new ForeignCase));
+    const HandMadePath name(PC_ROOTED, L"/abc");
+    EXPECT_TRUE(name.PathMatch(L"/ABC"));
+    EXPECT_FALSE(name.PathMatch(L"/xyz"));
+}
+
+TEST(PathMatch, IsFalseForNullAndUnparsedNames)
+{
+    const CRbUiPathname unparsed;
+    const HandMadePath name(PC_ROOTED, L"/x");
+    EXPECT_FALSE(name.PathMatch(static_cast<const CRbUiPathname*>(nullptr)));
+    EXPECT_FALSE(name.PathMatch(&unparsed));
+    EXPECT_FALSE(unparsed.PathMatch(&name));
+    EXPECT_FALSE(unparsed.PathMatch(L""));
+    EXPECT_TRUE(unparsed.PathMatch(&unparsed));
+    EXPECT_TRUE(name.PathMatch(&name));
+}
+
+TEST(Exists, LooksTheTypeUpAgain)
+{
+    const ScratchFolder folder;
+    folder.addFile("file", 0644);
+    folder.addFile("shared", 0664);
+    struct
+    {
+        const char* file;
+        bool exists;
+        path_type after;
+    } const rows[] = {
+        {"file", true, PT_FILE}, {"shared", true, PT_DIRECTORY}, {"none", false, PT_NOT_FOUND}};
+    for (const auto& row : rows) {
+        for (path_type before : {PT_NOT_FOUND, PT_FILE, PT_DIRECTORY}) {
+            SCOPED_TRACE(testing::Message() << row.file << " as " << before);
+            HandMadePath name(PC_ROOTED, folder.widePath(row.file), before);
+            EXPECT_EQ(name.Exists(), row.exists);
+            EXPECT_EQ(name.m_type, row.after);
+        }
+    }
+}
+
+TEST(Exists, LooksInThePrefix)
+{
+    const ScratchFolder folder;
+    folder.addFile("file");
+    HandMadePath name(PC_RELATIVE, L"file", PT_NOT_FOUND);
+    name.setPrefix(folder.widePath());
+    EXPECT_TRUE(name.Exists());
+    EXPECT_EQ(name.m_type, PT_FILE);
+}
+
+TEST(Exists, AnswersOtherTypesWithoutALook)
+{
+    for (path_type type : {PT_NONE, PT_WILDCARD, kUnknownType, kTypeOfHost}) {
+        SCOPED_TRACE(type);
+        HandMadePath name(PC_ROOTED, type == kTypeOfHost ? L"/no/such/name" : L"/", type);
+        EXPECT_EQ(name.Exists(), type == kTypeOfHost);
+        EXPECT_EQ(name.m_type, type);
+    }
+}
+
+TEST(Exists, TakesAWildcardThatAnEditMadeForOne)
+{
+    HandMadePath name(PC_ROOTED, L"/no/such/");
+    name.Append(L"*.txt");
+    EXPECT_TRUE(name.Exists());
+    EXPECT_EQ(name.m_type, PT_WILDCARD);
+    EXPECT_FALSE(name.Exists());
+}
+
+TEST(GetFullUNCPath, LeavesItsArgumentAlone)
+{
+    CStdStr<wchar_t> out(L"poison");
+    HandMadePath(PC_UNC, L"//s/d").GetFullUNCPath(out);
+    EXPECT_EQ(std::wstring(out), L"poison");
+}
