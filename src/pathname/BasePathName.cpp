@@ -1,7 +1,19 @@
 // SPDX-License-Identifier: MIT
 #include <KtQtBase/PathName.h>
 
-#include "pathname/PathInternals.h"
+#include <cwchar>
+#include <memory>
+
+namespace {
+
+using OwnedText = std::unique_ptr<CStdStr<wchar_t>>;
+
+OwnedText copyOf(const CStdStr<wchar_t>* text)
+{
+    return text ? std::make_unique<CStdStr<wchar_t>>(*text) : nullptr;
+}
+
+} // namespace
 
 CRbUiPathname::CRbUiPathname()
     : m_type(PT_NONE), m_pVolume(nullptr), m_pWork(nullptr), m_pRelPath(nullptr),
@@ -23,12 +35,21 @@ void CRbUiPathname::Empty()
 
 void CRbUiPathname::AssignCopy(const CRbUiPathname& other)
 {
-    ktqtbase::EmptyUnlessFinished guard(*this);
-    // The object's own strings go before the other's are looked at.
-    if (&other == this)
+    Empty();
+    OwnedText work = copyOf(other.m_pWork);
+    m_pRelPath = copyOf(other.m_pRelPath).release();
+    m_pWork = work.release();
+    m_type = other.m_type;
+    m_pVolume = other.m_pVolume;
+    m_category = other.m_category;
+    m_separator = other.m_separator;
+    m_bQualified = other.m_bQualified;
+}
+
+void CRbUiPathname::lstrncpy_x(wchar_t* dst, const wchar_t* src, int n) const
+{
+    if (n < 0)
         return;
-    ktqtbase::copyString(m_pWork, other.m_pWork);
-    ktqtbase::copyString(m_pRelPath, other.m_pRelPath);
-    ktqtbase::copyState(*this, other);
-    guard.finished();
+    std::wmemcpy(dst, src, static_cast<std::size_t>(n));
+    dst[n] = kEOS;
 }

@@ -5,19 +5,6 @@
 
 #include <cwchar>
 
-namespace {
-
-// Not found, file, directory, and 5, which a host may set: the types that have a file name.
-constexpr unsigned int kTypesWithFileName = 0x3A;
-
-bool hasFileName(path_type type)
-{
-    const auto value = static_cast<unsigned int>(type);
-    return value < 32 && ((kTypesWithFileName >> value) & 1);
-}
-
-} // namespace
-
 void CRbUiPathname::GetBasename(CStdStr<wchar_t>& out) const
 {
     if (m_type != PT_NONE && m_pWork)
@@ -26,7 +13,7 @@ void CRbUiPathname::GetBasename(CStdStr<wchar_t>& out) const
 
 void CRbUiPathname::GetFilename(CStdStr<wchar_t>& out) const
 {
-    if (!hasFileName(m_type) || !m_pWork)
+    if (!ktqtbase::isSingleName(m_type) || !m_pWork)
         return;
     const std::size_t start = ktqtbase::lastComponent(*m_pWork, m_separator);
     if (start == m_pWork->size())

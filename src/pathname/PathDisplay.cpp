@@ -14,13 +14,13 @@ constexpr int kLeastWidth = 12;
 constexpr int kWholeName = -1;
 
 // A base name that does not fit: its beginning, a tilde, and the extension where there is room.
-void shortenBase(const CRbUiPathname& name, std::size_t start, std::size_t width, WideText& out)
+void shortenBase(const CRbUiPathname& path, std::size_t start, std::size_t width, WideText& out)
 {
     WideText extension;
-    name.GetExtension(extension);
+    path.GetExtension(extension);
     if (width < extension.size() + 3)
         extension.clear();
-    out.assign(*name.m_pWork, start, width - 2 - extension.size());
+    out.assign(*path.m_pWork, start, width - 2 - extension.size());
     out.push_back(L'~');
     if (!extension.empty())
         out.append(1, kPeriod).append(extension);
@@ -28,28 +28,28 @@ void shortenBase(const CRbUiPathname& name, std::size_t start, std::size_t width
 
 // Appends the whole components at the end of a work string that fit into a width behind a prefix
 // and dots; nothing where the last one does not begin with a separator.
-void appendTail(const CRbUiPathname& name, std::size_t prefix, std::size_t width, WideText& out)
+void appendTail(const CRbUiPathname& path, std::size_t prefix, std::size_t width, WideText& out)
 {
-    const WideText& work = *name.m_pWork;
+    const WideText& work = *path.m_pWork;
     std::size_t start = prefix;
     while (start < work.size() && work.size() - start + prefix + 4 > width)
-        start = std::min(work.find(name.m_separator, start + 1), work.size());
+        start = std::min(work.find(path.m_separator, start + 1), work.size());
     out.append(work, start, work.npos);
 }
 
 // A name whose base fits into a width: what is before the base is cut in the middle.
-void shortenFolders(const CRbUiPathname& name, std::size_t start, std::size_t width, WideText& out)
+void shortenFolders(const CRbUiPathname& path, std::size_t start, std::size_t width, WideText& out)
 {
-    const std::size_t baseLength = name.m_pWork->size() - start;
-    const bool isOnVolume = name.m_category == PC_DRIVE || name.m_category == PC_UNC;
-    const std::size_t prefix = isOnVolume ? ktqtbase::volumeNameLength(name) : 0;
+    const std::size_t baseLength = path.m_pWork->size() - start;
+    const bool isOnVolume = path.m_category == PC_DRIVE || path.m_category == PC_UNC;
+    const std::size_t prefix = isOnVolume ? ktqtbase::volumeNameLength(path) : 0;
     const wchar_t* const dots = isOnVolume ? L"\\..." : L"...";
     if (width < baseLength + prefix + std::wcslen(dots) + 1) {
-        out.assign(*name.m_pWork, start, baseLength);
+        out.assign(*path.m_pWork, start, baseLength);
         return;
     }
-    out.assign(*name.m_pWork, 0, prefix).append(dots);
-    appendTail(name, prefix, width, out);
+    out.assign(*path.m_pWork, 0, prefix).append(dots);
+    appendTail(path, prefix, width, out);
 }
 
 } // namespace
@@ -69,12 +69,4 @@ void CRbUiPathname::GetDisplayName(CStdStr<wchar_t>& out, int width) const
         shortenBase(*this, start, room, out);
     else if (ktqtbase::isKnown(m_category))
         shortenFolders(*this, start, room, out);
-}
-
-void CRbUiPathname::lstrncpy_x(wchar_t* dst, const wchar_t* src, int n) const
-{
-    if (n < 0)
-        return;
-    std::wmemcpy(dst, src, static_cast<std::size_t>(n));
-    dst[n] = kEOS;
 }

@@ -5,39 +5,39 @@
 
 #include <cwchar>
 
-namespace {
+using ktqtbase::kCannotBeDone;
+using ktqtbase::kDone;
+using ktqtbase::kNotParsed;
+using ktqtbase::kReachesIntoRoot;
 
-constexpr int kDone = 0;
-constexpr int kNotParsed = 2;
-constexpr int kReachesIntoRoot = 3;
-constexpr int kCannotBeCut = 4;
+namespace {
 
 constexpr std::size_t kNowhere = std::wstring::npos;
 constexpr std::size_t kDriveLength = 2;
 
-bool endsWithSeparator(const CRbUiPathname& name)
+bool endsWithSeparator(const CRbUiPathname& path)
 {
-    return !name.m_pWork->empty() && name.m_pWork->back() == name.m_separator;
+    return !path.m_pWork->empty() && path.m_pWork->back() == path.m_separator;
 }
 
-int cutTo(CRbUiPathname& name, std::size_t length)
+int cutTo(CRbUiPathname& path, std::size_t length)
 {
-    name.m_pWork->resize(length);
+    path.m_pWork->resize(length);
     // What is left of a bare drive is its root.
-    if (name.m_category == PC_DRIVE && length == kDriveLength)
-        name.m_pWork->push_back(name.m_separator);
-    name.m_type = PT_NOT_FOUND;
+    if (path.m_category == PC_DRIVE && length == kDriveLength)
+        path.m_pWork->push_back(path.m_separator);
+    path.m_type = PT_NOT_FOUND;
     return kDone;
 }
 
-bool isRoot(const CRbUiPathname& name)
+bool isRoot(const CRbUiPathname& path)
 {
-    const std::size_t length = name.m_pWork->size();
-    switch (name.m_category) {
+    const std::size_t length = path.m_pWork->size();
+    switch (path.m_category) {
     case PC_DRIVE:
         return length - 1 == kDriveLength;
     case PC_UNC:
-        return length - 1 <= ktqtbase::volumeNameLength(name);
+        return length - 1 <= ktqtbase::volumeNameLength(path);
     case PC_ROOTED:
         return length == 1;
     default:
@@ -46,11 +46,11 @@ bool isRoot(const CRbUiPathname& name)
 }
 
 // Whether the last component of a name that is not on a drive can be cut off at a separator.
-int canCutAt(const CRbUiPathname& name, std::size_t separator)
+int canCutAt(const CRbUiPathname& path, std::size_t separator)
 {
     if (separator == kNowhere)
-        return name.m_category == PC_RELATIVE ? kReachesIntoRoot : kCannotBeCut;
-    if (name.m_category == PC_UNC && separator < ktqtbase::volumeNameLength(name))
+        return path.m_category == PC_RELATIVE ? kReachesIntoRoot : kCannotBeDone;
+    if (path.m_category == PC_UNC && separator < ktqtbase::volumeNameLength(path))
         return kReachesIntoRoot;
     return kDone;
 }
@@ -64,7 +64,7 @@ int CRbUiPathname::TrimSlash()
     if (!endsWithSeparator(*this))
         return kDone;
     if (!ktqtbase::isKnown(m_category))
-        return kCannotBeCut;
+        return kCannotBeDone;
     if (isRoot(*this))
         return kReachesIntoRoot;
     m_pWork->pop_back();
@@ -80,11 +80,11 @@ int CRbUiPathname::Trim()
         return kDone;
     std::size_t position = m_pWork->rfind(m_separator);
     if (!ktqtbase::isKnown(m_category))
-        return kCannotBeCut;
+        return kCannotBeDone;
     if (m_category == PC_DRIVE) {
         if (position == kNowhere)
             position = m_pWork->find(kColon);
-        return position == kNowhere ? kCannotBeCut : cutTo(*this, position + 1);
+        return position == kNowhere ? kCannotBeDone : cutTo(*this, position + 1);
     }
     const int refused = canCutAt(*this, position);
     return refused ? refused : cutTo(*this, position + 1);
@@ -96,7 +96,7 @@ int CRbUiPathname::TrimComponent()
         return kNotParsed;
     std::size_t position = m_pWork->rfind(m_separator);
     if (!ktqtbase::isKnown(m_category))
-        return kCannotBeCut;
+        return kCannotBeDone;
     if (m_category == PC_DRIVE)
         return cutTo(*this, position == kNowhere ? m_pWork->find(kColon) + 1 : position);
     const int refused = canCutAt(*this, position);
@@ -133,4 +133,17 @@ int CRbUiPathname::AppendComponent(const wchar_t* text)
         m_pWork->append(text, length);
     m_type = PT_NOT_FOUND;
     return kDone;
+}
+
+void CRbUiPathname::RemoveSpaces()
+{
+    if (!m_pWork || *m_pWork == L"." || *m_pWork == L"..")
+        return;
+    const std::size_t start = ktqtbase::lastComponent(*m_pWork, m_separator);
+    const std::size_t dot = m_pWork->rfind(kPeriod);
+    const bool hasExtension = dot != m_pWork->npos && dot >= start;
+    const std::size_t end = hasExtension ? dot : m_pWork->size();
+    CStdStr<wchar_t> stem(*m_pWork, start, end - start);
+    stem.TrimLeft().TrimRight();
+    m_pWork->replace(start, end - start, stem);
 }

@@ -6,11 +6,12 @@
 
 #include <cwchar>
 
+using ktqtbase::kBadArgument;
+using ktqtbase::kDone;
+using ktqtbase::kNotParsed;
+
 namespace {
 
-constexpr int kDone = 0;
-constexpr int kNullExtension = 1;
-constexpr int kNotParsed = 2;
 constexpr wchar_t kItemSeparator = L';';
 
 // The length of a list's first item.
@@ -62,7 +63,7 @@ int CRbUiPathname::ReplaceExtensionAlways(const wchar_t* ext)
     if (!ktqtbase::isParsed(*this))
         return kNotParsed;
     if (!ext)
-        return kNullExtension;
+        return kBadArgument;
     if (ktqtbase::liesIn(*m_pWork, ext))
         return ReplaceExtensionAlways(CStdStr<wchar_t>(ext).c_str());
     // The room first, so that a name never loses its extension without getting the other.
@@ -86,7 +87,7 @@ int CRbUiPathname::ReplaceExtensionIfNoMatch(const wchar_t* list)
 int CRbUiPathname::AddExtensionAlways(const wchar_t* ext)
 {
     if (!ext)
-        return kNullExtension;
+        return kBadArgument;
     if (!ktqtbase::isParsed(*this))
         return kNotParsed;
     if (ktqtbase::liesIn(*m_pWork, ext))
@@ -118,13 +119,4 @@ void CRbUiPathname::RemoveExtensionAlways()
         return;
     GetPathStrNoExt(&m_pWork, m_separator);
     m_type = PT_NOT_FOUND;
-}
-
-void GetPathStrNoExt(CStdStr<wchar_t>** pp, wchar_t sep)
-{
-    CStdStr<wchar_t>& text = **pp;
-    const std::size_t dot = text.rfind(kPeriod);
-    const std::size_t separator = text.rfind(sep);
-    if (dot != text.npos && (separator == text.npos || dot > separator))
-        text.resize(dot);
 }

@@ -5,6 +5,7 @@
 #include <KtQtBase/windows/KernelStubs.h>
 
 #include "pathname/PathInternals.h"
+#include "string/TextRoom.h"
 
 #include <KtOsBase/KtOsBase.h>
 
@@ -12,24 +13,22 @@
 
 namespace {
 
-constexpr unsigned int kPathRoom = 1024;
-
-bool openFile(const CRbUiPathname& name, unsigned int access, void*& handle)
+bool openFile(const CRbUiPathname& path, unsigned int access, void*& handle)
 {
     handle = INVALID_HANDLE_VALUE;
-    if (static_cast<unsigned int>(name.m_type) - 1 >= 5)
+    if (!ktqtbase::isNamed(path.m_type))
         return false;
-    CStdStr<wchar_t> path;
-    name.GetFullPath(path);
-    handle = CreateFile(path.c_str(), access, 0, nullptr, OPEN_EXISTING, 0, nullptr);
+    CStdStr<wchar_t> fullPath;
+    path.GetFullPath(fullPath);
+    handle = CreateFile(fullPath.c_str(), access, 0, nullptr, OPEN_EXISTING, 0, nullptr);
     return handle != INVALID_HANDLE_VALUE;
 }
 
 // Renames with the folder of a prefix as the current one, which stays the process's own here.
 int renameInside(const CStdStr<wchar_t>& folder, const wchar_t* oldName, const wchar_t* newName)
 {
-    wchar_t saved[kPathRoom];
-    GetCurrentDirectoryW(kPathRoom, saved);
+    wchar_t saved[ktqtbase::kTextRoom];
+    GetCurrentDirectoryW(ktqtbase::kTextRoom, saved);
     SetCurrentDirectoryW(folder.c_str());
     const int result = _wrename(oldName, newName);
     SetCurrentDirectoryW(saved);
@@ -76,8 +75,8 @@ int CRbUiPathname::Remove()
 int CRbUiPathname::GetFileSystem(CStdStr<wchar_t>& fsName) const
 {
     if (fsName.empty())
-        return 1;
+        return ktqtbase::kBadArgument;
     if (fsName.back() != m_separator)
         fsName.push_back(m_separator);
-    return 0;
+    return ktqtbase::kDone;
 }

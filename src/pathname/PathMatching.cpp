@@ -3,24 +3,6 @@
 
 #include "string/CaseFolding.h"
 
-bool CRbUiPathname::Exists()
-{
-    path_type type = m_type;
-    switch (static_cast<int>(type)) {
-    case PT_NOT_FOUND:
-    case PT_FILE:
-    case PT_DIRECTORY:
-        // Not into m_type at once, which an allocation that fails would leave at not found.
-        GetAttributes(m_pWork, m_pRelPath, &type);
-        m_type = type;
-        return type != PT_NOT_FOUND;
-    case 5: // never given by a parse; a host may set it for a name that it knows to exist
-        return true;
-    default:
-        return false;
-    }
-}
-
 bool CRbUiPathname::PathMatch(const CRbUiPathname* other) const
 {
     if (!other)

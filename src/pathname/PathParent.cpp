@@ -2,42 +2,30 @@
 #include <KtQtBase/PathName.h>
 
 #include "pathname/PathInternals.h"
-#include "string/CaseFolding.h"
 
-#include <typeinfo>
 #include <utility>
 
 namespace {
 
-// Whether a host's class may look at itself while it becomes a copy. The library's own two do not.
-bool seesItsCopy(const CRbUiPathname& name)
-{
-    return typeid(name) != typeid(CRbUiPathname) && typeid(name) != typeid(CRnUiPathname);
-}
-
 // The parent of a name without separator or colon is what the name is relative to.
-void replaceByPrefix(CRbUiPathname& name)
+void replaceByPrefix(CRbUiPathname& path)
 {
-    if (!name.m_pRelPath) {
-        name.Empty();
+    if (!path.m_pRelPath) {
+        path.Empty();
         return;
     }
-    ReleaseCStrPtr(&name.m_pWork);
-    std::swap(name.m_pWork, name.m_pRelPath);
-    ParseRelPath(&name.m_pWork, name.m_separator, name.m_category);
+    ReleaseCStrPtr(&path.m_pWork);
+    std::swap(path.m_pWork, path.m_pRelPath);
+    ParseRelPath(&path.m_pWork, path.m_separator, path.m_category);
 }
 
-// Makes a parent the prefix of a name without separator or colon, as replaceByPrefix does with a
-// whole copy of the name, of which it would throw one string away.
-void copyPrefix(CRbUiPathname& parent, const CRbUiPathname& name)
+void cutAfterFolder(CRbUiPathname& path, wchar_t separator)
 {
-    ktqtbase::EmptyUnlessFinished guard(parent);
-    ktqtbase::copyString(parent.m_pWork, name.m_pRelPath);
-    ReleaseCStrPtr(&parent.m_pRelPath);
-    ktqtbase::copyState(parent, name);
-    guard.finished();
-    parent.m_type = PT_DIRECTORY;
-    ParseRelPath(&parent.m_pWork, parent.m_separator, parent.m_category);
+    const std::size_t length = ktqtbase::lastComponent(*path.m_pWork, separator);
+    if (length > 0)
+        path.m_pWork->resize(length);
+    else
+        replaceByPrefix(path);
 }
 
 } // namespace
@@ -52,15 +40,7 @@ void CRbUiPathname::GetParent(CRbUiPathname& parent) const
         self.GetParent(parent);
         return;
     }
-    const bool isSeen = seesItsCopy(parent);
-    const std::size_t last = ktqtbase::lastComponent(*m_pWork, m_separator);
-    if (!isSeen && last == 0 && m_pRelPath) {
-        copyPrefix(parent, *this);
-        return;
-    }
-    // What is overwritten at once need not be freed first.
-    if (isSeen)
-        parent.Empty();
+    parent.Empty();
     parent.AssignCopy(*this);
     parent.m_type = PT_DIRECTORY;
     // A host's AssignCopy may have copied nothing.
@@ -68,24 +48,5 @@ void CRbUiPathname::GetParent(CRbUiPathname& parent) const
         return;
     if (GetLastCharacter(*parent.m_pWork) == m_separator)
         parent.TrimSlash();
-    const bool isSame = !isSeen && parent.m_pWork->size() == m_pWork->size();
-    const std::size_t length =
-        isSame ? last : ktqtbase::lastComponent(*parent.m_pWork, m_separator);
-    if (length > 0)
-        parent.m_pWork->resize(length);
-    else
-        replaceByPrefix(parent);
-}
-
-void ParseRelPath(CStdStr<wchar_t>** pp, wchar_t sep, path_category& cat)
-{
-    CStdStr<wchar_t>& text = **pp;
-    const wchar_t first = text.at(0);
-    const wchar_t second = text.size() > 1 ? text[1] : kEOS;
-    if (first == sep) {
-        cat = second == sep ? PC_UNC : PC_ROOTED;
-    } else if (second == kColon && ktqtbase::isLetter(first)) {
-        cat = PC_DRIVE;
-        text.front() = ktqtbase::upperCase(first);
-    }
+    cutAfterFolder(parent, m_separator);
 }

@@ -2,6 +2,9 @@
 #include <KtQtBase/PathName.h>
 
 #include "pathname/PathInternals.h"
+#include "string/TextRoom.h"
+
+#include <QtCore/QScopeGuard>
 
 #include <algorithm>
 #include <cstdlib>
@@ -11,63 +14,56 @@ namespace {
 using WideText = CStdStr<wchar_t>;
 
 constexpr int kTries = 200;
-constexpr int kTypeKnownToExist = 5;
 constexpr std::size_t kDigits = 5;
-constexpr std::size_t kLongestName = 1023;
-constexpr std::size_t kLongestBase = 1019;
+constexpr int kLongestName = ktqtbase::kTextRoom - 1;
+constexpr int kLongestComponent = 1019;
 
-bool canBeLookedUp(path_type type)
+bool isFree(CRbUiPathname& path)
 {
-    return type == PT_NOT_FOUND || type == PT_FILE || type == PT_DIRECTORY;
-}
-
-bool isFree(CRbUiPathname& name)
-{
-    name.GetAttributes(name.m_pWork, name.m_pRelPath, &name.m_type);
-    return name.m_type == PT_NOT_FOUND;
+    path.GetAttributes(path.m_pWork, path.m_pRelPath, &path.m_type);
+    return path.m_type == PT_NOT_FOUND;
 }
 
 // Whether a name can be used as it is: nothing has it, or nothing can be asked about it.
-bool isUsable(CRbUiPathname& name)
+bool isUsable(CRbUiPathname& path)
 {
-    if (canBeLookedUp(name.m_type))
-        return isFree(name);
-    return name.m_type != static_cast<path_type>(kTypeKnownToExist);
+    if (ktqtbase::canBeLookedUp(path.m_type))
+        return isFree(path);
+    return path.m_type != ktqtbase::kKnownToExist;
 }
 
 // Cuts the last component off, also where it is all there is.
-void keepFolder(CRbUiPathname& name)
+void keepFolder(CRbUiPathname& path)
 {
     const bool isBareName =
-        name.m_category == PC_RELATIVE && name.m_pWork->find(name.m_separator) == WideText::npos;
+        path.m_category == PC_RELATIVE && path.m_pWork->find(path.m_separator) == WideText::npos;
     if (isBareName)
-        name.m_pWork->clear();
+        path.m_pWork->clear();
     else
-        name.Trim();
+        path.Trim();
 }
 
 // Characters that are left for the stem behind a folder, beside the digits, a dot and the
 // extension; below 1 where there is no room.
 int roomForStem(std::size_t folder, std::size_t extension)
 {
-    const auto limit = std::min(static_cast<int>(kLongestName) - static_cast<int>(folder),
-                                static_cast<int>(kLongestBase));
+    const int limit = std::min(kLongestName - static_cast<int>(folder), kLongestComponent);
     return limit - static_cast<int>(extension) - 6;
 }
 
 // Cuts the last component off and appends its stem, the place of the digits, and its extension.
 //   digits    out: where the digits stand, counted from the end
 // Result: false where the folder leaves no room.
-bool appendCandidate(CRbUiPathname& name, std::size_t& digits)
+bool appendCandidate(CRbUiPathname& path, std::size_t& digits)
 {
     WideText stem;
-    name.GetFilename(stem);
+    path.GetFilename(stem);
     if (stem.empty())
         stem = L"ktTmp";
     WideText extension;
-    name.GetExtension(extension);
-    keepFolder(name);
-    const int room = roomForStem(name.m_pWork->size(), extension.size());
+    path.GetExtension(extension);
+    keepFolder(path);
+    const int room = roomForStem(path.m_pWork->size(), extension.size());
     if (room < 1)
         return false;
 
@@ -75,7 +71,7 @@ bool appendCandidate(CRbUiPathname& name, std::size_t& digits)
     stem.append(kDigits, kZero);
     if (!extension.empty())
         stem.append(1, kPeriod).append(extension);
-    name.Append(stem.c_str());
+    path.Append(stem.c_str());
     // The place of a dot is counted also where there is none.
     digits = kDigits + 1 + extension.size();
     return true;
@@ -93,11 +89,11 @@ void writeRandomDigits(WideText& work, std::size_t digits)
 }
 
 // Tries random digits until nothing has the name. Result: false where all tries were used up.
-bool findFreeDigits(CRbUiPathname& name, std::size_t digits)
+bool findFreeDigits(CRbUiPathname& path, std::size_t digits)
 {
     for (int tries = 0; tries < kTries; ++tries) {
-        writeRandomDigits(*name.m_pWork, digits);
-        if (isUsable(name))
+        writeRandomDigits(*path.m_pWork, digits);
+        if (isUsable(path))
             return true;
     }
     return false;
@@ -115,12 +111,12 @@ bool CRbUiPathname::GetUniqueName(CRbUiPathname& result, bool force) const
         return self.GetUniqueName(result, force);
     }
     result.AssignCopy(*this);
-    ktqtbase::EmptyUnlessFinished guard(result);
+    auto emptied = qScopeGuard([&result] { result.Empty(); });
     const bool isAnswer = !result.m_pWork || (!force && isUsable(result));
     std::size_t digits = 0;
     if (!isAnswer && !appendCandidate(result, digits))
         return false;
     if (isAnswer || findFreeDigits(result, digits))
-        guard.finished();
+        emptied.dismiss();
     return true;
 }

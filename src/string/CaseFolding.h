@@ -37,23 +37,16 @@ inline bool equalFolded(const wchar_t* a, std::size_t length, const wchar_t* b)
     return !b[length];
 }
 
-// The letters A to Z are upper-case letters in every LC_CTYPE, so that the C library's tables need
-// not be looked into for the drive letters of most names.
-inline bool isCapital(wchar_t ch)
-{
-    return ch >= L'A' && ch <= L'Z';
-}
-
 // Whether a code point is a letter for the process's LC_CTYPE.
 inline bool isLetter(wchar_t ch)
 {
-    return isCapital(ch) || std::iswalpha(static_cast<std::wint_t>(ch)) != 0;
+    return std::iswalpha(static_cast<std::wint_t>(ch)) != 0;
 }
 
 // The upper-case form of a code point for the process's LC_CTYPE.
 inline wchar_t upperCase(wchar_t ch)
 {
-    return isCapital(ch) ? ch : static_cast<wchar_t>(std::towupper(static_cast<std::wint_t>(ch)));
+    return static_cast<wchar_t>(std::towupper(static_cast<std::wint_t>(ch)));
 }
 
 } // namespace ktqtbase

@@ -2,7 +2,6 @@
 #include "string/TextConversion.h"
 
 #include "platform/Platform.h"
-#include "string/WideBlock.h"
 
 #include <clocale>
 #include <cstdlib>
@@ -31,18 +30,12 @@ namespace ktqtbase {
 template<class Unit>
 bool narrowAscii(const wchar_t* wide, std::size_t length, Unit* narrow)
 {
-    Found others;
-    std::size_t i = 0;
-    for (; length - i >= WideBlock::kSize; i += WideBlock::kSize) {
-        const WideBlock block(wide + i);
-        others.add(block.placesOfOthers());
-        block.narrowTo(narrow + i);
-    }
-    for (; i < length; ++i) {
-        others.add(static_cast<unsigned int>(wide[i]) > kLastAscii);
+    unsigned int bitsOfAll = 0;
+    for (std::size_t i = 0; i < length; ++i) {
+        bitsOfAll |= static_cast<unsigned int>(wide[i]);
         narrow[i] = static_cast<Unit>(wide[i]);
     }
-    return !others.anywhere();
+    return bitsOfAll <= kLastAscii;
 }
 
 template bool narrowAscii(const wchar_t*, std::size_t, char*);
@@ -50,36 +43,24 @@ template bool narrowAscii(const wchar_t*, std::size_t, char16_t*);
 
 NarrowText::NarrowText(const wchar_t* wide)
 {
-    if (wide && !copyAscii(wide))
-        convertAny(wide);
-}
-
-bool NarrowText::copyAscii(const wchar_t* wide)
-{
+    if (!wide)
+        return;
     const std::size_t length = std::wcslen(wide);
-    if (length >= kShortRoom || !narrowAscii(wide, length, m_short))
-        return false;
-    m_short[length] = '\0';
-    m_text = m_short;
-    m_length = length;
-    return true;
-}
-
-void NarrowText::convertAny(const wchar_t* wide)
-{
-    // Not four bytes a character: some C libraries write six for values beyond the last code point,
-    // and a room too small would cut the text without a terminator.
-    const std::size_t room = std::wcslen(wide) * MB_CUR_MAX + 1;
-    if (room <= kShortRoom) {
-        convert(wide, m_short, kShortRoom);
+    char* const room = m_room.of(length + 1);
+    if (!narrowAscii(wide, length, room)) {
+        // Not four bytes a character: some C libraries write six for values beyond the last code
+        // point, and a room too small would cut the text without a terminator.
+        convert(wide, length * MB_CUR_MAX + 1);
         return;
     }
-    m_long = std::make_unique<char[]>(room);
-    convert(wide, m_long.get(), room);
+    room[length] = '\0';
+    m_text = room;
+    m_length = length;
 }
 
-void NarrowText::convert(const wchar_t* wide, char* room, std::size_t size)
+void NarrowText::convert(const wchar_t* wide, std::size_t size)
 {
+    char* const room = m_room.of(size);
     const std::size_t length = std::wcstombs(room, wide, size);
     // Also -1, for text that does not convert.
     if (length >= size)

@@ -5,14 +5,14 @@
 #ifndef KTQTBASE_STRING_TEXTCONVERSION_H
 #define KTQTBASE_STRING_TEXTCONVERSION_H
 
+#include "string/TextRoom.h"
+
 #include <cstddef>
-#include <memory>
 
 namespace ktqtbase {
 
-// Narrows ASCII text, which is the same bytes in every LC_CTYPE, and the same units in UTF-16: at
-// the length of a usual file name the C library's conversion costs more than the system call that
-// the name is made for, and Qt's about as much.
+// Narrows ASCII text, which is the same bytes in every LC_CTYPE, and the same units in UTF-16. For
+// a usual file name the C library's conversion costs more than the system call that follows it.
 //   wide      in: the text, of so many characters
 //   narrow    out: as many bytes (char) or units (char16_t), without a terminator
 // Result: whether the text is ASCII; narrow is not to be used where it is not.
@@ -35,16 +35,11 @@ public:
     std::size_t length() const { return m_length; }
 
 private:
-    static constexpr std::size_t kShortRoom = 512;
-
-    bool copyAscii(const wchar_t* wide);
-    void convertAny(const wchar_t* wide);
-    void convert(const wchar_t* wide, char* room, std::size_t size);
+    void convert(const wchar_t* wide, std::size_t size);
 
     char* m_text = nullptr;
     std::size_t m_length = 0;
-    std::unique_ptr<char[]> m_long;
-    char m_short[kShortRoom];
+    TextRoom<char> m_room;
 };
 
 // Converts multibyte text to wide text, as mbstowcs does: no terminator is written where the text

@@ -4,8 +4,8 @@
 #ifndef KTQTBASE_STRING_WHITESPACE_H
 #define KTQTBASE_STRING_WHITESPACE_H
 
-#include <cstring>
 #include <locale>
+#include <string_view>
 
 namespace ktqtbase {
 
@@ -23,14 +23,12 @@ public:
     }
 
 private:
-    // Asking a facet costs more than the rest of a short trim, and the classic one is known. A
-    // locale of the same bytes is the same one; where an equal one has others, its facet is asked.
+    // The classic locale's white space is known. To ask a facet costs more than the rest of a short
+    // trim.
     static const std::ctype<wchar_t>* classesOf(const std::locale& locale)
     {
-        static const std::locale& classic = std::locale::classic();
-        return std::memcmp(&locale, &classic, sizeof locale) == 0
-                   ? nullptr
-                   : &std::use_facet<std::ctype<wchar_t>>(locale);
+        return locale == std::locale::classic() ? nullptr
+                                                : &std::use_facet<std::ctype<wchar_t>>(locale);
     }
 
     static bool isClassic(wchar_t ch) { return ch == L' ' || (ch >= L'\t' && ch <= L'\r'); }
@@ -39,23 +37,24 @@ private:
     const std::ctype<wchar_t>* m_classes;
 };
 
-// A part of a text.
-struct TextRange
+// A text without the white space at its start, at its end, at both.
+inline std::wstring_view withoutLeadingSpace(std::wstring_view text, const WhiteSpace& isSpace)
 {
-    const wchar_t* begin;
-    const wchar_t* end;
-
-    std::size_t size() const { return static_cast<std::size_t>(end - begin); }
-};
-
-// A text without the white space at its ends.
-inline TextRange trimmed(TextRange text, const WhiteSpace& isSpace)
-{
-    while (text.begin != text.end && isSpace(*text.begin))
-        ++text.begin;
-    while (text.begin != text.end && isSpace(text.end[-1]))
-        --text.end;
+    while (!text.empty() && isSpace(text.front()))
+        text.remove_prefix(1);
     return text;
+}
+
+inline std::wstring_view withoutTrailingSpace(std::wstring_view text, const WhiteSpace& isSpace)
+{
+    while (!text.empty() && isSpace(text.back()))
+        text.remove_suffix(1);
+    return text;
+}
+
+inline std::wstring_view withoutSpace(std::wstring_view text, const WhiteSpace& isSpace)
+{
+    return withoutTrailingSpace(withoutLeadingSpace(text, isSpace), isSpace);
 }
 
 } // namespace ktqtbase

@@ -3,6 +3,10 @@
 
 #include "string/WhiteSpace.h"
 
+using ktqtbase::WhiteSpace;
+using ktqtbase::withoutLeadingSpace;
+using ktqtbase::withoutTrailingSpace;
+
 namespace {
 
 template<class T>
@@ -23,22 +27,14 @@ int CStdStr<T>::Find(const T* sub) const
 template<class T>
 CStdStr<T>& CStdStr<T>::TrimLeft()
 {
-    const ktqtbase::WhiteSpace isSpace;
-    std::size_t blanks = 0;
-    while (blanks < this->size() && isSpace((*this)[blanks]))
-        ++blanks;
-    this->erase(0, blanks);
+    this->erase(0, this->size() - withoutLeadingSpace(*this, WhiteSpace()).size());
     return *this;
 }
 
 template<class T>
 CStdStr<T>& CStdStr<T>::TrimRight()
 {
-    const ktqtbase::WhiteSpace isSpace;
-    std::size_t length = this->size();
-    while (length > 0 && isSpace((*this)[length - 1]))
-        --length;
-    this->resize(length);
+    this->resize(withoutTrailingSpace(*this, WhiteSpace()).size());
     return *this;
 }
 

@@ -52,7 +52,7 @@ constexpr long kEmptyString = 1;
 constexpr long kScratch = 1;
 constexpr long kNarrowBuffer = 1;
 
-// Names of at most 511 characters, prefix included, need neither of the last two.
+// Names of at most 1,023 characters, prefix included, need neither of the last two.
 struct ParseCase
 {
     const char* row;
@@ -68,11 +68,15 @@ std::wstring letters(std::size_t count)
 
 const ParseCase kParseCases[] = {
     {"rooted, short", L"/tmp/" + letters(15), kString + kEmptyString, 0},
-    {"rooted, long", L"/tmp/" + letters(700), kString + kEmptyString, kScratch + kNarrowBuffer},
+    {"rooted, long", L"/tmp/" + letters(900), kString + kEmptyString, 0},
+    {"rooted, too long", L"/tmp/" + letters(1100), kString + kEmptyString,
+     kScratch + kNarrowBuffer},
     {"relative, short", letters(20), kString + kString, 0},
-    {"relative, long", letters(700), kString + kString, kScratch + kNarrowBuffer},
+    {"relative, long", letters(900), kString + kString, 0},
+    {"relative, too long", letters(1100), kString + kString, kScratch + kNarrowBuffer},
     {"drive, short", L"C:\\" + letters(17), kString, 0},
-    {"drive, long", L"C:\\" + letters(700), kString, kNarrowBuffer},
+    {"drive, long", L"C:\\" + letters(900), kString, 0},
+    {"drive, too long", L"C:\\" + letters(1100), kString, kNarrowBuffer},
     {"in quotes", L" \"/tmp/" + letters(15) + L"\" ", kString + kEmptyString, 0},
     {"wildcard", L"/tmp/*.some-extension", kString + kEmptyString, 0},
 };

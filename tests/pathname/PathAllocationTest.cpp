@@ -212,7 +212,7 @@ TEST_F(PathAllocation, EmptiesANameWhoseParseFailsBehindItsReset)
 
 TEST_F(PathAllocation, EmptiesANameWhoseLookUpFails)
 {
-    const std::wstring text = L"/" + std::wstring(600, L'n');
+    const std::wstring text = L"/" + std::wstring(1100, L'n');
     int failures = 0;
     for (;; ++failures) {
         CRnUiPathname name;
@@ -269,7 +269,7 @@ TEST_F(PathAllocation, RenamesNoFileHalf)
 
 TEST_F(PathAllocation, KeepsTheTypeOfAFileThatCannotBeAskedFor)
 {
-    HandMadePath name(PC_ROOTED, L"/" + std::wstring(600, L'n'), PT_DIRECTORY);
+    HandMadePath name(PC_ROOTED, L"/" + std::wstring(1100, L'n'), PT_DIRECTORY);
     int n = 1;
     while (failingnew::failsAt(n, [&] { name.Exists(); })) {
         EXPECT_EQ(name.m_type, PT_DIRECTORY);

@@ -4,12 +4,6 @@
 
 namespace {
 
-struct TextRow
-{
-    const wchar_t* before;
-    const wchar_t* after;
-};
-
 struct CaseRow
 {
     const wchar_t* work;
@@ -38,48 +32,6 @@ protected:
 };
 
 } // namespace
-
-TEST(RemoveSpaces, TrimsTheStemOfTheLastComponent)
-{
-    for (const TextRow& row : std::initializer_list<TextRow>{
-             {L"dir/  name  .txt", L"dir/name.txt"},
-             {L"dir/ name. txt", L"dir/name. txt"},
-             {L"dir/ name .txt ", L"dir/name.txt "},
-             {L"dir/ name ", L"dir/name"},
-             {L" dir / name ", L" dir /name"},
-             {L"C: name .txt", L"C:name.txt"},
-             {L"\t name \n.txt", L"name.txt"},
-             {L"a b .c d .txt", L"a b .c d.txt"},
-             {L"dir/   ", L"dir/"},
-             {L"dir/  .txt", L"dir/.txt"},
-             {L"dir/.txt ", L"dir/.txt "},
-             {L"a. b/ c ", L"a. b/c"},
-             {L"dir/", L"dir/"},
-             {L"C:", L"C:"},
-             {L"name", L"name"},
-             {L"", L""},
-             {L".", L"."},
-             {L"..", L".."},
-             {L" ..", L".."},
-             {L"dir/ .", L"dir/."},
-         }) {
-        SCOPED_TRACE(row.before);
-        HandMadePath name(PC_RELATIVE, row.before);
-        name.RemoveSpaces();
-        EXPECT_EQ(workOf(name), row.after);
-        EXPECT_EQ(name.m_type, PT_FILE);
-    }
-}
-
-TEST(RemoveSpaces, AsksOnlyForAWorkString)
-{
-    HandMadePath unparsed(PC_RELATIVE, L" a ", PT_NONE);
-    unparsed.RemoveSpaces();
-    EXPECT_EQ(workOf(unparsed), L"a");
-    CRbUiPathname empty;
-    empty.RemoveSpaces();
-    EXPECT_EQ(empty.m_pWork, nullptr);
-}
 
 TEST(BaseCase, ChangesTheLastComponentOnly)
 {
@@ -123,27 +75,4 @@ TEST(BaseCase, ChangesNothingThatIsNotParsed)
     empty.BaseToLower();
     empty.BaseToUpper();
     expectUnparsed(empty);
-}
-
-TEST(UpperPathFirstChar, TouchesALeadingDriveOnly)
-{
-    const Utf8Scope utf8;
-    for (const TextRow& row : std::initializer_list<TextRow>{
-             {L"c:/x", L"C:/x"},
-             {L"c:", L"C:"},
-             {L"C:", L"C:"},
-             {L"\u00e9:/x", L"\u00c9:/x"},
-             {L"\u0436:", L"\u0416:"},
-             {L"1:/x", L"1:/x"},
-             {L"c", L"c"},
-             {L"", L""},
-             {L"c/x:", L"c/x:"},
-             {L":c", L":c"},
-             {L"/c:", L"/c:"},
-         }) {
-        SCOPED_TRACE(row.before);
-        CStdStr<wchar_t> text(row.before);
-        upperPathFirstChar(text);
-        EXPECT_EQ(std::wstring(text), row.after);
-    }
 }

@@ -147,20 +147,3 @@ TEST(GetDisplayName, WalksOverTheSeparatorOfTheName)
     name.GetDisplayName(out, 12);
     EXPECT_EQ(std::wstring(out), L"...|dd|file");
 }
-
-TEST(LstrncpyX, CopiesTerminatorsToo)
-{
-    const wchar_t source[] = L"ab\0cd";
-    wchar_t target[] = L"#######";
-    CRbUiPathname().lstrncpy_x(target, source, 4);
-    EXPECT_EQ(std::wstring(target, 7), std::wstring(L"ab\0c\0##", 7));
-}
-
-TEST(LstrncpyX, WritesATerminatorForNothingAndNothingForLess)
-{
-    wchar_t target[] = L"##";
-    CRbUiPathname().lstrncpy_x(target, L"ab", -1);
-    EXPECT_EQ(std::wstring(target, 2), L"##");
-    CRbUiPathname().lstrncpy_x(target, L"ab", 0);
-    EXPECT_EQ(std::wstring(target, 2), std::wstring(L"\0#", 2));
-}

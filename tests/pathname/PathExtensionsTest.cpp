@@ -264,27 +264,6 @@ TEST(Extensions, MayLieInTheNameItself)
     EXPECT_EQ(workOf(matched), L"/d/abc.xt");
 }
 
-TEST(GetPathStrNoExt, CutsBeforeTheLastDotOfTheLastComponent)
-{
-    for (const ExtensionRow& row : std::initializer_list<ExtensionRow>{
-             {L"/d/a.tar.gz", nullptr, L"/d/a.tar"},
-             {L"/d.x/a", nullptr, L"/d.x/a"},
-             {L"a.b", nullptr, L"a"},
-             {L"a", nullptr, L"a"},
-             {L".", nullptr, L""},
-             {L"", nullptr, L""},
-             {L"/.", nullptr, L"/"},
-             {L"./", nullptr, L"./"},
-             {L"a.b\\c", nullptr, L"a"},
-         }) {
-        SCOPED_TRACE(row.work);
-        CStdStr<wchar_t> text(row.work);
-        CStdStr<wchar_t>* pointer = &text;
-        GetPathStrNoExt(&pointer, L'/');
-        EXPECT_EQ(std::wstring(text), row.after);
-    }
-}
-
 TEST(Extensions, LieBehindTheSeparatorOfTheObject)
 {
     HandMadePath removed(PC_ROOTED, L"/d.x|a");

@@ -62,13 +62,6 @@ void fillWithOther(CRbUiPathname& parent, const CRbUiVolumeDescriptor& volume)
     parent.m_category = kUnknownCategory;
 }
 
-struct RelPathRow
-{
-    const wchar_t* text;
-    path_category category;
-    const wchar_t* after;
-};
-
 } // namespace
 
 TEST(GetParent, CutsBehindTheLastSeparatorOrColon)
@@ -204,50 +197,6 @@ TEST(GetParent, RaisesOutOfRangeForABareNameWithAnEmptyPrefix)
     EXPECT_EQ(prefixOf(parent), L"(none)");
     EXPECT_EQ(parent.m_type, PT_DIRECTORY);
     EXPECT_EQ(workOf(name), L"bare");
-}
-
-TEST(ParseRelPath, Reclassifies)
-{
-    const Utf8Scope utf8;
-    for (const RelPathRow& row : std::initializer_list<RelPathRow>{
-             {L"/a", PC_ROOTED, L"/a"},
-             {L"/", PC_ROOTED, L"/"},
-             {L"//s", PC_UNC, L"//s"},
-             {L"c:/x", PC_DRIVE, L"C:/x"},
-             {L"c:", PC_DRIVE, L"C:"},
-             {L"\u00e9:x", PC_DRIVE, L"\u00c9:x"},
-             {L"1:x", kUnknownCategory, L"1:x"},
-             {L"c", kUnknownCategory, L"c"},
-             {L"a:b:c", PC_DRIVE, L"A:b:c"},
-             {L"/a:b", PC_ROOTED, L"/a:b"},
-             {L"\\a", kUnknownCategory, L"\\a"},
-         }) {
-        SCOPED_TRACE(row.text);
-        CStdStr<wchar_t> text(row.text);
-        CStdStr<wchar_t>* pointer = &text;
-        path_category category = kUnknownCategory;
-        ParseRelPath(&pointer, L'/', category);
-        EXPECT_EQ(category, row.category);
-        EXPECT_EQ(std::wstring(text), row.after);
-    }
-}
-
-TEST(ParseRelPath, RaisesOutOfRangeForAnEmptyText)
-{
-    CStdStr<wchar_t> text;
-    CStdStr<wchar_t>* pointer = &text;
-    path_category category = kUnknownCategory;
-    EXPECT_THROW(ParseRelPath(&pointer, L'/', category), std::out_of_range);
-    EXPECT_EQ(category, kUnknownCategory);
-}
-
-TEST(ParseRelPath, GoesByTheSeparatorItIsGiven)
-{
-    CStdStr<wchar_t> text(L"\\\\s");
-    CStdStr<wchar_t>* pointer = &text;
-    path_category category = PC_RELATIVE;
-    ParseRelPath(&pointer, L'\\', category);
-    EXPECT_EQ(category, PC_UNC);
 }
 
 TEST(GetParent, CutsAtTheSeparatorOfTheObject)

@@ -264,6 +264,23 @@ TEST(AppendSlash, LeavesAnEmptyNameEmpty)
     EXPECT_STREQ(name.GetPathString(), L"");
 }
 
+TEST(LstrncpyX, CopiesTerminatorsToo)
+{
+    const wchar_t source[] = L"ab\0cd";
+    wchar_t target[] = L"#######";
+    CRbUiPathname().lstrncpy_x(target, source, 4);
+    EXPECT_EQ(std::wstring(target, 7), std::wstring(L"ab\0c\0##", 7));
+}
+
+TEST(LstrncpyX, WritesATerminatorForNothingAndNothingForLess)
+{
+    wchar_t target[] = L"##";
+    CRbUiPathname().lstrncpy_x(target, L"ab", -1);
+    EXPECT_EQ(std::wstring(target, 2), L"##");
+    CRbUiPathname().lstrncpy_x(target, L"ab", 0);
+    EXPECT_EQ(std::wstring(target, 2), std::wstring(L"\0#", 2));
+}
+
 TEST(AppendSlash, AppendsTheSeparatorOfTheObject)
 {
     CRbUiPathname name;

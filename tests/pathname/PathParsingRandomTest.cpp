@@ -132,7 +132,8 @@ TEST_F(RandomParse, OfATextInItsOwnStringsReadsTheTextFirst)
     }
 }
 
-// The longest name that is handed to the system without a conversion in between is one of these.
+// The longest names that the room on the stack holds, with and without their prefix, are among
+// these.
 TEST(ParseRelative, FindsAFileByANameOfEveryLength)
 {
     const TemporaryFolder folder;
@@ -141,7 +142,7 @@ TEST(ParseRelative, FindsAFileByANameOfEveryLength)
     const std::wstring path = folder.path().wstring();
     CRbUiPathname base;
     ASSERT_EQ(base.ParseRelative(path.c_str(), nullptr, false), 0);
-    for (std::size_t length = 470; length < 530; ++length) {
+    for (std::size_t length = 950; length < 1030; ++length) {
         const std::wstring name = std::wstring(L"./").append(length - 3, L'/') + L"f";
         for (const wchar_t* missing : {L"", L"g"}) {
             const path_type type = *missing ? PT_NOT_FOUND : PT_FILE;
