@@ -2,14 +2,12 @@
 #include <KtQtBase/windows/Profiles.h>
 
 #include "string/TextConversion.h"
+#include "string/TextRoom.h"
 
 #include <algorithm>
 #include <cstdlib>
 
 namespace {
-
-// The room for one argument or result in multibyte form.
-constexpr unsigned int kRoom = 1024;
 
 constexpr int kNumberRoom = 64;
 
@@ -29,7 +27,7 @@ public:
 
     char* text()
     {
-        const bool usable = m_narrow.converted() && m_narrow.length() < kRoom;
+        const bool usable = m_narrow.converted() && m_narrow.length() < ktqtbase::kTextRoom;
         return usable ? m_narrow.data() : m_replacement;
     }
 
@@ -52,8 +50,8 @@ unsigned int GetPrivateProfileString(const wchar_t* lpAppName, const wchar_t* lp
                                      const wchar_t* lpDefault, wchar_t* lpReturnedString,
                                      unsigned int nSize, const wchar_t* lpFileName)
 {
-    char result[kRoom] = {};
-    const unsigned int size = std::min(nSize, kRoom);
+    char result[ktqtbase::kTextRoom] = {};
+    const std::size_t size = std::min<std::size_t>(nSize, sizeof result);
     const int count =
         read(lpAppName, lpKeyName, lpDefault, result, static_cast<int>(size), lpFileName);
     ktqtbase::widen(result, lpReturnedString, size);

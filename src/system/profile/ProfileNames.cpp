@@ -1,79 +1,40 @@
 // SPDX-License-Identifier: MIT
 #include "system/profile/ProfileNames.h"
 
+#include "system/profile/ProfileGrammar.h"
 #include "system/profile/ProfileResult.h"
-#include "system/profile/ProfileText.h"
+#include "system/profile/ProfileSearch.h"
 
 namespace {
 
-constexpr std::size_t kNowhere = std::string_view::npos;
+bool beginsHeader(std::string_view line)
+{
+    return !line.empty() && line.front() == '[';
+}
 
 } // namespace
 
-namespace ktqtbase {
-
-ProfileNames::ProfileNames(std::string_view text, const ProfileQuery& query, ProfileResult& list)
-    : m_rest(text), m_query(query), m_list(list)
-{}
-
-bool ProfileNames::list()
+void ktqtbase::listSections(std::string_view text, ProfileResult& list)
 {
-    while (!m_rest.empty()) {
-        const std::string_view line = trimmed(takeLine());
-        if (!line.empty() && !readHeader(line))
-            readKeyLine(line);
+    ProfileLines lines(text);
+    while (!lines.atEnd()) {
+        if (const auto section = sectionOf(lines.take()))
+            list.addName(*section);
     }
-    return !m_query.section || m_inSection;
 }
 
-std::string_view ProfileNames::takeLine()
+bool ktqtbase::listKeys(std::string_view text, std::string_view section, ProfileResult& list)
 {
-    const std::string_view line = m_rest.substr(0, lineLength());
-    m_rest.remove_prefix(line.size());
-    return line;
-}
-
-// Carriage returns end lines only where no line feed follows any more. That is remembered: looking
-// for one again at each line would make a file of carriage returns quadratic.
-std::size_t ProfileNames::lineLength()
-{
-    std::size_t end = m_lineFeedsLeft ? m_rest.find('\n') : kNowhere;
-    m_lineFeedsLeft = end != kNowhere;
-    if (!m_lineFeedsLeft)
-        end = m_rest.find('\r');
-    return end == kNowhere ? m_rest.size() : end + 1;
-}
-
-// Whether the line is a header. One without a closing bracket is none, yet ends the list of keys.
-bool ProfileNames::readHeader(std::string_view line)
-{
-    if (line.front() != '[')
+    ProfileLines lines(text);
+    if (!findSection(lines, section))
         return false;
-    m_keyListStopped = m_inSection;
-    const std::size_t close = line.find(']');
-    if (close == kNowhere)
-        return false;
-    enterSection(line.substr(1, close - 1));
+    while (!lines.atEnd()) {
+        const std::string_view line = lines.take();
+        // Also one without a closing bracket, which is no header.
+        if (beginsHeader(line))
+            break;
+        if (const auto entry = entryOf(line))
+            list.addName(entry->key);
+    }
     return true;
 }
-
-// A section is entered and never left: keys of later sections count as its own.
-void ProfileNames::enterSection(std::string_view name)
-{
-    if (!m_query.section)
-        m_list.addName(name);
-    else if (name == *m_query.section)
-        m_inSection = true;
-}
-
-void ProfileNames::readKeyLine(std::string_view line)
-{
-    if (!m_inSection || m_keyListStopped)
-        return;
-    const std::size_t equals = line.find('=');
-    const std::string_view name = trimmedEnd(line.substr(0, equals));
-    if (equals != kNowhere && !name.empty())
-        m_list.addName(name);
-}
-
-} // namespace ktqtbase

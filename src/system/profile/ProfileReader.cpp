@@ -6,8 +6,9 @@
 #include "system/profile/ProfileSearch.h"
 #include "system/profile/ProfileText.h"
 
-using ktqtbase::ProfileNames;
-using ktqtbase::ProfileQuery;
+#include <optional>
+#include <string_view>
+
 using ktqtbase::ProfileResult;
 using ktqtbase::ProfileText;
 
@@ -15,6 +16,14 @@ namespace {
 
 // The least area that holds a byte and a terminator.
 constexpr int kLeastSize = 2;
+
+// What is asked for. Without a section the answer is the list of sections, without a key the list
+// of the section's keys.
+struct Query
+{
+    std::optional<std::string_view> section;
+    std::optional<std::string_view> key;
+};
 
 std::optional<std::string_view> trimmedArgument(const char* text)
 {
@@ -30,18 +39,19 @@ std::string_view trimmedDefault(const char* text)
     return kept;
 }
 
-void answer(std::string_view text, const ProfileQuery& query, std::string_view fallback,
-            ProfileResult& result)
+// Finds a key's value, or adds the names of a list. Result: whether there is an answer.
+bool findAnswer(std::string_view text, const Query& query, ProfileResult& result)
 {
-    if (query.section && query.key) {
-        const auto value = ktqtbase::searchProfile(text, *query.section, *query.key);
-        result.assign(value.value_or(fallback));
-    } else {
-        ProfileNames scanner(text, query, result);
-        if (!scanner.list())
-            result.assign(fallback);
+    if (!query.section) {
+        ktqtbase::listSections(text, result);
+        return true;
     }
-    result.stripQuotes();
+    if (!query.key)
+        return ktqtbase::listKeys(text, *query.section, result);
+    const auto value = ktqtbase::searchProfile(text, *query.section, *query.key);
+    if (value)
+        result.assign(*value);
+    return value.has_value();
 }
 
 } // namespace
@@ -55,13 +65,16 @@ int read_profile_string(const char* section, char* key, char* defaultText, char*
         return 0;
     ProfileResult result(out, static_cast<std::size_t>(size));
     const std::string_view fallback = trimmedDefault(defaultText);
-    const ProfileQuery query{trimmedArgument(section), trimmedArgument(key)};
+    const Query query{trimmedArgument(section), trimmedArgument(key)};
 
     const ProfileText file(fileName);
-    if (file.state() == ProfileText::State::Read)
-        answer(file.text(), query, fallback, result);
-    else if (file.state() == ProfileText::State::Empty ||
-             (file.state() == ProfileText::State::Absent && section))
+    if (file.state() == ProfileText::State::Read) {
+        if (!findAnswer(file.text(), query, result))
+            result.assign(fallback);
+        result.stripQuotes();
+    } else if (file.state() == ProfileText::State::Empty ||
+               (file.state() == ProfileText::State::Absent && section)) {
         result.assign(fallback);
+    }
     return result.count();
 }

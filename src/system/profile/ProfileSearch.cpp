@@ -1,87 +1,70 @@
 // SPDX-License-Identifier: MIT
 #include "system/profile/ProfileSearch.h"
 
-#include "system/profile/ProfileText.h"
-
 #include <algorithm>
-#include <cstring>
 
 namespace {
 
-constexpr std::size_t kNowhere = std::string_view::npos;
-
-// The C library's search, which passes over text several times faster than the string's own.
-std::size_t findText(std::string_view text, std::string_view wanted, std::size_t from)
+// What may follow a key: an equals sign, or white space before it. It is asked of every byte, so
+// the other control characters are let through.
+bool mayFollowKey(char c)
 {
-    const void* const hit =
-        memmem(text.data() + from, text.size() - from, wanted.data(), wanted.size());
-    return hit ? static_cast<std::size_t>(static_cast<const char*>(hit) - text.data()) : kNowhere;
+    return (c == '=') | (static_cast<unsigned char>(c) <= ' ');
 }
 
-bool isHeader(std::string_view line)
+// Whether a key may begin at one of a few places. All of them are looked at, with no branch in
+// between, so that compilers look at many at once.
+bool mayBeginAmong(const char* places, std::size_t count, std::string_view key)
 {
-    return !line.empty() && line.front() == '[' && line.find(']') != kNowhere;
+    const char* const lasts = places + key.size() - 1;
+    bool found = false;
+    for (std::size_t i = 0; i < count; ++i)
+        found |= (places[i] == key.front()) & (lasts[i] == key.back()) & mayFollowKey(lasts[i + 1]);
+    return found;
 }
 
-class ProfileSearch
+// The next place at which a key stands with a byte after it that may follow it, or npos.
+std::size_t findKey(std::string_view text, std::string_view key, std::size_t from)
 {
-public:
-    ProfileSearch(std::string_view section, std::string_view key) : m_section(section), m_key(key)
-    {}
-
-    // Searches a part of the text whose lines all end with one and the same byte.
-    std::optional<std::string_view> in(std::string_view part, char lineEnd)
-    {
-        for (std::size_t from = 0; from < part.size();) {
-            const std::size_t hit =
-                m_inSection ? findText(part, m_key, from) : part.find('[', from);
-            if (hit == kNowhere)
-                break;
-            const std::size_t start = lineStart(part, from, hit, lineEnd);
-            from = std::min(part.find(lineEnd, hit), part.size() - 1) + 1;
-            const auto line = ktqtbase::trimmed(part.substr(start, from - start));
-            if (!m_inSection)
-                m_inSection = isHeader(line) && line.substr(1, line.find(']') - 1) == m_section;
-            else if (const auto value = valueIn(line))
-                return value;
+    constexpr std::size_t kPlacesAtOnce = 128;
+    const std::size_t end = text.size() > key.size() ? text.size() - key.size() : 0;
+    for (std::size_t count; from < end; from += count) {
+        count = std::min(kPlacesAtOnce, end - from);
+        if (!mayBeginAmong(text.data() + from, count, key))
+            continue;
+        for (std::size_t place = from; place < from + count; ++place) {
+            if (text.compare(place, key.size(), key) == 0 && mayFollowKey(text[place + key.size()]))
+                return place;
         }
-        return std::nullopt;
     }
-
-private:
-    static std::size_t lineStart(std::string_view part, std::size_t from, std::size_t hit,
-                                 char lineEnd)
-    {
-        while (hit > from && part[hit - 1] != lineEnd)
-            --hit;
-        return hit;
-    }
-
-    std::optional<std::string_view> valueIn(std::string_view line) const
-    {
-        const std::size_t equals = line.find('=');
-        if (equals == kNowhere || isHeader(line) ||
-            ktqtbase::trimmedEnd(line.substr(0, equals)) != m_key)
-            return std::nullopt;
-        return ktqtbase::trimmedStart(line.substr(equals + 1));
-    }
-
-    std::string_view m_section;
-    std::string_view m_key;
-    bool m_inSection = false;
-};
+    return text.npos;
+}
 
 } // namespace
+
+bool ktqtbase::findSection(ProfileLines& lines, std::string_view section)
+{
+    for (;;) {
+        const std::size_t bracket = lines.text().find('[', lines.position());
+        if (bracket == std::string_view::npos)
+            return false;
+        if (sectionOf(lines.takeAt(bracket)) == section)
+            return true;
+    }
+}
 
 std::optional<std::string_view>
 ktqtbase::searchProfile(std::string_view text, std::string_view section, std::string_view key)
 {
-    if (key.empty())
+    ProfileLines lines(text);
+    if (key.empty() || !findSection(lines, section))
         return std::nullopt;
-    // Lines end with a line feed as long as one follows, and with a carriage return from there on.
-    const std::size_t lastLineFeed = text.rfind('\n');
-    const std::size_t split = lastLineFeed == kNowhere ? 0 : lastLineFeed + 1;
-    ProfileSearch search(section, key);
-    const auto value = search.in(text.substr(0, split), '\n');
-    return value ? value : search.in(text.substr(split), '\r');
+    for (;;) {
+        const std::size_t place = findKey(text, key, lines.position());
+        if (place == text.npos)
+            return std::nullopt;
+        const auto entry = entryOf(lines.takeAt(place));
+        if (entry && entry->key == key)
+            return entry->value;
+    }
 }

@@ -1,32 +1,56 @@
 // SPDX-License-Identifier: MIT
 #include "system/profile/ProfileText.h"
 
-#include <cstdio>
+#include <cerrno>
 #include <new>
+
+#include <fcntl.h>
+#include <sys/stat.h>
+#include <unistd.h>
 
 namespace {
 
-struct FileCloser
+// A file opened for update although nothing is written: one that may not be written counts as
+// absent. Programs that the host starts do not inherit it.
+class File
 {
-    void operator()(std::FILE* file) const { std::fclose(file); }
+public:
+    explicit File(const char* name) : m_descriptor(name ? open(name, O_RDWR | O_CLOEXEC) : -1) {}
+    File(const File&) = delete;
+    File& operator=(const File&) = delete;
+    ~File()
+    {
+        if (isOpen())
+            close(m_descriptor);
+    }
+
+    bool isOpen() const { return m_descriptor >= 0; }
+
+    // 0 also where there is no length, as for a pipe.
+    std::size_t length() const
+    {
+        struct stat status;
+        const bool isKnown = fstat(m_descriptor, &status) == 0 && status.st_size > 0;
+        return isKnown ? static_cast<std::size_t>(status.st_size) : 0;
+    }
+
+    // Reads from the start. Result: the bytes read, fewer where the file has become shorter or the
+    // system gives no more.
+    std::size_t readInto(char* area, std::size_t length) const
+    {
+        std::size_t done = 0;
+        while (done < length) {
+            const ssize_t count = read(m_descriptor, area + done, length - done);
+            if (count == 0 || (count < 0 && errno != EINTR))
+                break;
+            done += count > 0 ? static_cast<std::size_t>(count) : 0;
+        }
+        return done;
+    }
+
+private:
+    int m_descriptor;
 };
-
-using File = std::unique_ptr<std::FILE, FileCloser>;
-
-// Opened for update although nothing is written: a file that may not be written counts as absent.
-File openForUpdate(const char* fileName)
-{
-    return File(fileName ? std::fopen(fileName, "r+") : nullptr);
-}
-
-// 0 also where the length cannot be told, as for a pipe.
-std::size_t lengthOf(std::FILE* file)
-{
-    std::fseek(file, 0, SEEK_END);
-    const long length = std::ftell(file);
-    std::rewind(file);
-    return length > 0 ? static_cast<std::size_t>(length) : 0;
-}
 
 } // namespace
 
@@ -34,39 +58,20 @@ namespace ktqtbase {
 
 ProfileText::ProfileText(const char* fileName)
 {
-    const File file = openForUpdate(fileName);
-    if (!file)
+    const File file(fileName);
+    if (!file.isOpen())
         return;
-    const std::size_t length = lengthOf(file.get());
+    const std::size_t length = file.length();
     m_state = length == 0 ? State::Empty : State::Unreadable;
     if (length == 0)
         return;
     m_bytes.reset(new (std::nothrow) char[length]);
-    const std::size_t read = m_bytes ? std::fread(m_bytes.get(), 1, length, file.get()) : 0;
+    const std::size_t read = m_bytes ? file.readInto(m_bytes.get(), length) : 0;
     if (read == 0)
         return;
     m_state = State::Read;
     m_text = std::string_view(m_bytes.get(), read);
     m_text = m_text.substr(0, m_text.find('\0'));
-}
-
-std::string_view trimmedStart(std::string_view text)
-{
-    while (!text.empty() && isWhiteSpace(text.front()))
-        text.remove_prefix(1);
-    return text;
-}
-
-std::string_view trimmedEnd(std::string_view text)
-{
-    while (!text.empty() && isWhiteSpace(text.back()))
-        text.remove_suffix(1);
-    return text;
-}
-
-std::string_view trimmed(std::string_view text)
-{
-    return trimmedStart(trimmedEnd(text));
 }
 
 } // namespace ktqtbase

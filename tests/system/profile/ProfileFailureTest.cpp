@@ -6,25 +6,65 @@
 
 #include <gtest/gtest.h>
 
-#include <cstdio>
+#include <cerrno>
 #include <new>
 
 #include <dlfcn.h>
+#include <unistd.h>
 
 namespace {
 
-bool refuseToRead = false;
+// What the next reads do instead of their work.
+enum class Reading
+{
+    AsAlways,
+    NoBytes,
+    AByteAtATime,
+    InterruptedFirst,
+    AnErrorAfterTwoBytes
+};
+
+Reading reading = Reading::AsAlways;
 bool refuseMemory = false;
 
-using ReadFunction = std::size_t (*)(void*, std::size_t, std::size_t, std::FILE*);
+using ReadFunction = ssize_t (*)(int, void*, std::size_t);
+
+ssize_t failsWith(int error)
+{
+    errno = error;
+    return -1;
+}
+
+// A way of reading while it lives.
+class ReadingScope
+{
+public:
+    explicit ReadingScope(Reading way) { reading = way; }
+    ReadingScope(const ReadingScope&) = delete;
+    ReadingScope& operator=(const ReadingScope&) = delete;
+    ~ReadingScope() { reading = Reading::AsAlways; }
+};
 
 } // namespace
 
-extern "C" __attribute__((visibility("default"))) std::size_t
-fread(void* area, std::size_t size, std::size_t count, std::FILE* file)
+extern "C" __attribute__((visibility("default"))) ssize_t read(int file, void* area,
+                                                               std::size_t size)
 {
-    static const auto real = reinterpret_cast<ReadFunction>(dlsym(RTLD_NEXT, "fread"));
-    return refuseToRead ? 0 : real(area, size, count, file);
+    static const auto real = reinterpret_cast<ReadFunction>(dlsym(RTLD_NEXT, "read"));
+    switch (reading) {
+    case Reading::NoBytes:
+        return 0;
+    case Reading::AByteAtATime:
+        return real(file, area, 1);
+    case Reading::InterruptedFirst:
+        reading = Reading::AsAlways;
+        return failsWith(EINTR);
+    case Reading::AnErrorAfterTwoBytes:
+        return lseek(file, 0, SEEK_CUR) < 2 ? real(file, area, 1) : failsWith(EIO);
+    case Reading::AsAlways:
+        break;
+    }
+    return real(file, area, size);
 }
 
 void* operator new[](std::size_t size, const std::nothrow_t&) noexcept
@@ -35,12 +75,29 @@ void* operator new[](std::size_t size, const std::nothrow_t&) noexcept
 TEST(ProfileFile, ThatGivesNoBytesLeavesTheAreaEmpty)
 {
     ScratchProfile profile("[S]\nk=5\n");
-    refuseToRead = true;
-    const ProfileAnswer answer = profile.read({"S", "k", "none", 64});
-    refuseToRead = false;
-    EXPECT_EQ(answer.text, "");
-    EXPECT_EQ(answer.count, 0);
+    {
+        const ReadingScope scope(Reading::NoBytes);
+        const ProfileAnswer answer = profile.read({"S", "k", "none", 64});
+        EXPECT_EQ(answer.text, "");
+        EXPECT_EQ(answer.count, 0);
+    }
     EXPECT_EQ(profile.read({"S", "k", "none", 64}).text, "5");
+}
+
+TEST(ProfileFile, ThatComesInPiecesIsReadWhole)
+{
+    ScratchProfile profile("[S]\nk=5\n");
+    for (Reading way : {Reading::AByteAtATime, Reading::InterruptedFirst}) {
+        const ReadingScope scope(way);
+        EXPECT_EQ(profile.read({"S", "k", "none", 64}).text, "5");
+    }
+}
+
+TEST(ProfileFile, ThatEndsInAnErrorIsTakenAsFarAsItGoes)
+{
+    ScratchProfile profile("[S]\nk=5\n");
+    const ReadingScope scope(Reading::AnErrorAfterTwoBytes);
+    EXPECT_EQ(profile.read({"S", "k", "none", 64}).text, "none");
 }
 
 TEST(ProfileFile, ThatMemoryCannotHoldLeavesTheAreaEmpty)
