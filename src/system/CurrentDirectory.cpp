@@ -3,12 +3,11 @@
 
 #include "platform/Platform.h"
 #include "string/TextConversion.h"
+#include "string/TextRoom.h"
 
 #include <cstring>
 
 namespace {
-
-constexpr std::uint32_t kPathRoom = 1024;
 
 // Cuts a path at its last slash.
 void dropFileName(char* path)
@@ -21,12 +20,12 @@ void dropFileName(char* path)
 
 unsigned int GetCurrentDirectoryW(unsigned int, wchar_t* lpBuffer)
 {
-    char path[kPathRoom] = {};
-    std::uint32_t size = kPathRoom;
+    char path[ktqtbase::kTextRoom] = {};
+    std::uint32_t size = sizeof path;
     ktqtbase::platform::executablePath(path, &size);
     dropFileName(path);
     // Half of a folder's name would be another folder.
-    if (!ktqtbase::widen(path, lpBuffer, kPathRoom))
+    if (!ktqtbase::widen(path, lpBuffer, ktqtbase::kTextRoom))
         lpBuffer[0] = L'\0';
     return size;
 }

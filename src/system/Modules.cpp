@@ -3,6 +3,7 @@
 
 #include "platform/Platform.h"
 #include "string/TextConversion.h"
+#include "string/TextRoom.h"
 
 #include <cstdint>
 #include <cstdio>
@@ -15,7 +16,6 @@ namespace {
 using ktqtbase::NarrowText;
 
 constexpr std::size_t kPartRoom = 512;
-constexpr std::size_t kFileNameRoom = 1024;
 constexpr std::uintptr_t kFirstNamePointer = 0x10000;
 const HINSTANCE kMainProgram = reinterpret_cast<HINSTANCE>(1);
 
@@ -30,7 +30,7 @@ void dropDllSuffix(char* name)
 // Opens folder + "lib" + base + suffix, or nothing where that is too long.
 HINSTANCE openMapped(const char* folder, std::size_t folderLength, const char* base)
 {
-    char fileName[kFileNameRoom];
+    char fileName[ktqtbase::kTextRoom];
     const int length =
         std::snprintf(fileName, sizeof fileName, "%.*slib%s%s", static_cast<int>(folderLength),
                       folder, base, ktqtbase::platform::sharedLibrarySuffix());
@@ -41,7 +41,7 @@ HINSTANCE openMapped(const char* folder, std::size_t folderLength, const char* b
 
 unsigned int mainProgramFileName(wchar_t* fileName, unsigned int size)
 {
-    char path[kFileNameRoom] = {};
+    char path[ktqtbase::kTextRoom] = {};
     std::uint32_t room = sizeof path;
     const int result = ktqtbase::platform::executablePath(path, &room);
     ktqtbase::widen(path, fileName, size);
@@ -89,7 +89,7 @@ HINSTANCE GetModuleHandle(const wchar_t* lpModuleName)
         return kMainProgram;
     ktqtbase::useUtf8Locale();
     NarrowText name(lpModuleName);
-    if (!name.converted() || name.length() >= kFileNameRoom)
+    if (!name.converted() || name.length() >= ktqtbase::kTextRoom)
         return nullptr;
     dropDllSuffix(name.data());
     return openMapped("", 0, name.c_str());

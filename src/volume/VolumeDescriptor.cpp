@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include <KtQtBase/VolumeDescriptor.h>
 
+#include "string/TextRoom.h"
 #include "volume/FileSystemNames.h"
 
 #include <cwchar>
@@ -9,7 +10,7 @@ namespace {
 
 constexpr const wchar_t* kUncPrefix = L"\\\\";
 constexpr int kDefaultMaxComponentLen = 255;
-constexpr int kDefaultMaxPathLen = 1023;
+constexpr int kDefaultMaxPathLen = ktqtbase::kTextRoom - 1;
 constexpr unsigned int kUnlimitedSpace = 0x7FFFFFFF;
 
 constexpr unsigned int kBuiltFromName = 0x01;

@@ -13,11 +13,13 @@ QWidget* widgetOf(HWND hWnd)
     return QWidget::find(reinterpret_cast<WId>(hWnd));
 }
 
+} // namespace
+
 // Both make the event before they know whether anybody gets it: its type is registered by the first
 // message, delivered or not. A null receiver crashes Qt's sendEvent, and postEvent prints a
 // warning.
 
-LRESULT send(HWND hWnd, UINT msg, WPARAM wParam, LPARAM lParam)
+LRESULT QKtMessageCenter::sendMessage(HWND hWnd, UINT msg, WPARAM wParam, LPARAM lParam)
 {
     QKtMsgEvent event(msg, wParam, lParam);
     if (QWidget* const receiver = widgetOf(hWnd))
@@ -25,7 +27,7 @@ LRESULT send(HWND hWnd, UINT msg, WPARAM wParam, LPARAM lParam)
     return 0;
 }
 
-bool post(HWND hWnd, UINT msg, WPARAM wParam, LPARAM lParam)
+bool QKtMessageCenter::postMessage(HWND hWnd, UINT msg, WPARAM wParam, LPARAM lParam)
 {
     auto event = std::make_unique<QKtMsgEvent>(msg, wParam, lParam);
     if (QWidget* const receiver = widgetOf(hWnd))
@@ -33,24 +35,12 @@ bool post(HWND hWnd, UINT msg, WPARAM wParam, LPARAM lParam)
     return true;
 }
 
-} // namespace
-
-LRESULT QKtMessageCenter::sendMessage(HWND hWnd, UINT msg, WPARAM wParam, LPARAM lParam)
-{
-    return send(hWnd, msg, wParam, lParam);
-}
-
-bool QKtMessageCenter::postMessage(HWND hWnd, UINT msg, WPARAM wParam, LPARAM lParam)
-{
-    return post(hWnd, msg, wParam, lParam);
-}
-
 LRESULT SendMessage(HWND hWnd, UINT Msg, WPARAM wParam, LPARAM lParam)
 {
-    return send(hWnd, Msg, wParam, lParam);
+    return QKtMessageCenter::sendMessage(hWnd, Msg, wParam, lParam);
 }
 
 bool PostMessage(HWND hWnd, UINT Msg, WPARAM wParam, LPARAM lParam)
 {
-    return post(hWnd, Msg, wParam, lParam);
+    return QKtMessageCenter::postMessage(hWnd, Msg, wParam, lParam);
 }

@@ -3,11 +3,9 @@
 #include <KtQtBase/WideString.h>
 #include <KtQtBase/windows/ResourceStrings.h>
 
-namespace {
+#include "string/TextRoom.h"
 
-constexpr int kTextRoom = 1024;
-
-} // namespace
+using ktqtbase::kTextRoom;
 
 HINSTANCE m_hCurrentResourceHandle = nullptr;
 
