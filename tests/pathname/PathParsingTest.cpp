@@ -189,6 +189,21 @@ TEST(ParseRelative, TakesNoSymbolBeyondAsciiAsADrive)
     EXPECT_EQ(name.ParseRelative(L"\U0001F600:", nullptr, false), 1);
 }
 
+TEST(ParseRelative, CountsAColonThatASeparatorBecame)
+{
+    CRbUiPathname base;
+    ASSERT_EQ(base.ParseRelative(L"/home/u/", nullptr, false), 0);
+    CRbUiPathname name;
+    name.m_separator = L':';
+    // One colon belongs to a drive; any other refuses the name.
+    EXPECT_EQ(name.ParseRelative(L"\\ab", &base, false), 1);
+    EXPECT_EQ(name.ParseRelative(L"ab\\c", &base, false), 1);
+    // The test for several colons comes before the backslashes are replaced.
+    ASSERT_EQ(name.ParseRelative(L"a\\b\\c", &base, false), 0);
+    EXPECT_EQ(name.m_category, PC_DRIVE);
+    EXPECT_STREQ(name.GetPathString(), L"A:b:c");
+}
+
 // ---- Bases -------------------------------------------------------------------------------------
 
 TEST(ParseRelative, RefusesARelativeNameWithoutAParsedBase)
