@@ -6,7 +6,7 @@
 
 #include <string_view>
 
-// ---- The parts of a parse ----------------------------------------------------------------------
+// ---- The steps of a parse ----------------------------------------------------------------------
 
 void GetWorkString(CStdStr<wchar_t>* s, wchar_t sep, wchar_t& last, wchar_t& first, wchar_t& second)
 {

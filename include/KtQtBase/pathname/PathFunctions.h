@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: MIT
 //
-// The free functions of the path family: the parts of which a parse and the edits are made.
+// The free functions of the path family: the steps of a parse and parts of the edits.
 #ifndef KTQTBASE_PATHNAME_PATHFUNCTIONS_H
 #define KTQTBASE_PATHNAME_PATHFUNCTIONS_H
 
@@ -9,7 +9,11 @@
 #include <KtQtBase/pathname/BasePathName.h>
 #include <KtQtBase/pathname/PathTypes.h>
 
-// ---- The parts of a parse ----------------------------------------------------------------------
+// ---- The steps of a parse ----------------------------------------------------------------------
+//
+// CRbUiPathname::ParseRelative takes the steps of GetWorkString, GetPathCatType, GetRelPath,
+// IsPathType and GetAttByPath, in this order. The others have no effect on a name that a parse
+// accepts.
 
 // Turns backslashes into separators and reads the first two characters.
 //   s         in/out: the text
