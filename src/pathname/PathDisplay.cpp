@@ -26,7 +26,7 @@ void shortenBase(const CRbUiPathname& path, std::size_t start, std::size_t width
         out.append(1, kPeriod).append(extension);
 }
 
-// Appends the whole components at the end of a work string that fit into a width behind a prefix
+// Appends the whole components at the end of a work string that fit into a width after a prefix
 // and dots; nothing where the last one does not begin with a separator.
 void appendTail(const CRbUiPathname& path, std::size_t prefix, std::size_t width, WideText& out)
 {

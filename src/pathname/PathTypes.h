@@ -17,7 +17,7 @@ inline bool isParsed(path_type type)
     return type >= PT_NOT_FOUND && type <= PT_DIRECTORY;
 }
 
-// Whether a type names something, be it by a parse or by a host.
+// Whether a type names something, given by a parse or by a host.
 inline bool isNamed(path_type type)
 {
     return isParsed(type) || type == kKnownToExist;

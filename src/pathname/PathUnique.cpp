@@ -43,7 +43,7 @@ void keepFolder(CRbUiPathname& path)
         path.Trim();
 }
 
-// Characters that are left for the stem behind a folder, beside the digits, a dot and the
+// Characters that are left for the stem after a folder, beside the digits, a dot and the
 // extension; below 1 where there is no room.
 int roomForStem(std::size_t folder, std::size_t extension)
 {

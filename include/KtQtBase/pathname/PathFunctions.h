@@ -45,7 +45,7 @@ KTQTBASE_EXPORT void GetUNCScount(CStdStr<wchar_t>* s, int* index, unsigned int&
 //   cat      in: the category of the text
 //   s        in/out: the text; of every other category it stays as it is, with its drive
 //   sep      in: the separator
-//   index    in: where the part behind the volume begins
+//   index    in: where the part after the volume begins
 KTQTBASE_EXPORT void GetWorkPtrByIndex(path_category cat, CStdStr<wchar_t>* s, wchar_t sep,
                                        int index);
 
@@ -70,7 +70,7 @@ KTQTBASE_EXPORT bool IsPathType(CStdStr<wchar_t> name, path_type* type);
 // Asks the file system what a name denotes.
 //   work       in: where the name's pointer lies; neither may be null
 //   relPath    in: where its prefix's pointer lies; either may be null. A slash is put between the
-//              two texts, also behind a prefix that ends with one.
+//              two texts, also after a prefix that ends with one.
 //   type       out: where the pointer to the result lies: PT_NOT_FOUND, PT_FILE or PT_DIRECTORY
 KTQTBASE_EXPORT void GetAttByPath(const CStdStr<wchar_t>** work, const CStdStr<wchar_t>** relPath,
                                   path_type** type);
@@ -84,7 +84,7 @@ KTQTBASE_EXPORT void GetAttByPath(const CStdStr<wchar_t>** work, const CStdStr<w
 // An empty string raises std::out_of_range.
 KTQTBASE_EXPORT void ParseRelPath(CStdStr<wchar_t>** pp, wchar_t sep, path_category& cat);
 
-// Cuts a name before its extension: before its last dot, where that stands behind the last
+// Cuts a name before its extension: before its last dot, if that stands after the last
 // separator.
 //   pp     in/out: where the string's pointer lies
 //   sep    in: the separator

@@ -37,7 +37,7 @@ void ProfileResult::addName(std::string_view name)
         append("\t");
         return;
     }
-    // Leaves a room of one byte, which admits no later name, be it empty.
+    // One byte of room is left, into which no later name fits, not even an empty one.
     append(name.substr(0, room - 1));
 }
 
