@@ -58,6 +58,9 @@ struct Profile
     Question first() const { return {name, "Section0", "Key0"}; }
     Question last() const { return {name, section, key}; }
     Question missing() const { return {name, section, "NoSuchKey"}; }
+    Question missingFromFirst() const { return {name, "Section0", "NoSuchKey"}; }
+    // Every key of the file begins with this one, so that each of them has to be looked at further.
+    Question commonBeginning() const { return {name, "Section0", "Key"}; }
 
     std::string name;
     std::string section;
@@ -164,6 +167,10 @@ void addProfile(const char* size, std::size_t bytes)
     addQuestion("Profile, first key", size, [=] { return Profile(bytes).first(); });
     addOthers(addQuestion("Profile, last key", size, last), last);
     addOthers(addQuestion("Profile, missing key", size, missing), missing);
+    addQuestion("Profile, missing key, first section", size,
+                [=] { return Profile(bytes).missingFromFirst(); });
+    addQuestion("Profile, common beginning", size,
+                [=] { return Profile(bytes).commonBeginning(); });
 }
 
 } // namespace
