@@ -27,6 +27,8 @@ namespace bfs = boost::filesystem;
 namespace sfs = std::filesystem;
 
 const std::size_t kLengths[] = {20, 60, 250};
+// Names that may be too long for what a parse keeps on the stack.
+const std::size_t kLongLengths[] = {512, 1000};
 const std::size_t kGrowingLengths[] = {32, 64, 128, 256, 512};
 
 bool holdsWildcard(const std::string& text)
@@ -109,9 +111,14 @@ void addParse(const std::string& kind, std::size_t length, MakeQuestion make)
         .reference("QFileInfo", [make] { return askQt(make()); });
 }
 
-void addParses(std::size_t length)
+void addExistingParse(std::size_t length)
 {
     addParse("existing", length, [=] { return Question{"", bench::existingName(length)}; });
+}
+
+void addParses(std::size_t length)
+{
+    addExistingParse(length);
     addParse("missing", length, [=] { return Question{"", bench::missingName(length)}; });
     addParse("relative", length, [=] {
         return Question{bench::folder(), bench::relativeName(length)};
@@ -158,6 +165,8 @@ void bench::addPathRows()
         addOwnFolderParse("existing", length, false);
         addOwnFolderParse("relative", length, true);
     }
+    for (const std::size_t length : kLongLengths)
+        addExistingParse(length);
     for (const std::size_t length : kGrowingLengths)
         addGrowth(length);
 }

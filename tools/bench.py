@@ -28,7 +28,7 @@ def parse_arguments():
     parser.add_argument("--min-time", type=float, default=0.02, help="seconds a repetition")
     parser.add_argument("--once", action="store_true", help="run each row once, judge nothing")
     parser.add_argument("--only", default="", help="measure the works that match this expression")
-    parser.add_argument("--markdown", type=pathlib.Path, 
+    parser.add_argument("--markdown", type=pathlib.Path,
                         help="put the table between the marks of this file, the plot beside it")
     return parser.parse_args()
 
@@ -91,8 +91,10 @@ def judge_ratios(goals, rows):
         for (work, size), times in sorted(rows.items(), key=table_order):
             if work not in group["work"] or "library" not in times:
                 continue
-            who = min(group["fastest of"], key=lambda name: times.get(name, math.inf))
             goal = group.get("except", {}).get(f"{work}|{size}", group["goal"])
+            if goal is None:
+                continue
+            who = min(group["fastest of"], key=lambda name: times.get(name, math.inf))
             yield {"group": number, "work": work, "size": size, "library": times["library"],
                    "who": who,
                    "reference": times[who], "value": times["library"] / times[who], "goal": goal}
