@@ -239,10 +239,16 @@ TEST_F(PathAllocation, EmptiesTheParentOfABareNameWhosePrefixCannotBeCopied)
 
 TEST_F(PathAllocation, EmptiesThePrefixWhereItCannotBeSet)
 {
+    // Parsed, but without room for any folder that this program may be in.
+    const auto parseShortPrefix = [] {
+        EXPECT_EQ(g_CurrentDirPrefix.ParseRelative(L"/no", nullptr, false), 0);
+        g_CurrentDirPrefix.m_pWork->shrink_to_fit();
+    };
     int n = 1;
+    parseShortPrefix();
     while (failingnew::failsAt(n, [] { ktuiSetCurrentDirPrefix(); })) {
         expectUnparsed(g_CurrentDirPrefix);
-        ASSERT_EQ(g_CurrentDirPrefix.ParseRelative(L"/no/such/", nullptr, false), 0);
+        parseShortPrefix();
         ++n;
     }
     EXPECT_GT(n, 1);
