@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: MIT
 //
-// CRnUiPathname: the path name that an application uses. Its relative names lie in one folder of
+// CRnUiPathname: the path object that an application uses. Its relative names lie in one folder of
 // the process, g_CurrentDirPrefix.
 //
 //     ktuiSetCurrentDirPrefix();
@@ -16,14 +16,14 @@
 
 class IKtFile;
 
-// ---- The path name -----------------------------------------------------------------------------
+// ---- The path object ---------------------------------------------------------------------------
 
 // The order of the virtual functions is part of the interface: Parse, AssignCopy of a base, then
 // AssignCopy of this class.
 class KTQTBASE_EXPORT CRnUiPathname : public CRbUiPathname
 {
 public:
-    // An unparsed name.
+    // An unparsed path object.
     CRnUiPathname();
 
     // A copy with strings of its own.
@@ -32,9 +32,9 @@ public:
     ~CRnUiPathname();
 
     // Parses a name; a relative one is taken as lying in g_CurrentDirPrefix.
-    //   name    in: the name; it may point into this object's own strings
+    //   name    in: the name given; it may point into this object's own strings
     //   flag    not used
-    // Result: 0 done; 1 a bad name, null, or a relative name while the prefix is unparsed.
+    // Result: 0 done; 1 a bad name, null, or a relative name while g_CurrentDirPrefix is unparsed.
     int Parse(const wchar_t* name, bool flag) override;
 
     // Makes this object a copy of another, as the base's AssignCopy does.
@@ -45,45 +45,47 @@ public:
     // On Windows: the file is opened.
     int Open(IKtFile** file, const wchar_t* mode);
 
-    // What may be done with the name, asked of the file system now. This object stays as it is.
+    // What may be done with the file or folder, as the file system says now. This object stays as
+    // it is.
     // Result: the sum of
     //   1    the name exists
     //   2    it may be read
     //   4    it may be written
     //   8    its folder may be written
-    // 0 for an unparsed name; 4 and 8 are never given on a read-only volume.
-    //   an existing file, 15 or 3 or 11 or 7 by bit 0 of file and folder; a missing one, 8 or 0
-    // Raises std::out_of_range where GetParent does.
-    // Kept: 4 and 8 are told by bit 0 of GetFileAttributes being clear, which is the execute
-    // permission of others; hosts take them as hints.
+    // 0 for an unparsed object; 4 and 8 are never given on a read-only volume.
+    // Raises std::out_of_range if GetParent does.
+    //   an existing file => 3, 7, 11 or 15, by bit 0 of file and folder
+    //   a missing one    => 0 or 8, by bit 0 of the folder
+    // Kept: 4 and 8 mean that bit 0 of GetFileAttributes, the execute permission of others, is
+    // clear. Part of the interface.
     int Status();
 };
 
 // ---- The current folder ------------------------------------------------------------------------
 
 // The folder in which relative names lie; unparsed from load until ktuiSetCurrentDirPrefix. Shared
-// by all path names and not locked: set it on the main thread before names are parsed.
+// by all path objects and not locked: set it on the main thread before names are parsed.
 extern KTQTBASE_EXPORT CRnUiPathname g_CurrentDirPrefix;
 
-// Makes the executable's folder, as GetCurrentDirectoryW tells it, the prefix of relative names,
-// with a closing separator.
-// Result: whether there is such a folder; the prefix is unparsed where there is none.
+// Makes g_CurrentDirPrefix the executable's folder, as GetCurrentDirectoryW gives it, with a
+// closing separator.
+// Result: whether there is such a folder; if not, g_CurrentDirPrefix is unparsed.
 // On Windows: the working directory.
 KTQTBASE_EXPORT bool ktuiSetCurrentDirPrefix();
 
 // ---- The parts of Status -----------------------------------------------------------------------
 
-// Parses a name again without its closing separator, through its virtual Parse, and asks for its
-// attributes.
-//   path    in/out: the name
-//   work    in: where the name's own work string lies
+// Parses a path object's name again without its closing separator, through its virtual Parse, and
+// asks for the attributes.
+//   path    in/out: the path object
+//   work    in: where the pointer to its work string lies
 // Result: 0 nothing of that name; 3 attribute bit 0 set; else 7.
 KTQTBASE_EXPORT int ProcessPathStatus(CRnUiPathname& path, CStdStr<wchar_t>** work);
 
-// Parses a folder again, through its virtual Parse, takes its closing separator off, and adds 8 to
-// a status where its attribute bit 0 is clear.
-//   parent    in/out: the folder
-//   work      in: where the folder's own work string lies
+// Parses a folder's name again, through its virtual Parse, removes its closing separator, and adds
+// 8 to a status if attribute bit 0 is clear.
+//   parent    in/out: the folder's path object
+//   work      in: where the pointer to its work string lies
 //   status    in/out: the status
 KTQTBASE_EXPORT void ProcessParentStatus(CRnUiPathname& parent, CStdStr<wchar_t>** work,
                                          int& status);

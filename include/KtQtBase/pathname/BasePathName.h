@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 //
-// CRbUiPathname: a parsed name, its components, its edits, and what is asked of the file system.
+// CRbUiPathname, the path object: a parsed name, its components, its edits, and what is asked of
+// the file system.
 #ifndef KTQTBASE_PATHNAME_BASEPATHNAME_H
 #define KTQTBASE_PATHNAME_BASEPATHNAME_H
 
@@ -11,15 +12,20 @@
 
 #include <cstdio>
 
-// A parsed name. It owns its two strings and never its volume. The order of the virtual functions
-// and of the fields is part of the interface; the destructor is not virtual.
+// A path object. It owns its two strings, the work string (m_pWork) and the prefix (m_pRelPath),
+// and never its volume. The order of the virtual functions and of the fields is part of the
+// interface; the destructor is not virtual.
+//
+// The comments use these words: the name given is the text that a parse gets; the last component is
+// what follows the last separator of a name, or the last colon if there is no separator; a pattern
+// is a name whose last component holds a wildcard, * or ?.
 //
 // Results of type int: 0 done, 1 bad name or argument, 2 nothing parsed, 3 refused at the root, 4
 // cannot be done.
 class KTQTBASE_EXPORT CRbUiPathname
 {
 public:
-    // An unparsed name. m_category stays unset until a parse.
+    // An unparsed path object. m_category stays unset until a parse.
     CRbUiPathname();
 
     // Frees the two strings.
@@ -30,24 +36,24 @@ public:
     CRbUiPathname& operator=(const CRbUiPathname&) = delete;
 
     // Parses a name; a relative one is taken as lying in the executable's folder.
-    //   name    in: the name; it may point into this object's own strings
+    //   name    in: the name given; it may point into this object's own strings
     //   flag    not used
     // Result: 0 done; 1 bad name, or null; 4 the executable's folder could not be parsed, and the
-    // object is as it was.
+    // object stays as it was.
     // On Windows: relative names lie in the working directory.
     virtual int Parse(const wchar_t* name, bool flag);
 
     // Makes this object a copy of another, with strings of its own.
-    //   other    in: the name to copy; the object's own strings go first, so that a copy from
-    //            itself leaves it unparsed
+    //   other    in: the path object to copy. The own strings are deleted first, so that a copy
+    //            from the object itself leaves it unparsed.
     virtual void AssignCopy(const CRbUiPathname& other);
 
     // Parses a name; a relative one is taken as lying in a base.
-    //   name    in: the name; it may point into this object's own strings
-    //   base    in: a parsed name for relative names; may be null for others
+    //   name    in: the name given; it may point into this object's own strings
+    //   base    in: a parsed path object for relative names; may be null for others
     //   flag    not used
-    // Result: 0 done; 1 bad name, and the object is unparsed (null leaves it as it was).
-    //   The rows have a base /home/u/ and a volume C: that leaves case alone.
+    // Result: 0 done; 1 bad name, and the object is unparsed (a null name leaves it as it was).
+    //   The rows have a base /home/u/ and a volume C: that does not change case.
     //   L" \"/tmp/a b.txt\" "  => rooted,   /tmp/a b.txt, prefix empty
     //   L"c:\\dir\\f.abc"      => drive,    C:/dir/f.abc, no prefix
     //   L"docs\\f.txt"         => relative, docs/f.txt,   prefix /home/u/
@@ -61,52 +67,52 @@ public:
     // Back to the unparsed state. m_separator, m_category and m_bQualified stay.
     void Empty();
 
-    // Ends the work string with the separator, where it does not end with one or with a colon.
+    // Appends a separator to the work string, unless it ends with one or with a colon, or is empty.
     // Result: 0 done or nothing to do; 2 nothing parsed. m_type stays.
     //   /tmp => /tmp/     C: => C:     /tmp/ => /tmp/
     int AppendSlash();
 
-    // Takes one pair of enclosing double quotes off a text, with what blanks stand outside them.
+    // Removes one pair of enclosing double quotes from a text, and the white space outside them.
     //   s    in/out: the text; without such a pair it stays exactly as it is
     //   L" \"a b\" " => L"a b"     L"\"\"\"a\"\"" => L"\"\"a\""     L" a " => L" a "
     static void Unquote(CStdStr<wchar_t>& s);
 
-    // Takes white space off both ends of a text.
+    // Removes white space from both ends of a text.
     void StripSpaces(CStdStr<wchar_t>& s);
 
-    // Looks a volume up in volumeList by its local name, exactly.
+    // Looks a volume up in volumeList by its exact local name.
     //   name    in: such as L"C:"; an empty one finds nothing
-    // Result: the first volume of that name; null where there is none. Not owned.
+    // Result: the first volume of that name, or null. Not owned.
     const CRbUiVolumeDescriptor* FindVolumeDescriptor(const CStdStr<wchar_t>& name) const;
 
     // Inert: returns null; no descriptor is made and none is added to volumeList.
     // On Windows: a descriptor for the volume.
     const CRbUiVolumeDescriptor* NewVolDescriptor(const CStdStr<wchar_t>& volumeName) const;
 
-    // Works out what a name denotes. The parse hands in this object's own fields.
-    //   work       in: the name
+    // Finds out what a work string denotes. The parse hands in this object's own fields.
+    //   work       in: the work string
     //   relPath    in: its prefix, or null
-    //   type       out: set to PT_NOT_FOUND first, then to what the name denotes. A wildcard is
-    //              looked for in this object's own last component, so that it is found only where
-    //              the object is parsed by then, as it is when type points to its m_type.
-    // Kept: a name is a folder exactly where its group may write (bit 0x10 of its mode), whatever
-    // it is; hosts tell the two apart by that bit.
+    //   type       out: set to PT_NOT_FOUND first, then to what the work string denotes.
+    //              PT_WILDCARD is decided by this object's own work string, and only if the object
+    //              is parsed by then, which it is when type points to its m_type.
+    // Kept: PT_DIRECTORY means that the group may write (bit 0x10 of the mode), also for a file; a
+    // folder whose group may not write is a PT_FILE. Part of the interface.
     void GetAttributes(const CStdStr<wchar_t>* work, const CStdStr<wchar_t>* relPath,
                        path_type* type);
 
-    // The last component of the name: what follows the last separator, else the last colon.
-    //   out    out: the component; untouched where nothing is parsed
+    // The last component.
+    //   out    out: the component; untouched if nothing is parsed
     //   /tmp/dir => dir     /tmp/dir/ => (empty)     C:file.txt => file.txt     name => name
     void GetBasename(CStdStr<wchar_t>& out) const;
 
     // The last component without its extension.
     //   out    out: what stands before its last dot, or all of it; untouched for an empty
-    //          component, a wildcard, and where nothing is parsed
+    //          component, for a pattern, and if nothing is parsed
     //   archive.tar.gz => archive.tar     .profile => (empty)     *.txt => untouched
     void GetFilename(CStdStr<wchar_t>& out) const;
 
     // The extension of the last component, without its dot.
-    //   out    out: what follows its last dot; untouched where there is no dot
+    //   out    out: what follows its last dot; untouched without a dot
     //   archive.tar.gz => gz     name. => (empty)     name => untouched     *.txt => txt
     void GetExtension(CStdStr<wchar_t>& out) const;
 
@@ -115,17 +121,17 @@ public:
 
     // The prefix and the work string, joined by one separator. The prefix of a rooted name is not
     // used.
-    //   out    out: the full path; untouched where nothing is parsed
+    //   out    out: the full path; untouched if nothing is parsed
     // Result: whether a name is parsed.
     //   f.txt with prefix /home/u => /home/u/f.txt     C:/f.txt => C:/f.txt
     bool GetFullPath(CStdStr<wchar_t>& out) const;
 
     // The same into a buffer.
-    //   out    out: the full path and its terminator, an empty string where nothing is parsed. The
-    //          caller provides room enough; null gives false.
+    //   out    out: the full path and its terminator, or an empty string if nothing is parsed. The
+    //          caller provides enough room; null gives false.
     bool GetFullPath(wchar_t* out) const;
 
-    // The work string, or null where there is none. For a relative name it lacks the prefix. Valid
+    // The work string, or null if there is none. For a relative name it lacks the prefix. Valid
     // until the object is changed.
     const wchar_t* GetPathString() const;
 
@@ -138,11 +144,11 @@ public:
 
     // ---- Editing ----
     //
-    // The edits change the work string only; prefix, volume and category stay. Where an edit cuts
-    // or appends, m_type becomes PT_NOT_FOUND, since the new name was not looked up; a result of 0
-    // with nothing to do leaves m_type alone. Common results: 0 done or nothing to do; 2 nothing
-    // parsed; 3 the cut would reach into the root; 4 no separator where one is needed, or a
-    // category without a name. Nothing but 0 changes anything.
+    // The edits change the work string only; prefix, volume and category stay. If an edit cuts or
+    // appends, m_type becomes PT_NOT_FOUND, since the new work string was not looked up; a result
+    // of 0 with nothing to do leaves m_type alone. Common results: 0 done or nothing to do; 2
+    // nothing parsed; 3 the cut would reach into the root; 4 no separator where one is needed, or a
+    // category that is none of the four. Results other than 0 change nothing.
     //
     //                         TrimSlash        Trim             TrimComponent
     //   /tmp/dir/ rooted      /tmp/dir         (stays)          /tmp/dir
@@ -156,35 +162,36 @@ public:
     //   a/b       relative    (stays)          a/               a
     // TrimComponent of a root gives the root again, with m_type PT_NOT_FOUND.
 
-    // Takes one closing separator off, unless it is the root's.
+    // Removes one closing separator, unless it is the root's.
     int TrimSlash();
 
-    // Takes the last component off and keeps the separator before it.
+    // Removes the last component and keeps the separator before it.
     int Trim();
 
-    // Takes the last component off, and the separator before it.
+    // Removes the last component and the separator before it.
     int TrimComponent();
 
     // Appends a text as it is.
     //   text    in: the text; it may point into this object's own strings. Null appends nothing,
-    //           and m_type becomes PT_NOT_FOUND all the same.
+    //           but m_type becomes PT_NOT_FOUND.
     int Append(const wchar_t* text);
 
-    // Appends a separator where the work string does not end with one, then a text.
-    //   text    in: as for Append; one that begins with a separator doubles it
+    // Appends a separator, unless the work string ends with one, then a text.
+    //   text    in: as for Append; a separator at its start is appended, too
     //   /tmp, x => /tmp/x     /tmp/, x => /tmp/x     (empty), x => /x     /tmp, /x => /tmp//x
     int AppendComponent(const wchar_t* text);
 
-    // Makes another object the folder that holds this name.
-    //   parent    out: the folder, through its virtual AssignCopy; untouched where nothing is
-    //             parsed. It may be this object.
+    // Makes another path object the folder of this one.
+    //   parent    out: the folder, through its virtual AssignCopy; untouched if nothing is parsed.
+    //             It may be this object.
     //   /tmp/dir => /tmp/, a directory     /tmp/dir/ => /tmp/, not found     / => /, a directory
     //   C:/ => C:/, a directory            C:file.txt => C:                  a/b => a/
     //   f.txt with prefix /home/u/ => /home/u/, rooted, without prefix; without prefix => unparsed
-    // A relative name whose prefix is an empty string raises std::out_of_range, and parent then
-    // holds that empty string. A rooted name gets there when Rename gives it a bare name.
-    // Kept: the closing separator of a name costs its parent the type directory, since it is cut
-    // by TrimSlash; hosts ask Exists where they need to know.
+    // A bare name (without separator or colon) whose prefix is an empty string raises
+    // std::out_of_range, and parent then holds that empty string. A rooted name becomes such a one
+    // when Rename gives it a bare name.
+    // Kept: with a closing separator the parent's type is PT_NOT_FOUND, since TrimSlash cuts the
+    // separator off. Part of the interface; Exists looks the type up.
     void GetParent(CRbUiPathname& parent) const;
 
     // ---- Extensions ----
@@ -192,12 +199,12 @@ public:
     // A list holds extensions without dots, separated by semicolons; its items are compared whole,
     // and null counts as an empty list. An empty item matches nothing but an empty extension.
     // Results: 0 done; 1 a null extension; 2 nothing parsed. An extension may point into this
-    // object's own strings. A dot in a folder's name is none of an extension's. What is carried out
-    // sets m_type to PT_NOT_FOUND, also where the name stays the same; an IfNoMatch that matches
-    // changes nothing.
+    // object's own strings. A dot in a folder's name begins no extension. A function that does its
+    // work sets m_type to PT_NOT_FOUND, even if the work string stays the same; an IfNoMatch that
+    // matches changes nothing.
 
-    // Whether the name's extension is in a list, letters A to Z in any case; with both the list and
-    // the extension empty it is, with one of them empty it is not.
+    // Whether the extension is in a list, letters A to Z in any case. True if both the list and the
+    // extension are empty, false if only one of them is.
     //   /d/a.ABC, L"abc;xyz" => true     /d/a.abc, L"*.abc" => false     /d/a, L"" => true
     bool VerifyExtension(const wchar_t* list) const;
 
@@ -209,17 +216,18 @@ public:
     //   /d/a.txt, L"abc" => /d/a.abc     /d/a, L".abc" => /d/a.abc     /d/a.txt, L"" => /d/a
     int ReplaceExtensionAlways(const wchar_t* ext);
 
-    // Replaces the extension by a list's first item unless it is in the list.
+    // Replaces the extension by a list's first item, unless it is in the list.
     //   /d/a.txt, L"abc;xyz" => /d/a.abc     /d/a.txt, L"" => /d/a
     int ReplaceExtensionIfNoMatch(const wchar_t* list);
 
-    // Adds an extension behind whatever there is. Looks at ext before it asks whether a name is
+    // Adds an extension after the one there is. Looks at ext before it asks whether a name is
     // parsed.
     //   /d/a.txt, L"abc" => /d/a.txt.abc     /d/a, L".abc" => /d/a..abc     /d/a, L"" => /d/a
-    // Kept: a dot in ext is not looked at, as ReplaceExtensionAlways does; hosts pass none.
+    // Kept: a dot at the start of ext is doubled, unlike in ReplaceExtensionAlways. Part of the
+    // interface.
     int AddExtensionAlways(const wchar_t* ext);
 
-    // Adds a list's first item unless the extension is in the list.
+    // Adds a list's first item, unless the extension is in the list.
     //   /d/a.txt, L"abc;xyz" => /d/a.txt.abc     /d/a.ABC, L"abc" => /d/a.ABC
     int AddExtensionIfNoMatch(const wchar_t* list);
 
@@ -230,44 +238,45 @@ public:
 
     // ---- Display, case and matching ----
 
-    // Trims white space around the last component's stem; its extension keeps its blanks. m_type
-    // stays, and "." and ".." too.
+    // Removes white space from both ends of the last component's stem; the extension keeps its own.
+    // m_type stays, and so do "." and "..".
     //   L"dir/  name  .txt" => L"dir/name.txt"     L"dir/ name. txt" => L"dir/name. txt"
     void RemoveSpaces();
 
-    // Whether the name exists now. Works m_type out again, unless it is a wildcard or unparsed:
-    // these give false without a look at the file system. A host's type 5 gives true without one. A
-    // wildcard that an edit has made counts as not found until now: it becomes one, and gives true.
+    // Whether the name exists now. Sets m_type anew. Three types are not looked up: PT_WILDCARD and
+    // PT_NONE give false, and a type 5 that a host has set gives true. A pattern that an edit has
+    // made still has PT_NOT_FOUND: it becomes PT_WILDCARD, and the result is true.
     bool Exists();
 
     // A form of the work string for people, cut in the middle to a width.
-    //   out      out: the form; empty where nothing is parsed
+    //   out      out: the form; empty if nothing is parsed
     //   width    in: characters at most, below 12 counts as 12; -1 for the whole work string
     //   aa/bb/cc/dd/file, 12                => .../dd/file
     //   C:/aa/bb/cc/dd/file, 14, volume C:  => C:\.../dd/file; with 12 C:\.../file
-    //   a base name of 30 with .txt, 12     => its first 7 characters, ~.txt
-    //   a base name of 30 with ten of extension, 12  => its first 10 characters, ~
-    //   /abc/12345678, 12                   => ..., since four places count beside the tail
-    // A drive without a volume counts a volume name of length 0. Where no component fits behind
-    // the dots, nothing follows them.
-    // Kept: the backslash before the dots, whatever the separator; hosts show it as Windows does.
+    //   a component of 30 with .txt, 12     => its first 7 characters, ~.txt
+    //   a component of 30 with an extension of ten, 12  => its first 10 characters, ~
+    //   /abc/12345678, 12                   => ..., since four more characters must fit
+    // A drive without a volume counts as a volume name of length 0. If no component fits after the
+    // dots, nothing follows them.
+    // Kept: a backslash stands before the dots, whatever the separator. Part of the interface.
     void GetDisplayName(CStdStr<wchar_t>& out, int width) const;
 
-    // Copies exactly n characters, terminators among them, and a terminator behind them.
+    // Copies exactly n characters, terminators among them, and adds a terminator.
     //   dst    out: room for n + 1 characters
     //   src    in: at least n characters
     //   n      in: how many; a negative number copies and writes nothing
     void lstrncpy_x(wchar_t* dst, const wchar_t* src, int n) const;
 
-    // Folds the last component by the global std::locale. m_type stays.
+    // Puts the last component in lower case, or in upper case, by the global std::locale. m_type
+    // stays.
     void BaseToLower();
     void BaseToUpper();
 
-    // Whether two names denote the same path: by their full paths, in any case of the letters A to
-    // Z, and whether a closing separator is there or not. The object form also needs the same
-    // volume. False for null and for an unparsed name; an object matches itself.
+    // Whether two full paths are equal. Neither the case of the letters A to Z nor a closing
+    // separator counts. The path object form also needs the same volume. False for null and for an
+    // unparsed object; an object matches itself.
     //   c:/Dir/ and C:/dir => true
-    // Kept: case never counts, even on a case-sensitive volume; hosts use it for lists of files.
+    // Kept: case never counts, even on a case-sensitive volume. Part of the interface.
     bool PathMatch(const CRbUiPathname* other) const;
     bool PathMatch(const wchar_t* other) const;
 
@@ -278,42 +287,43 @@ public:
     // ---- Files ----
 
     // Makes a name in the same folder that does not exist.
-    //   result    out: this name, where it is free and force is false, or is a wildcard; else the
-    //             stem (or ktTmp), five digits of rand(), and the extension. Filled through its
-    //             virtual AssignCopy; it may be this object.
+    //   result    out: a copy of this object, if force is false and the name is free or a pattern;
+    //             else the stem (or ktTmp), five digits of rand(), and the extension. Filled
+    //             through its virtual AssignCopy; it may be this object.
     //   force     in: whether to make a new name in any case
-    // Result: false where nothing is parsed (result untouched) or the folder's name leaves no room
-    // (result emptied); else true. After 200 taken names result is empty, and the result is true;
-    // a host's type 5, which is never looked at, ends so too.
+    // Result: false if nothing is parsed (result untouched) or the folder's name leaves no room
+    // (result unparsed); else true. After 200 names that exist, result is unparsed and the function
+    // still returns true. The same happens to a type 5 that a host has set: it is never looked up.
     // An exception leaves result unparsed.
     //   existing report.txt => report01234.txt     existing data => dat012340
-    // Kept: without an extension the digits stand one place early; hosts parse such names back.
+    // Kept: without an extension the digits stand one character early. Part of the interface.
     bool GetUniqueName(CRbUiPathname& result, bool force) const;
 
-    // Opens the file, as CreateFile does, which opens nothing here.
-    //   handle    out: null, or -1 where nothing is parsed
-    // Result: whether handle is not -1. Kept: a parsed name always opens with a null handle.
+    // Opens the file with CreateFile, which opens nothing here.
+    //   handle    out: null, or -1 if nothing is parsed
+    // Result: whether handle is not -1.
+    // Kept: true for every parsed name, with a null handle. Part of the interface.
     bool OpenReadOnly(void*& handle);
     bool OpenWriteOnly(void*& handle);
 
-    // Must not be called: rethrows the exception in flight, and without one ends the process.
+    // Must not be called: rethrows the exception that is being handled; without one it ends the
+    // process.
     [[noreturn]] void Open(FILE** file, const wchar_t* mode);
 
     // Renames the file. The work string is taken as relative to the process's working directory,
-    // and becomes the new name as it is given; m_type and the prefix stay.
-    //   newName    in: converted by LC_CTYPE; null is handed to the OS-base library, and an empty
-    //              work string follows where that succeeds
+    // and becomes newName exactly as passed; m_type and the prefix stay.
+    //   newName    in: converted by LC_CTYPE; null is handed to the OS-base library, and if that
+    //              succeeds, the work string becomes empty
     // Result: whether it was renamed. On failure nothing changes.
-    // Kept: the prefix is not used, since SetCurrentDirectoryW does nothing; hosts rename absolute
-    // names.
-    // On Windows: the name is relative to its prefix.
+    // Kept: the prefix is not used, since SetCurrentDirectoryW does nothing. Part of the interface.
+    // On Windows: the work string is relative to the prefix.
     bool Rename(const wchar_t* newName);
 
     // Inert: returns 0; nothing is removed.
     // On Windows: the file is deleted.
     int Remove();
 
-    // Ends a volume's name with the separator.
+    // Appends a separator to a volume's name, unless it ends with one.
     //   fsName    in/out: the name
     // Result: 1 for an empty name, else 0.
     // On Windows: fsName becomes the name of the file system.
@@ -322,13 +332,13 @@ public:
     // ---- Fields ----
 
     path_type m_type;                       // PT_NONE until a parse succeeds
-    const CRbUiVolumeDescriptor* m_pVolume; // not owned; null where it is not known
-    CStdStr<wchar_t>* m_pWork;              // owned: the normalised name, with its drive
-    CStdStr<wchar_t>* m_pRelPath; // owned: the prefix; empty for a rooted, null for a drive
+    const CRbUiVolumeDescriptor* m_pVolume; // not owned; null if it is not known
+    CStdStr<wchar_t>* m_pWork;              // owned: the work string, with its drive
+    CStdStr<wchar_t>* m_pRelPath; // owned: the prefix; empty for a rooted name, null for a drive
     path_category m_category;     // set by a parse
     wchar_t m_separator;          // slash
-    // Set by a parse of a name with a separator or a colon. Kept: no later parse clears it; hosts
-    // ask whether a qualified name was ever given.
+    // Set by a parse of a name with a separator or a colon.
+    // Kept: no later parse clears it. Part of the interface.
     bool m_bQualified;
 };
 

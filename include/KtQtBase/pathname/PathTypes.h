@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: MIT
 //
-// How a path name was classified, and what it denotes.
+// How a name was classified, and what it denotes.
 #ifndef KTQTBASE_PATHNAME_PATHTYPES_H
 #define KTQTBASE_PATHNAME_PATHTYPES_H
 
@@ -18,7 +18,7 @@ enum path_type : int
 {
     PT_NONE = 0,      // nothing parsed
     PT_NOT_FOUND = 1, // no file or folder of that name
-    PT_WILDCARD = 2,  // the last component holds an asterisk or a question mark
+    PT_WILDCARD = 2,  // a pattern: the last component holds a wildcard, * or ?
     PT_FILE = 3,      // exists, and bit 0x10 of GetFileAttributes is clear
     PT_DIRECTORY = 4  // exists, and bit 0x10 of GetFileAttributes is set
 };
