@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: MIT
 //
-// KTQTBASE_EXPORT marks what the shared library shows to its hosts; all else stays hidden.
+// KTQTBASE_EXPORT marks what the shared library exports to hosts; everything else is hidden.
 #ifndef KTQTBASE_EXPORT_H
 #define KTQTBASE_EXPORT_H
 

@@ -32,7 +32,7 @@
 #include <cstdint>
 
 // What the dialog hands to its QFileDialog.
-// Kept: the name is spelt as hosts write it.
+// Kept: the spelling of the name is part of the interface.
 class KTQTBASE_EXPORT KtQFileDialgAttri
 {
 public:
@@ -63,7 +63,7 @@ public:
     //   pParentWnd         in: the parent window, or null; stays the caller's
     //   dwSize             not used
     //   bVistaStyle        not used
-    // Null texts are empty. Nothing of this reaches the block. The object must die before the
+    // Null texts are empty. None of the arguments reaches the block. The object must die before the
     // QApplication does, and a parent must live through every DoModal.
     // On Windows: the arguments fill the block, and the flags decide whether several files may be
     // selected.
@@ -79,50 +79,51 @@ public:
     KtQtFileDialog(const KtQtFileDialog&) = delete;
     KtQtFileDialog& operator=(const KtQtFileDialog&) = delete;
 
-    // The block that says what the dialog shows; fill it before DoModal. These members count:
+    // The block that says what the dialog shows; fill it before DoModal. These members are used:
     //   lpstrTitle         in: the window's title
     //   lpstrInitialDir    in: the folder shown, with slashes or backslashes; an empty one shows
     //                      the top of the file system
     //   lpstrFilter        in: the filters, in Qt's form up to the first NUL
-    //   nFilterIndex       in: the number of the filter that is active, from 1; a number outside
-    //                      the list chooses none. out, after an accepted run with a selection: that
-    //                      of the filter in force at the end, 0 where none is equal to it
-    //   lpstrFile          in: the file that is selected, with slashes; only its name counts, also
-    //                      where lpstrInitialDir is empty: it is then one of the top folder
+    //   nFilterIndex       in: the number of the active filter, from 1; a number outside the list
+    //                      chooses none. out, after an accepted run with a selection: the number of
+    //                      the filter that was active at the end, 0 if none is equal to it
+    //   lpstrFile          in: the file that is selected, with slashes. Only its last component is
+    //                      used; if lpstrInitialDir is empty, it is a file of the top folder
     // Null texts are empty. The texts stay the caller's and are read by DoModal.
     // On Windows: the path chosen is written to lpstrFile; here it is only read. Without
     // lpstrInitialDir the folder of lpstrFile or the current one is shown.
     OPENFILENAMEW& GetOFN();
 
-    // Shows the dialog and waits until the user is done with it.
-    // Result: IDOK (1) when the user accepted; IDCANCEL (2) for any other end, also where the
-    // parent died meanwhile or the program has no QApplication. Then the former selection stays.
-    // Kept: other windows take input meanwhile, as hosts with tool windows expect.
-    // On Windows: the parent is disabled, and messages ask before a file is replaced as flags say.
+    // Shows the dialog and waits until the user closes it.
+    // Result: IDOK (1) if the user accepted; IDCANCEL (2) for any other end, also if the parent
+    // died meanwhile or the program has no QApplication. Then the former selection stays.
+    // Kept: other windows take input meanwhile. Part of the interface.
+    // On Windows: the parent is disabled, and if the flags say so, the user is asked before a file
+    // is replaced.
     int DoModal();
 
-    // Takes path name, file name, extension and the block's nFilterIndex from the selected files
-    // and filter: those of the first file, and the number of the first filter that is equal to the
-    // one in force, 0 without one. Changes nothing when no file is selected. DoModal calls it.
+    // Sets path name, file name and extension from the first selected file, and the block's
+    // nFilterIndex from the active filter: the number of the first filter that is equal to it, 0
+    // without one. Changes nothing if no file is selected. DoModal calls it.
     //   /tmp/a.b.txt  => L"/tmp/a.b.txt", L"a.b.txt", L"txt"
     //   /tmp/noext    => L"/tmp/noext", L"noext", L""
-    // Kept: the name is spelt as hosts write it.
+    // Kept: the spelling of the name is part of the interface.
     void PraseFileInfo();
 
-    // The full path of the first selected file, the part after its last slash, and what follows the
-    // last dot of that. Empty until a file was selected.
+    // The full path of the first selected file, its part after the last slash, and the part of that
+    // after the last dot. Empty until a file was selected.
     CStdStr<wchar_t> GetPathName() const;
     CStdStr<wchar_t> GetFileName() const;
     CStdStr<wchar_t> GetFileExt() const;
 
     // Where a walk over the selected files begins.
-    // Result: a position for GetNextPathName; null when nothing was selected.
+    // Result: a position for GetNextPathName; null if nothing was selected.
     POSITION GetStartPosition() const;
 
     // The next selected file, in the dialog's order.
     //   pos    in/out: the position, moved to the next file; null after the last one
-    // Result: the file's full path. Empty, and pos as it was, where pos is null or nothing was
-    // selected; a position from a longer selection gives empty names until it meets this one.
+    // Result: the file's full path. If pos is null or nothing was selected: empty, and pos stays. A
+    // position from a longer selection gives empty names until it reaches this one.
     // On Windows: a null pos is an error.
     CStdStr<wchar_t> GetNextPathName(POSITION& pos) const;
 

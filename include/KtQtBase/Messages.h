@@ -14,11 +14,11 @@
 //     if (AfxMessageBox(L"Save the changes?") == IDYES)
 //         SendMessage(window, WM_USER + 2, 0, reinterpret_cast<LPARAM>(&answer));
 //
-// Cursor, focus and keys, which a Windows program asks for beside its messages, stand in
+// Cursor, focus and keys, which a Windows program uses along with its messages, are in
 // windows/UserStubs.h, which this header includes.
 //
-// A window handle is what QWidget::winId() gives. All of this belongs to the GUI thread, but for
-// what PostMessage says.
+// A window handle is what QWidget::winId() gives. All functions belong to the GUI thread, except as
+// PostMessage says.
 #ifndef KTQTBASE_MESSAGES_H
 #define KTQTBASE_MESSAGES_H
 
@@ -39,17 +39,17 @@ public:
     //   message    in: its number
     //   wParam     in: its first parameter
     //   lParam     in: its second parameter; what it may point to stays the caller's
-    // The event's type is that of eventType().
+    // The event's type is eventType().
     QKtMsgEvent(UINT message, WPARAM wParam, LPARAM lParam);
     ~QKtMsgEvent() override;
 
     // The Qt event type of every message.
     // Result: a user type that Qt chose; the same for the life of the process.
-    // The first call of this, of the constructor, of SendMessage or of PostMessage registers it.
-    // That is not locked: make it on the GUI thread.
+    // The first call of this function, the constructor, SendMessage or PostMessage registers it,
+    // without a lock: make that call on the GUI thread.
     static int eventType();
 
-    // The three values, as the constructor got them.
+    // The three values that the constructor got.
     UINT message() const;
     WPARAM wParam() const;
     LPARAM lParam() const;
@@ -68,26 +68,26 @@ class KTQTBASE_EXPORT QKtMessageCenter
 public:
     QKtMessageCenter() = delete;
 
-    // Delivers a message and waits until the receiver is done with it.
+    // Delivers a message and waits until the receiver has handled it.
     //   hWnd      in: the receiver's handle
     //   msg       in: the message's number
     //   wParam    in: its first parameter
     //   lParam    in: its second parameter
-    // Result: 0, always. A handle that names no widget of this process, or no application object:
-    // nothing is delivered.
+    // Result: always 0. Nothing is delivered if the handle names no widget of this process, or
+    // without an application object.
     // On Windows: the result is the receiver's answer; here it answers through memory that a
     // parameter points to.
     static LRESULT sendMessage(HWND hWnd, UINT msg, WPARAM wParam, LPARAM lParam);
 
-    // Queues a message, which the receiver gets from the event loop at normal priority.
+    // Queues a message. The receiver gets it from the event loop, at normal priority.
     //   hWnd      in: the receiver's handle
     //   msg       in: the message's number
     //   wParam    in: its first parameter
     //   lParam    in: its second parameter; what it may point to must live until the delivery
-    // Result: true, always. A handle that names no widget of this process: nothing is queued. A
-    // widget that dies first takes its messages with it.
-    // May be called from any thread once the event type is registered, as long as no widget gets or
-    // loses its handle meanwhile.
+    // Result: always true. Nothing is queued if the handle names no widget of this process. If the
+    // widget dies first, its messages are deleted.
+    // May be called from any thread after the event type was registered, as long as no widget gets
+    // or loses its handle meanwhile.
     // On Windows: false for a handle that names no window.
     static bool postMessage(HWND hWnd, UINT msg, WPARAM wParam, LPARAM lParam);
 };
@@ -98,16 +98,16 @@ KTQTBASE_EXPORT bool PostMessage(HWND hWnd, UINT Msg, WPARAM wParam, LPARAM lPar
 
 // ---- Message boxes -----------------------------------------------------------------------------
 
-// Shows a text with the icon of a critical error and the buttons Yes, the default, and No. Blocks
-// until the user is done with it.
+// Shows a text with the icon of a critical error and the buttons Yes (the default) and No. Waits
+// until the user closes the box.
 //   lpszText    in: the text, UTF-32, zero-terminated; null is the empty text
 //   nType       not used: every box is the same
 //   nIDHelp     not used
 // Result by the button that closed the box: Ok IDOK, Cancel IDCANCEL, Retry IDRETRY, Ignore
 // IDIGNORE, Yes IDYES, No IDNO, any other or none IDABORT. Escape and the window's close button
 // count as No. A box that is ended by done(-1) counts as cancelled, one ended by done(0) gives
-// IDABORT, and so does a program without a QApplication, where no box appears.
-// Kept: nType changes nothing; hosts that pass MB_OK expect the answers IDYES and IDNO.
+// IDABORT. Without a QApplication no box appears, and the result is IDABORT.
+// Kept: nType changes nothing; a host that passes MB_OK would see IDOK instead of IDYES or IDNO.
 // On Windows: nType chooses the buttons and the icon, the title is the application's name.
 KTQTBASE_EXPORT int AfxMessageBox(const wchar_t* lpszText, unsigned int nType = 0,
                                   unsigned int nIDHelp = 0);
@@ -121,8 +121,8 @@ KTQTBASE_EXPORT int AfxMessageBox(unsigned int nIDPrompt, unsigned int nType = 0
 
 // ---- The resource module -----------------------------------------------------------------------
 
-// The module that CStdStr<wchar_t>::LoadString and AfxMessageBox read strings from, as LoadLibrary
-// gave it; null until it is set. The library never frees it.
+// The module that CStdStr<wchar_t>::LoadString and AfxMessageBox read strings from: a handle from
+// LoadLibrary, null until it is set. The library never frees it.
 extern KTQTBASE_EXPORT HINSTANCE m_hCurrentResourceHandle;
 
 // Returns m_hCurrentResourceHandle.

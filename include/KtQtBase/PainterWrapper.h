@@ -14,9 +14,8 @@
 // KtQtPainterWrapper is the device context, KtQtPrinterPainter the one for a document of pages, and
 // KtGrQtDoubleBufferImage a pair of images from which a widget paints itself.
 //
-// Everything here belongs to the GUI thread. A host that never deletes a wrapper's QPainter, as the
-// wrapper itself never does, shows it as a leak to a leak checker: suppress the constructor by
-// name.
+// Everything here belongs to the GUI thread. A wrapper never deletes its QPainter. If the host does
+// not do so either, a leak checker reports it: suppress the constructor by name.
 #ifndef KTQTBASE_PAINTERWRAPPER_H
 #define KTQTBASE_PAINTERWRAPPER_H
 

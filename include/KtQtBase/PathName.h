@@ -9,13 +9,13 @@
 //         name.GetExtension(extension);   // txt
 //     }
 //
-// A parse takes quotes and surrounding blanks off, turns backslashes into slashes, tells drive,
+// A parse removes enclosing quotes and white space, turns backslashes into slashes, tells drive,
 // rooted and relative names apart, looks the drive up in volumeList, and asks the file system what
-// the name denotes. The drive stays in the name: how C: maps to a place in the file system is not
-// decided here. Names of the form \\server\share are refused.
+// the name denotes. The drive stays in the name: the library maps C: to no folder. Names of the
+// form \\server\share are refused.
 //
-// Only Rename changes the file system. Look-ups follow symbolic links, and a link whose target is
-// missing counts as not found. "." and ".." are never taken out of a name.
+// Only Rename changes the file system. Look-ups follow symbolic links; a link whose target is
+// missing counts as not found. "." and ".." are never removed from a name.
 #ifndef KTQTBASE_PATHNAME_H
 #define KTQTBASE_PATHNAME_H
 

@@ -12,8 +12,8 @@
 //
 // There is no registry: a key's path is a group, a value's name a key in it, and every value a
 // string of QSettings(QSettings::NativeFormat, QSettings::UserScope, "tarnex", "Marrowfield").
-// Hives, access rights, value types and security attributes are taken and ignored. Paths and names
-// reach QSettings unchanged: a slash parts groups, a backslash is a character like others.
+// Hives, access rights, value types and security attributes are ignored. Paths and names reach
+// QSettings unchanged: a slash separates groups, a backslash is an ordinary character.
 //
 // One object belongs to one thread at a time. Different objects see each other's values.
 #ifndef KTQTBASE_REGISTRYKEY_H
@@ -33,7 +33,7 @@ public:
     // A key without a path: no value may be set or queried before Create.
     CRegKey();
 
-    // Lets pending values reach the store.
+    // Writes values that are still pending to the store.
     ~CRegKey();
 
     CRegKey(const CRegKey&) = delete;
@@ -41,13 +41,15 @@ public:
 
     // Chooses the key that the object stands for. The store is not touched.
     //   hKeyParent       ignored: a path is the same key under every hive
-    //   lpszKeyName      in: the path. The pointer is kept, not a copy: the text must outlive the
-    //                    object's use. Null counts as the empty path, the store's top level.
+    //   lpszKeyName      in: the path. The object keeps the pointer, not a copy: the text must live
+    //                    as long as the object is used. Null counts as the empty path, the store's
+    //                    top level.
     //   lpszClass, dwOptions, samDesired, lpSecAttr    ignored
     //   lpdwDisposition    not written
     // Result: 0.
-    // Kept: the text is read at each use; hosts that rewrite it turn to another key.
-    // On Windows: the key is created or opened, and an error given where that fails.
+    // Kept: the text is read at each use; a host that changes it works with another key from then
+    // on.
+    // On Windows: the key is created or opened; if that fails, the result is an error.
     unsigned int Create(HKEY hKeyParent, const wchar_t* lpszKeyName, wchar_t* lpszClass = nullptr,
                         unsigned int dwOptions = 0, unsigned int samDesired = 0,
                         SECURITY_ATTRIBUTES* lpSecAttr = nullptr,
@@ -58,26 +60,27 @@ public:
     //   lpszValueName    in: the value's name; a null or empty one sets nothing
     //   bMulti           ignored
     //   nValueLen        ignored: the text ends at its first NUL
-    // Result: 0, also where the store cannot be written.
+    // Result: 0, even if the store cannot be written.
     // On Windows: null names the key's default value, and bMulti stores a list of texts.
     unsigned int SetValue(const wchar_t* lpszValue, const wchar_t* lpszValueName = nullptr,
                           bool bMulti = false, int nValueLen = -1);
 
     // Reads a value.
-    //   szValue          out: the text, UTF-32, without a terminator; the caller fills the area
-    //                    with zeros first. Null takes nothing.
+    //   szValue          out: the text, UTF-32, without a terminator; the caller fills the buffer
+    //                    with zeros first. Null writes nothing.
     //   lpszValueName    in: the value's name; a null or empty one names no value
     //   pnChars          in: the room, not updated; null is no room. It is compared with the text's
-    //                    UTF-16 length, in which characters beyond U+FFFF count twice.
-    // Result: 0; or 0xFFFFFFFF where the text is longer than the room, with nothing written. A
+    //                    UTF-16 length, in which characters above U+FFFF count twice.
+    // Result: 0; or 0xFFFFFFFF, with nothing written, if the text is longer than the room. A
     // missing value is the empty text.
     //   "7", room 10                  => L"7", 0
     //   "12345678901", room 10        => untouched, 0xFFFFFFFF
     //   no such value                 => untouched, 0
-    // Kept: after 0xFFFFFFFF the object's further calls work in the path inside itself, one level
-    // deeper at each such failure; hosts drop the object then, and stored settings depend on it.
+    // Kept: after 0xFFFFFFFF the object's next calls use the path inside the path itself, one level
+    // deeper after each such failure; values that were set so would not be found otherwise. Use a
+    // new object after a failure.
     // On Windows: the text is terminated, *pnChars becomes its length, a missing value and a small
-    // area have errors of their own, and nothing is nested.
+    // buffer have errors of their own, and nothing is nested.
     unsigned int QueryValue(wchar_t* szValue, const wchar_t* lpszValueName, unsigned int* pnChars);
 
     // Inert: returns 0; the object stays in use.

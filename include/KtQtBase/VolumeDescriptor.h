@@ -1,13 +1,13 @@
 // SPDX-License-Identifier: MIT
 //
-// Volumes: what the names on one volume look like, and the process-wide list of volumes in which
-// path names look up their drive.
+// Volumes: the naming rules of one volume, and the process-wide list of volumes in which path
+// objects look up their drive.
 //
 //     class DriveVolume : public CRbUiVolumeDescriptor { ... the two validations ... };
 //     volumeList.append(new DriveVolume(CStdStr<wchar_t>(L"C:")));
 //
 // A descriptor never asks the operating system about its volume: the file system's name is always
-// "nofilesystem", the free space a fixed large number, and every write fits.
+// "nofilesystem", the free space is a fixed large number, and every write fits.
 #ifndef KTQTBASE_VOLUMEDESCRIPTOR_H
 #define KTQTBASE_VOLUMEDESCRIPTOR_H
 
@@ -52,41 +52,40 @@ enum FS_TYPE : int
 // -1.
 //   FS_NOFS => "NOFS\n"   FS_NTFS => "NTFS\n"   FS_FAT  => "FAT\n"    FS_VFAT => "VFAT\n"
 //   FS_HPFS => "HPFS\n"   FS_CDFS => "CDFS\n"   FS_NFS  => "UFS\n"    all else => "???\n"
-// Kept: FS_NFS is labelled "UFS"; hosts compare dumps of theirs with older ones.
+// Kept: FS_NFS is labelled "UFS". Part of the interface.
 KTQTBASE_EXPORT int dump_file_type(FILE** stream, FS_TYPE type);
 
 // Classifies a file system's name.
 //   fsName             in: the name, zero-terminated
-//   type               out: the file system; untouched when fsName is null
+//   type               out: the file system; untouched if fsName is null
 //   maxComponentLen    in: longest component in characters; 12 tells FAT from VFAT
 //   L"NTFS"                     => FS_NTFS
 //   L"HPFS"                     => FS_HPFS
 //   L"CDFS"                     => FS_CDFS
 //   L"NFS", L"myNFS3"           => FS_NFS
-//   L"FAT" or anything else     => FS_FAT where maxComponentLen is 12, else FS_VFAT
+//   L"FAT" or anything else     => FS_FAT if maxComponentLen is 12, else FS_VFAT
 //   L"ntfs", 255                => FS_VFAT
-// Kept: case counts, so a lower-case name is none of the known ones; hosts pass the names in
-// capitals and rely on all others being FAT.
+// Kept: case counts, so a lower-case name is not known. Part of the interface.
 KTQTBASE_EXPORT void GetDriveTypeByVol(wchar_t* fsName, FS_TYPE& type,
                                        unsigned int maxComponentLen);
 
 // ---- Volume descriptor -------------------------------------------------------------------------
 
-// How names behave on one volume. Abstract: a derived class brings the two validations.
+// The naming rules of one volume. Abstract: a derived class adds the two validations.
 // The order of the virtual functions and of the fields is part of the interface.
 class KTQTBASE_EXPORT CRbUiVolumeDescriptor
 {
 public:
-    // Leaves every field unset. Whoever derives from it sets them all before use, the three owned
-    // pointers (m_pLocalName, m_pAuxName, m_pConnectionName) before destruction too.
+    // Leaves every field unset. A derived class sets all of them before use, and the three owned
+    // pointers (m_pLocalName, m_pAuxName, m_pConnectionName) in any case before destruction.
     CRbUiVolumeDescriptor();
 
     // Describes the volume of a local name.
     //   localName    in: drive or share name such as L"C:", copied as it is
-    // Sets every field but m_fsType and bit 7 of m_flags, which keep what the memory held.
-    // Kept: bit 7 survives, for hosts that mark the memory before they construct in it. A compiler
-    // that sees the constructor of a derived class together with the mark may drop the mark: g++
-    // keeps it with -fno-lifetime-dse.
+    // Sets every field except m_fsType and bit 7 of m_flags, which keep what the memory held.
+    // Kept: a host that sets bit 7 in the memory before the construction finds it set afterwards. A
+    // compiler that sees the constructor of a derived class together with that write may drop the
+    // write: g++ keeps it with -fno-lifetime-dse.
     explicit CRbUiVolumeDescriptor(const CStdStr<wchar_t>& localName);
 
     // Deletes the three owned strings.
@@ -100,30 +99,31 @@ public:
 
     // Whether a text may be used as a whole name, or as one segment of a path, on this volume.
     //   name, segment     in: the text
-    //   allowWildcards    in: whether asterisk and question mark may occur
+    //   allowWildcards    in: whether the text may hold wildcards, * and ?
     virtual bool ValidateFilename(const CStdStr<wchar_t>* name, bool allowWildcards) const = 0;
     virtual bool ValidateSegment(const CStdStr<wchar_t>* segment, bool allowWildcards) const = 0;
 
     // Whether names that differ in case are different names: bit 6 of m_flags.
     virtual bool IsCaseSensitive() const;
 
-    // Always true: names keep the case they were made with.
+    // Always true: names keep the case that they were made with.
     virtual bool PreservesCase() const;
 
     // Always true.
     virtual bool AllowsCaseSensitiveLookup() const;
 
-    // Puts a name into the volume's case convention; here the name stays as it is. Every parse of a
-    // name on the volume calls it.
-    //   name    in/out: the name, with its drive and with the path name's own separator
+    // Changes a name to the volume's case convention; this class leaves it as it is. Every parse of
+    // a name on the volume calls it.
+    //   name    in/out: the work string, with its drive and with the path object's separator
     virtual void VolCase(CStdStr<wchar_t>& name) const;
 
-    // Whether two names are the same name on this volume: exactly where IsCaseSensitive() says so,
-    // else with both folded to lower case by the classic locale, up to the terminator of b.
+    // Whether two names are the same name on this volume: compared exactly if IsCaseSensitive(),
+    // else in lower case by the classic locale, up to the terminator of b.
     //   a, b    in: the names
-    // Null: the first form gives false for either; the second only for b, and a must not be null.
+    // Null: the first form gives false for either; the second only for b, and its a must not be
+    // null.
     //   L"Name", L"nAME"  => true, on a case-sensitive volume false
-    // Kept: the two forms treat a null a differently; a host's derived class may answer both.
+    // Kept: the two forms differ for a null a. Part of the interface.
     virtual bool VolMatch(const wchar_t* a, const CStdStr<wchar_t>* b) const;
     virtual bool VolMatch(const CStdStr<wchar_t>* a, const CStdStr<wchar_t>* b) const;
 
@@ -138,22 +138,22 @@ public:
     // On Windows: the volume is asked.
     virtual bool WillFit(unsigned int bytes) const;
 
-    // Whether the volume is what m_fsType says: true for every descriptor that was made from a name
-    // (bit 0 of m_flags) or is trusted by its creator (bit 4). Else false, since the file system's
-    // name is never known here.
+    // Whether the volume has the file system of m_fsType: true for a descriptor that was made from
+    // a name (bit 0 of m_flags) or is trusted by its creator (bit 4). Else false, since the file
+    // system's name is never known here.
     virtual bool VolumeValid() const;
 
-    // Asks for the connection behind a share and puts the answer into m_pConnectionName.
-    // The answer is always "GetConnectionName Failed".
-    // Kept: the earlier string is not released by a second call, for hosts that still hold it.
+    // Sets m_pConnectionName to the name of a share's connection, which is always
+    // "GetConnectionName Failed".
+    // Kept: a second call does not delete the earlier string, so that pointers to it stay valid.
     // On Windows: the name of the network connection.
     void GetConnectionName();
 
     // The position of a character.
     //   s     in: the text
     //   ch    in: the character
-    // Result: the first position, or 0xFFFFFFFF. With m_bUseCSearch set, the search ends at the
-    // first terminator inside the text, and a search for the terminator finds it.
+    // Result: the first position, or 0xFFFFFFFF. If m_bUseCSearch is set, the search ends at the
+    // first terminator in the text, and a search for the terminator finds it.
     unsigned int Find(const CStdStr<wchar_t>& s, wchar_t ch) const;
 
     // Whether a character is a forbidden control character. Result: false always.
@@ -166,7 +166,7 @@ public:
     int m_maxPathLen;                    // longest whole name; 1023
     wchar_t m_separator;                 // backslash
     bool m_bUseCSearch;                  // Find uses wcschr
-    int m_reserved;                      // 0; read by nothing
+    int m_reserved;                      // 0; never read
     CStdStr<wchar_t>* m_pAuxName;        // owned, null; for the creator's use
     CStdStr<wchar_t>* m_pConnectionName; // owned, null until GetConnectionName
     const wchar_t* m_pUncPrefix;         // two backslashes, not owned
@@ -174,10 +174,10 @@ public:
 
 // ---- NTFS rules --------------------------------------------------------------------------------
 
-// A volume with the naming rules of NTFS and its separator, the backslash. There is no rule about
-// reserved device names, closing dots or blanks, or a least length. Forbidden characters are looked
-// for up to the first terminator; length, colon and doubled backslash count in the whole string. A
-// null name must not be passed.
+// A volume with the naming rules of NTFS and its separator, the backslash. Reserved device names,
+// dots or blanks at the end, and empty names are allowed. Forbidden characters are looked for up to
+// the first terminator; length, colon and doubled backslash are checked in the whole string. A null
+// name must not be passed.
 class KTQTBASE_EXPORT CRbUiNTFSVolumeDescriptor : public CRbUiVolumeDescriptor
 {
 public:
@@ -190,12 +190,12 @@ public:
     //   L"1:\\f", L"abc:f", L"a:b:c", L"a\\\\b", L"a/b", L"a|b", L"<a>"  => false
     //   L"*.t?t"                                                    => allowWildcards
     //   1,023 characters => true     1,024 (more than m_maxPathLen) => false
-    // Kept: the slash is refused though path names use it as their separator; the rules are those
-    // of a volume with backslashes, and hosts ask before they convert.
+    // Kept: the slash is refused, although path objects use it as their separator: these are the
+    // rules of a volume with backslashes. Check a name before it is parsed.
     bool ValidateFilename(const CStdStr<wchar_t>* name, bool allowWildcards) const override;
 
-    // Whether a text may be used as one segment of a path: no longer than m_maxComponentLen, with
-    // neither a separator of either kind nor a colon.
+    // Whether a text may be used as one segment of a path: no longer than m_maxComponentLen, and
+    // without slash, backslash and colon.
     //   L"f.txt", L"" => true     L"a\\b", L"a/b", L"C:", L"a\"b" => false     L"*" =>
     //   allowWildcards
     bool ValidateSegment(const CStdStr<wchar_t>* segment, bool allowWildcards) const override;
@@ -203,16 +203,16 @@ public:
 
 // The rule of drive letters by itself.
 //   name    in: the name; a null one holds no colon
-//   ch      in: the character in front of the colon, as a code point
-// Result: true where name holds no colon; where its last colon is at index 1, whether ch is a
-// letter for the process's LC_CTYPE; else false.
+//   ch      in: the character before the colon, as a code point
+// Result: true if name holds no colon; if its last colon is at index 1, whether ch is a letter for
+// the process's LC_CTYPE; else false.
 KTQTBASE_EXPORT bool ValidateVolChar(const CStdStr<wchar_t>* name, int ch);
 
 // ---- The list of volumes -----------------------------------------------------------------------
 
 // The volumes of this process, in the order in which the host appended them; empty at load. The
-// host fills it before it parses names, from one thread. Its descriptors are deleted when the
-// library is unloaded; a null entry is passed over.
+// host fills the list before it parses names, from one thread. The descriptors are deleted when the
+// library is unloaded; null entries are skipped.
 extern KTQTBASE_EXPORT QList<CRbUiVolumeDescriptor*> volumeList;
 
 // Deletes every descriptor of volumeList when it is destroyed. The library holds one such object;
@@ -236,7 +236,7 @@ KTQTBASE_EXPORT bool GetVolumeInfo(CStdStr<wchar_t> volume, wchar_t* fsName,
                                    CStdStr<wchar_t>* connection, int flags, unsigned int size);
 
 // Inert: no effect.
-// On Windows: the volume part of a name is taken apart.
+// On Windows: the volume part of a name is split into its parts.
 KTQTBASE_EXPORT void ParseVolumeStr(CStdStr<wchar_t>& volume, char* text, unsigned int size);
 
 // Inert: no effect.
@@ -248,7 +248,7 @@ KTQTBASE_EXPORT void InitVolumeChar(CStdStr<wchar_t>& volume, char* text);
 KTQTBASE_EXPORT int InitModeMultiByte();
 
 // Deletes a string and forgets it, as ReleaseCStrPtr does.
-//   pp    in/out: where the owning pointer lies; set to null. Null is left as it is.
+//   pp    in/out: where the owning pointer lies; set to null. Null stays as it is.
 KTQTBASE_EXPORT void ReleaseStringPtr(CStdStr<wchar_t>** pp);
 
 #endif

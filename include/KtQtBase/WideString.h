@@ -51,7 +51,7 @@ public:
     // A part of the string.
     //   first    in: position of its first character; negative counts as 0
     //   count    in: how many characters; negative counts as 0, too many are cut
-    // Result: a new string; empty when first lies beyond the end.
+    // Result: a new string; empty if first lies beyond the end.
     //   L"abcdef", -3, 2       => L"ab"
     //   L"abcdef", 4, 10       => L"ef"
     //   L"abcdef", 4, INT_MAX  => L"ef"
@@ -65,8 +65,8 @@ public:
     //   L"abc", -1  => L""
     CStdStr Left(int count) const;
 
-    // Removes white space from the start, or from the end. White space is what the global
-    // std::locale classifies as such at the time of the call.
+    // Removes white space from the start, or from the end. The global std::locale at the time of
+    // the call decides what is white space.
     // Result: the string itself.
     //   L"  a b ", TrimLeft   => L"a b "
     //   L"  a b ", TrimRight  => L"  a b"
@@ -75,27 +75,28 @@ public:
     CStdStr& TrimRight();
 
     // Replaces every character in place by its upper-case, or lower-case, form in a locale.
-    //   locale    in: whose ctype<wchar_t> facet decides
+    //   locale    in: its ctype<wchar_t> facet decides
     // Result: the string itself.
-    // Kept: the two names begin with a small and a capital letter; hosts call both as they are.
+    // Kept: one name begins with a small letter, the other with a capital one; a host that calls
+    // them would not compile otherwise.
     CStdStr& toUpper(const std::locale& locale);
     CStdStr& ToLower(const std::locale& locale);
 
-    // Reads a string of the resource module that AfxSetResourceHandle named.
+    // Reads a string of the module that AfxSetResourceHandle set.
     //   id    in: the string's number
     // Result: whether the module has such a string and it is not empty.
-    // The text is cut to 1,023 characters. The string has at least 1,024 characters afterwards,
+    // The text is cut to 1,023 characters. Afterwards the string has at least 1,024 characters,
     // whatever the result: a shorter one is filled up with NULs, a longer one keeps its length, so
-    // that the text is read with c_str(). A string that the module does not have leaves the former
-    // characters.
+    // read the text with c_str(). If the module does not have the string, the former characters
+    // stay.
     //   L"", the module has L"Ready"  => true, L"Ready" and 1,019 NULs
     //   L"ab", no such string         => false, L"ab" and 1,022 NULs
-    // Kept: the length is not cut to the text; hosts use the string as a zero-terminated text.
+    // Kept: the length is not cut to the text; a host that reads it would see another number.
     // On Windows: the string gets the text's own length, and is emptied on failure.
     bool LoadString(unsigned int id);
 };
 
-// In sight of hosts, since a call between two libraries costs as much as a short text.
+// Defined in the header: a call into the library would cost as much as the copy of a short text.
 template<class T>
 CStdStr<T> CStdStr<T>::Mid(int first, int count) const
 {
@@ -111,7 +112,7 @@ CStdStr<T> CStdStr<T>::Left(int count) const
     return CStdStr(this->data(), std::min(wanted, this->size()));
 }
 
-// The operations exist once, in the library, for the wide string only.
+// The operations are compiled once, in the library, and for the wide string only.
 extern template class KTQTBASE_EXPORT CStdStr<wchar_t>;
 
 // ---- Helpers -----------------------------------------------------------------------------------
@@ -126,8 +127,8 @@ KTQTBASE_EXPORT void strMakeLower(CStdStr<wchar_t>& s);
 } // namespace KtErrorEat
 
 // Deletes a string and forgets it.
-//   pp    in/out: where the owning pointer lies; set to null. Null, or a null pointer there, is
-//         left as it is.
+//   pp    in/out: where the owning pointer lies; set to null. Null, or a null pointer there, stays
+//         as it is.
 KTQTBASE_EXPORT void ReleaseCStrPtr(CStdStr<wchar_t>** pp);
 
 #endif

@@ -6,9 +6,9 @@
 //     GetTempFileName(L"/tmp/", L"kt", 0, name);
 //     CopyFile(source, name, false);
 //
-// The working ones stand by concern in the first headers below. The others have no counterpart
-// here: they do nothing, return a fixed value and write to none of their arguments; each carries
-// the word Inert. They stand by the Windows library that they come from.
+// The working ones are in the first headers below, grouped by concern. The others have no
+// counterpart here: they do nothing, return a fixed value and write to none of their arguments.
+// Each is marked Inert, and they are grouped by the Windows library that they come from.
 #ifndef KTQTBASE_WINDOWSFUNCTIONS_H
 #define KTQTBASE_WINDOWSFUNCTIONS_H
 
