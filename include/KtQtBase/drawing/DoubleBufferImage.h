@@ -9,8 +9,8 @@
 //     buffer.repairFrontBuffer();
 //     QPainter(this).drawImage(0, 0, *buffer.frontImage());
 //
-// A handler of resize events calls destroyImages before createImages: the widget has its new size
-// by then, and createImages would take the images at hand to be of that size.
+// A handler of resize events calls destroyImages before createImages: the widget already has its
+// new size, and createImages would take the old images to be of that size.
 #ifndef KTQTBASE_DRAWING_DOUBLEBUFFERIMAGE_H
 #define KTQTBASE_DRAWING_DOUBLEBUFFERIMAGE_H
 
@@ -27,7 +27,8 @@ class KTQTBASE_EXPORT KtGrQtDoubleBufferImage
 {
 public:
     // No images yet; two wrappers without a device, and a default palette.
-    //   destination    in: the widget that is served, not owned; may be null until its size matters
+    //   destination    in: the widget that shows the images, not owned; may be null until its size
+    //                  is asked for
     explicit KtGrQtDoubleBufferImage(QWidget* destination);
 
     // Destroys the images, the wrappers and the palette. No painting on an image may be open.
@@ -38,39 +39,39 @@ public:
 
     // ---- Images --------------------------------------------------------------------------------
 
-    // Makes both images, transparent black. Those there are stay where the widget's size is the one
-    // asked for, and are destroyed first where it is not.
+    // Makes both images, transparent black. Existing images stay if the widget has the size asked
+    // for; if not, they are destroyed first.
     //   width, height    in: pixels
     //   bytesPerPixel    in: 4. It sizes the back image's buffer and rows and nothing else: below 4
     //                    there is no back image (QImage::isNull), above 4 rows have a gap
-    // A negative argument, a size in bytes above 2^31 - 1, a size that QImage refuses or memory that
-    // is refused leaves no images. Sizes of 0 give null images, and count as made.
-    // Kept: the widget's size is compared and not the images'; hosts call this before every paint
-    // at the size of the widget. Reads the widget only where images exist; it must not be null
-    // then.
+    // There are no images afterwards if an argument is negative, the size in bytes is above
+    // 2^31 - 1, QImage refuses the size, or memory is refused. Sizes of 0 give null images, and
+    // count as made.
+    // Kept: the widget's size is compared, not the images'. Part of the interface. The widget is
+    // read only if images exist, and must not be null then.
     void createImages(int width, int height, int bytesPerPixel);
 
-    // Takes the images away: the pointers to them, the back image's buffer and the wrappers'
-    // devices become null. Harmless without images. End every painting on them before.
+    // Destroys the images: the pointers to them, the back image's buffer and the wrappers' devices
+    // become null. Does nothing without images. End every painting on them before.
     void destroyImages();
 
-    // Paints the back image over the front one: where the back image is translucent the front one
-    // shines through. Does nothing without images. No painting on the front image may be open.
+    // Paints the back image over the front one, which stays visible where the back image is
+    // translucent. Does nothing without images. No painting on the front image may be open.
     void repairFrontBuffer();
 
-    // Do nothing; draw between the wrappers' own beginDraw and endDraw.
+    // Both do nothing; draw between beginDraw and endDraw of a wrapper.
     // Result: true, with or without images.
     bool beginDraw();
     bool endDraw();
 
-    // Result: the wrapper of an image, never null; stays this object's. Its device is null while
+    // Result: the wrapper of an image, never null; owned by this object. Its device is null while
     // there are no images.
     KtQtPainterWrapper* memPainter() const;
     KtQtPainterWrapper* frontPainter() const;
 
-    // Result: an image, or null while there are none; valid until the images are destroyed. A copy
-    // of it shares its pixels, and painting then moves the image away from memBits(): take
-    // QImage::copy() of an image that is still painted on.
+    // Result: an image, or null while there are none; valid until the images are destroyed. A plain
+    // copy shares its pixels, and the next painting then moves the image away from memBits(): use
+    // QImage::copy() for an image that is still painted on.
     QImage* memImage() const;
     QImage* frontImage() const;
 
@@ -78,10 +79,10 @@ public:
     // pixel 0xAARRGGBB premultiplied; null while there are no images. The caller may write them.
     unsigned char* memBits() const;
 
-    // Result: null. Kept for hosts that look for a backup; none is made.
+    // Result: null; no backup is made. The function is part of the interface.
     unsigned char* backupBits() const;
 
-    // Result: a palette of the application's colours, never null; stays this object's.
+    // Result: a palette of the application's colours, never null; owned by this object.
     QPalette* getHPalette() const;
 
     // ---- Widget --------------------------------------------------------------------------------
@@ -91,7 +92,7 @@ public:
     QWidget* destinationWidget() const;
 
     // Result: the widget's present width and height in pixels, and its colour depth in bits.
-    // Kept: the widget's and not the images'; hosts compare the two. The widget must not be null.
+    // Kept: the widget's and not the images'. Part of the interface. The widget must not be null.
     int width() const;
     int height() const;
     int depth() const;

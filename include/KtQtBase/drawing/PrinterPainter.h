@@ -25,21 +25,22 @@ class KTQTBASE_EXPORT KtQtPrinterPainter : public KtQtPainterWrapper
 {
 public:
     // Starts painting on a device at once, until the object dies.
-    //   device    in: a printer or another device, which outlives this object; null never paints
-    // A device that refuses leaves the painter inactive, and Qt ignores what is drawn.
+    //   device    in: a printer or another device, which outlives this object; with null nothing is
+    //             painted
+    // If the device refuses, the painter is inactive, and Qt ignores what is drawn.
     explicit KtQtPrinterPainter(QPaintDevice* device);
 
-    // Ends painting, which finishes the document. An exception that leaves Qt here ends the
+    // Ends painting, which finishes the document. An exception that Qt throws here ends the
     // process.
     ~KtQtPrinterPainter();
 
     // Saves the painter's state and sets a solid black pen of width 0 and a solid black brush.
     // Result: false without a device, else true.
-    // Kept: the stored clip is not applied; setClipRegion does that at once, since the painter is
-    // active all the time.
+    // Kept: the stored clip is not applied here. setClipRegion applies it at once, since the
+    // painter is always active.
     bool beginDraw();
 
-    // Takes the state from before beginDraw back. Painting goes on.
+    // Restores the state from before beginDraw. Painting goes on.
     // Result: false without a device, else true.
     bool endDraw();
 };
