@@ -10,9 +10,9 @@
 #include <KtQtBase/Export.h>
 
 // The next character of a text.
-//   lpsz    in: a place in a text
+//   lpsz    in: a position in a text
 // Result: lpsz + 1, also at the terminator.
-// On Windows: a place at the terminator is returned as it is.
+// On Windows: at the terminator lpsz itself is returned.
 KTQTBASE_EXPORT const wchar_t* CharNext(const wchar_t* lpsz);
 
 #endif

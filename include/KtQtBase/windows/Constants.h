@@ -1,13 +1,13 @@
 // SPDX-License-Identifier: MIT
 //
-// The named values that a host passes to functions under Windows names, or compares results with.
+// The named values that a host passes to functions under Windows names or compares with results.
 //
 //     if (GetFileAttributes(L"/tmp/report.txt") == INVALID_FILE_ATTRIBUTES) { ... }
 //     painter.setPen(PS_DASH, 1, 0x000000FF);
 //
-// Each has the value that Windows publishes. They are objects and never macros. Raster operations
-// (R2_) and brush styles (BS_, HS_) are left out on purpose: those integers reach Qt unchanged, so
-// a host passes QPainter::CompositionMode and Qt::BrushStyle values instead.
+// Each has the value that Windows publishes. They are objects, not macros. Raster operations (R2_)
+// and brush styles (BS_, HS_) are left out on purpose: such integers reach Qt unchanged, so pass
+// values of QPainter::CompositionMode and Qt::BrushStyle instead.
 #ifndef KTQTBASE_WINDOWS_CONSTANTS_H
 #define KTQTBASE_WINDOWS_CONSTANTS_H
 
@@ -24,7 +24,7 @@ constexpr int UNLEN = 256;
 
 // ---- Results and errors ------------------------------------------------------------------------
 
-// GetLastError answers with errno, never with one of these: they are for results.
+// GetLastError returns errno, never one of these: they are for results.
 constexpr DWORD ERROR_SUCCESS = 0;
 constexpr DWORD NO_ERROR = 0;
 constexpr DWORD ERROR_FILE_NOT_FOUND = 2;
@@ -47,11 +47,11 @@ constexpr HRESULT S_FALSE = 1;
 
 // ---- Files -------------------------------------------------------------------------------------
 
-// A failing CreateFile or FindFirstFileW gives null here; compare with null as well as with this.
+// CreateFile and FindFirstFileW always fail here and return null: compare with null, too.
 inline const HANDLE INVALID_HANDLE_VALUE = reinterpret_cast<HANDLE>(-1LL);
 
-// The only one of these that GetFileAttributes gives: otherwise it answers with POSIX mode bits,
-// among which the FILE_ATTRIBUTE_ flags mean nothing. Those are for records and for CreateFile.
+// GetFileAttributes returns only the first of these; its other results are POSIX mode bits, in
+// which the FILE_ATTRIBUTE_ flags mean nothing. The flags are for records and for CreateFile.
 constexpr DWORD INVALID_FILE_ATTRIBUTES = 0xFFFFFFFF;
 constexpr DWORD FILE_ATTRIBUTE_READONLY = 0x00000001;
 constexpr DWORD FILE_ATTRIBUTE_HIDDEN = 0x00000002;
@@ -110,8 +110,8 @@ constexpr int CSTR_GREATER_THAN = 3;
 
 // ---- Registry ----------------------------------------------------------------------------------
 
-// Predefined keys; a 64-bit Windows extends the sign of their 32-bit numbers. Every key of a path
-// is the same one here, whichever of these it is created under.
+// Predefined keys; a 64-bit Windows extends the sign of their 32-bit numbers. Here a path is the
+// same key under each of them.
 inline const HKEY HKEY_CLASSES_ROOT = reinterpret_cast<HKEY>(0xFFFFFFFF80000000ULL);
 inline const HKEY HKEY_CURRENT_USER = reinterpret_cast<HKEY>(0xFFFFFFFF80000001ULL);
 inline const HKEY HKEY_LOCAL_MACHINE = reinterpret_cast<HKEY>(0xFFFFFFFF80000002ULL);
@@ -175,7 +175,7 @@ constexpr int IDCONTINUE = 11;
 
 // ---- Messages, keys and screen metrics ---------------------------------------------------------
 
-// The library sends none of these by itself: a host's windows pass Qt's events on under them.
+// The library itself sends none of these; a host's windows use them to pass on Qt's events.
 constexpr UINT WM_SIZE = 0x0005;
 constexpr UINT WM_PAINT = 0x000F;
 constexpr UINT WM_CLOSE = 0x0010;
@@ -191,14 +191,14 @@ constexpr UINT WM_LBUTTONDBLCLK = 0x0203;
 constexpr UINT WM_RBUTTONDOWN = 0x0204;
 constexpr UINT WM_RBUTTONUP = 0x0205;
 
-// What is down during a mouse message, in its wParam.
+// The buttons and keys that are down during a mouse message, in its wParam.
 constexpr WPARAM MK_LBUTTON = 0x0001;
 constexpr WPARAM MK_RBUTTON = 0x0002;
 constexpr WPARAM MK_SHIFT = 0x0004;
 constexpr WPARAM MK_CONTROL = 0x0008;
 constexpr WPARAM MK_MBUTTON = 0x0010;
 
-// The first numbers that are free for a window class's and for an application's own messages.
+// The first free numbers for a window class's own messages and for an application's.
 constexpr UINT WM_USER = 0x0400;
 constexpr UINT WM_APP = 0x8000;
 
@@ -218,7 +218,7 @@ constexpr int VK_DOWN = 0x28;
 constexpr int VK_INSERT = 0x2D;
 constexpr int VK_DELETE = 0x2E;
 
-// GetSystemMetrics answers the two FULLSCREEN ones; every other index reads as 0.
+// GetSystemMetrics knows the two FULLSCREEN ones; every other index gives 0.
 constexpr int SM_CXSCREEN = 0;
 constexpr int SM_CYSCREEN = 1;
 constexpr int SM_CXVSCROLL = 2;

@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: MIT
 //
-// Files: attributes, copying, temporary names and the current directory.
+// Files: attributes, copying, temporary names and the folder of the executable.
 //
 //     wchar_t folder[1024] = {};
 //     GetCurrentDirectoryW(1024, folder);                 // the executable's folder
@@ -8,8 +8,8 @@
 //     CopyFile(L"/tmp/report.txt", L"/tmp/copy.txt", false);
 //
 // Names are converted with the process's LC_CTYPE. A name that is null or does not convert names no
-// file: the call ends as it does for a missing one, and nothing is opened, made or cut under a
-// shortened name.
+// file: the call ends as it does for a missing file, and no file of a shortened name is opened,
+// made or cut.
 #ifndef KTQTBASE_WINDOWS_FILES_H
 #define KTQTBASE_WINDOWS_FILES_H
 
@@ -18,21 +18,23 @@
 // The mode of a file.
 //   lpFileName    in: its name
 // Result: the file's POSIX mode, 16 bits of file type and permissions, or INVALID_FILE_ATTRIBUTES
-// (0xFFFFFFFF) where there is none of that name.
+// (0xFFFFFFFF) if there is no file of that name.
 //   L"/tmp"      => 0x43FF on most systems: a folder (0x4000) with its permissions
 //   L"/missing"  => 0xFFFFFFFF
-// Kept: the bits are POSIX's; path names take bit 0x10, group write, for the directory attribute.
+// Kept: the bits are POSIX's; path objects would report other types otherwise. They take bit 0x10,
+// the group's write permission, for the directory attribute.
 // On Windows: FILE_ATTRIBUTE flags.
 KTQTBASE_EXPORT unsigned int GetFileAttributes(const wchar_t* lpFileName);
 
-// Copies a file's bytes over another file, which is made, or emptied first.
+// Copies a file's bytes to another file, which is made, or emptied first.
 //   lpExistingFileName    in: the source
 //   lpNewFileName         in: the destination
 //   bFailIfExists         ignored; an existing destination is always overwritten
-// Result: true always. A missing source leaves an empty destination; a destination that cannot be
-// written, and a short copy, are not told. Source and destination of one name leave an empty file.
-// Kept: hosts never look at the result and count on the destination being there.
-// On Windows: false when the copy fails, or the destination exists and bFailIfExists is true.
+// Result: always true. A destination that cannot be written and an incomplete copy are not
+// reported. A missing source gives an empty destination; if both names are the same, the file
+// becomes empty.
+// Kept: the result is always true. Part of the interface.
+// On Windows: false if the copy fails, or if the destination exists and bFailIfExists is true.
 KTQTBASE_EXPORT bool CopyFile(const wchar_t* lpExistingFileName, const wchar_t* lpNewFileName,
                               bool bFailIfExists);
 
@@ -42,15 +44,15 @@ KTQTBASE_EXPORT bool CopyFile(const wchar_t* lpExistingFileName, const wchar_t* 
 //   uUnique           in: the number to use, printed as a signed 32-bit one; 0 asks for six
 //                     characters that name no file in the process's working directory
 //   lpTempFileName    out: folder + prefix + number or characters + ".tmp"; the caller provides
-//                     room enough. Null gives 0 and nothing else happens.
+//                     enough room. Null gives 0 and nothing else happens.
 // Result: the length of the name.
 //   L"/tmp/", L"ktTmp", 42          => L"/tmp/ktTmp42.tmp", 16
 //   L"/tmp/", L"kt", 0xFFFFFFFF     => L"/tmp/kt-1.tmp", 13
-//   L"/tmp/", L"kt", 0              => such as L"/tmp/ktx3Yz9A.tmp", 17
-// Where no six characters can be found, their part of the name is empty. Sets the process's
-// LC_CTYPE to UTF-8, for good.
-// On Windows: no more than three characters of the prefix are used, the number is hexadecimal, a
-// file is made when uUnique is 0, and the result is the number.
+//   L"/tmp/", L"kt", 0              => for example L"/tmp/ktx3Yz9A.tmp", 17
+// If no six characters can be found, that part of the name is empty. Sets the process's LC_CTYPE to
+// UTF-8 permanently.
+// On Windows: at most three characters of the prefix are used, the number is hexadecimal, a file is
+// made if uUnique is 0, and the result is the number.
 KTQTBASE_EXPORT unsigned int GetTempFileName(const wchar_t* lpPathName,
                                              const wchar_t* lpPrefixString, unsigned int uUnique,
                                              wchar_t* lpTempFileName);
@@ -59,9 +61,10 @@ KTQTBASE_EXPORT unsigned int GetTempFileName(const wchar_t* lpPathName,
 //   nBufferLength    ignored; the caller provides at least 1,024 characters
 //   lpBuffer         out: the folder without a closing slash (empty for an executable in the root);
 //                    null writes nothing
-// Result: 1024. Where the executable's path has 1,024 bytes or more: the size that it needs, with
-// the empty string written. A path that does not convert gives the empty string too.
-// Kept: it is not the working directory; hosts resolve their own files against it.
+// Result: 1024. If the executable's path has 1,024 bytes or more: the size that it needs, with the
+// empty string written. A path that does not convert gives the empty string too.
+// Kept: the executable's folder, not the working directory; relative names of a parse would lie in
+// another folder otherwise.
 // On Windows: the working directory, and its length.
 KTQTBASE_EXPORT unsigned int GetCurrentDirectoryW(unsigned int nBufferLength, wchar_t* lpBuffer);
 

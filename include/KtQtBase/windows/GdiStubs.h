@@ -53,9 +53,9 @@ KTQTBASE_EXPORT HPALETTE CreatePalette(LOGPALETTE* plpal);
 // On Windows: the index of the entry, or CLR_INVALID.
 KTQTBASE_EXPORT unsigned int GetNearestPaletteIndex(HPALETTE h, unsigned int color);
 
-// Makes a bitmap whose bits the caller can write.
+// Makes a bitmap with bits that the caller can write.
 // Inert: returns nothing; no bitmap is made and the bits pointer is not written.
-// Kept: there is no result, so a host sets its bits pointer to null first and tests that.
+// Kept: there is no result. Part of the interface. Set the bits pointer to null first and test it.
 // On Windows: returns the bitmap and writes the address of its bits.
 KTQTBASE_EXPORT void CreateDIBSection(HDC hdc, const BITMAPINFO* pbmi, unsigned int usage,
                                       void** ppvBits, void* hSection, unsigned int offset);

@@ -23,7 +23,8 @@ KTQTBASE_EXPORT int CloseHandle(void* hObject);
 
 // Opens or creates a file.
 // Inert: returns null; no file is opened, created or cut.
-// Kept: the failure is null and not INVALID_HANDLE_VALUE; hosts here test for null.
+// Kept: the failure is null, not INVALID_HANDLE_VALUE; OpenReadOnly and OpenWriteOnly of a path
+// object would give false otherwise.
 // On Windows: returns a handle of the file, or INVALID_HANDLE_VALUE.
 KTQTBASE_EXPORT HANDLE CreateFile(const wchar_t* lpFileName, unsigned int dwDesiredAccess,
                                   unsigned int dwShareMode,
@@ -75,11 +76,11 @@ KTQTBASE_EXPORT int FileTimeToLocalFileTime(const FILETIME* lpFileTime, FILETIME
 // On Windows: writes the date and time; non-zero means success.
 KTQTBASE_EXPORT int FileTimeToSystemTime(const FILETIME* lpFileTime, SYSTEMTIME* lpSystemTime);
 
-// ---- Searching and watching directories --------------------------------------------------------
+// ---- Searching and watching folders ------------------------------------------------------------
 
 // Begins a search for files by a pattern.
 // Inert: returns null; the record is not written.
-// Kept: the failure is null and not INVALID_HANDLE_VALUE, so a host must compare with null too.
+// Kept: the failure is null, not INVALID_HANDLE_VALUE. Part of the interface. Compare with both.
 // On Windows: returns a search handle and describes the first file, or INVALID_HANDLE_VALUE.
 KTQTBASE_EXPORT HANDLE FindFirstFileW(const wchar_t* lpFileName, WIN32_FIND_DATAW* lpFindFileData);
 
@@ -93,7 +94,7 @@ KTQTBASE_EXPORT int FindNextFileW(void* hFindFile, WIN32_FIND_DATAW* lpFindFileD
 // On Windows: releases the search handle; non-zero means success.
 KTQTBASE_EXPORT int FindClose(void* hFindFile);
 
-// Begins to watch a directory.
+// Begins to watch a folder.
 // Inert: returns null; nothing is watched.
 // On Windows: returns a handle that is signalled at a change, or INVALID_HANDLE_VALUE.
 KTQTBASE_EXPORT HANDLE FindFirstChangeNotificationW(const wchar_t* lpPathName, bool bWatchSubtree,
@@ -106,17 +107,17 @@ KTQTBASE_EXPORT HANDLE FindFirstChangeNotificationW(const wchar_t* lpPathName, b
 // On Windows: fills the record, which is then ready to be entered.
 KTQTBASE_EXPORT void InitializeCriticalSection(RTL_CRITICAL_SECTION* lpCriticalSection);
 
-// Gives up what a lock holds.
+// Releases the resources of a lock.
 // Inert: returns nothing; the record is not written.
 // On Windows: releases the resources of a lock that nobody holds.
 KTQTBASE_EXPORT void DeleteCriticalSection(RTL_CRITICAL_SECTION* lpCriticalSection);
 
 // Takes a lock.
-// Inert: returns nothing and never waits, so what it guards is not protected between threads.
+// Inert: returns nothing and never waits, so the lock protects nothing between threads.
 // On Windows: waits until no other thread holds the lock.
 KTQTBASE_EXPORT void EnterCriticalSection(RTL_CRITICAL_SECTION* lpCriticalSection);
 
-// Gives a lock back.
+// Releases a lock.
 // Inert: returns nothing; the record is not written.
 // On Windows: lets one waiting thread in.
 KTQTBASE_EXPORT void LeaveCriticalSection(RTL_CRITICAL_SECTION* lpCriticalSection);
@@ -166,7 +167,7 @@ KTQTBASE_EXPORT int CompareString(unsigned int Locale, unsigned int dwCmpFlags,
                                   const wchar_t* lpString1, int cchCount1, const wchar_t* lpString2,
                                   int cchCount2);
 
-// Writes out a number as a locale has it.
+// Formats a number by the rules of a locale.
 // Inert: returns 0; the text is not written.
 // On Windows: the number is written, and its length returned.
 KTQTBASE_EXPORT int GetNumberFormat(unsigned int Locale, unsigned int dwFlags,
@@ -175,7 +176,7 @@ KTQTBASE_EXPORT int GetNumberFormat(unsigned int Locale, unsigned int dwFlags,
 
 // ---- The second set ----------------------------------------------------------------------------
 
-// Hosts call some functions by way of this namespace. Those of the same name outside it do the
+// Some functions may also be called through this namespace. The global ones of the same name do the
 // same.
 namespace KtKernel32 {
 
@@ -189,12 +190,12 @@ KTQTBASE_EXPORT int CloseHandle(void* hObject);
 // On Windows: returns the lower 32 bits, or INVALID_FILE_SIZE.
 KTQTBASE_EXPORT unsigned int GetFileSize(void* hFile, unsigned int* lpFileSizeHigh);
 
-// Ends the watching of a directory.
+// Ends the watching of a folder.
 // Inert: returns 0 and releases nothing.
 // On Windows: releases the handle; non-zero means success.
 KTQTBASE_EXPORT int FindCloseChangeNotification(void* hChangeHandle);
 
-// Waits for the next change in a watched directory.
+// Waits for the next change in a watched folder.
 // Inert: returns 0; nothing is watched.
 // On Windows: makes the handle ready for the next change; non-zero means success.
 KTQTBASE_EXPORT int FindNextChangeNotification(void* hChangeHandle);
@@ -207,7 +208,7 @@ KTQTBASE_EXPORT unsigned int WaitForSingleObject(void* hHandle, unsigned int dwM
 
 // Sets the calling thread's last error.
 // Inert: returns nothing; neither GetLastError nor errno changes.
-// Kept: errno alone is the last error, and a host that sets one must not lose libc's.
+// Kept: errno is the only last error; a host that sets one would lose libc's.
 // On Windows: GetLastError returns the value afterwards.
 KTQTBASE_EXPORT void SetLastError(unsigned int dwErrCode);
 

@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: MIT
 //
-// Colours, words and points packed into one number, and taken out again.
+// Functions that pack colours, words and points into one number, and take them out again.
 //
 //     painter.setPen(PS_SOLID, 1, RGB(255, 0, 0));
 //     SendMessage(window, WM_LBUTTONDOWN, MK_LBUTTON, MAKELPARAM(point.x, point.y));
@@ -53,7 +53,7 @@ constexpr WORD HIWORD(long long value)
     return static_cast<WORD>(value >> 16 & 0xFFFF);
 }
 
-// Two words in a message's parameter, of which each gives its lower 16 bits.
+// Two words in a message's parameter; only the lower 16 bits of each are used.
 //   low     in: the lower word
 //   high    in: the upper word
 // Result: a number of 32 bits, never negative.
@@ -69,7 +69,7 @@ constexpr WPARAM MAKEWPARAM(long long low, long long high)
     return static_cast<WPARAM>(MAKELPARAM(low, high));
 }
 
-// The place in a mouse message's lParam, each coordinate with its sign.
+// The position in a mouse message's lParam; each coordinate keeps its sign.
 //   MAKELPARAM(-1, -2)  => GET_X_LPARAM -1, GET_Y_LPARAM -2
 constexpr int GET_X_LPARAM(LPARAM lParam)
 {

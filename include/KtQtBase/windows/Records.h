@@ -7,9 +7,9 @@
 //     CRect area(0, 0, 640, 480);
 //
 // Each has the layout that Windows publishes for 64-bit programs, except that a character is a
-// 32-bit wchar_t; the sizes given below count such characters. A member that Windows declares as
-// BOOL is int here, because Objective-C has a BOOL of one byte. Records own nothing: what a pointer
-// member names belongs to whoever set it.
+// 32-bit wchar_t, also in the sizes given below. A member that Windows declares as BOOL is int
+// here, because Objective-C has a BOOL of one byte. Records own nothing: what a pointer member
+// points to belongs to whoever set it.
 #ifndef KTQTBASE_WINDOWS_RECORDS_H
 #define KTQTBASE_WINDOWS_RECORDS_H
 
@@ -17,14 +17,14 @@
 
 // ---- Points and rectangles ---------------------------------------------------------------------
 
-// A place, 8 bytes; the function that takes it names the unit, most often pixels.
+// A position, 8 bytes; the function that takes it names the unit, most often pixels.
 struct POINT
 {
     LONG x;
     LONG y;
 };
 
-// A place in a printer's or display's settings, 8 bytes, in the device's units.
+// A position in a printer's or display's settings, 8 bytes, in the device's units.
 struct POINTL
 {
     LONG x;
@@ -38,7 +38,7 @@ struct SIZE
     LONG cy;
 };
 
-// A rectangle by its edges, 16 bytes; right and bottom lie just outside it.
+// A rectangle by its edges, 16 bytes; right and bottom are just outside it.
 struct RECT
 {
     LONG left;
@@ -47,7 +47,7 @@ struct RECT
     LONG bottom;
 };
 
-// A RECT with constructors, 16 bytes. The four values are stored as given, never put in order.
+// A RECT with constructors, 16 bytes. The four values are stored as passed, never put in order.
 class CRect : public RECT
 {
 public:
@@ -61,7 +61,7 @@ public:
 
 // ---- Colours and bitmaps -----------------------------------------------------------------------
 
-// A palette colour, 4 bytes: parts of 0 to 255 and PC_ flags.
+// A palette colour, 4 bytes: red, green and blue from 0 to 255, and PC_ flags.
 struct PALETTEENTRY
 {
     BYTE peRed;
@@ -87,8 +87,8 @@ struct RGBQUAD
     BYTE rgbReserved;
 };
 
-// A bitmap's size and format, 40 bytes; biSize is its own size. A negative height is a bitmap whose
-// first row is the upper one.
+// A bitmap's size and format, 40 bytes; biSize is the record's own size. With a negative height the
+// bitmap's first row is the upper one.
 struct BITMAPINFOHEADER
 {
     DWORD biSize;
@@ -113,7 +113,7 @@ struct BITMAPINFO
 
 // ---- Fonts -------------------------------------------------------------------------------------
 
-// A font that is asked for, 156 bytes. Angles are tenths of a degree, the weight is 0 to 1000
+// The description of a font, 156 bytes. Angles are tenths of a degree, the weight is 0 to 1000
 // (FW_), the face name is UTF-32 of at most 31 characters and a NUL.
 struct LOGFONTW
 {
@@ -135,7 +135,7 @@ struct LOGFONTW
 
 // ---- Numbers -----------------------------------------------------------------------------------
 
-// How a number is written out, 40 bytes. The two texts belong to the caller.
+// How a number is formatted, 40 bytes. The two texts belong to the caller.
 struct NUMBERFMTW
 {
     UINT NumDigits;
@@ -168,7 +168,7 @@ struct LIST_ENTRY
 
 struct RTL_CRITICAL_SECTION;
 
-// What Windows notes about a lock for debuggers, 48 bytes.
+// What Windows records about a lock for debuggers, 48 bytes.
 struct RTL_CRITICAL_SECTION_DEBUG
 {
     WORD Type;
@@ -205,7 +205,7 @@ struct SECURITY_ATTRIBUTES
 
 // ---- Files and times ---------------------------------------------------------------------------
 
-// A moment, 8 bytes: two halves of a count of 100 nanoseconds since 1 January 1601, UTC.
+// A time, 8 bytes: the two halves of a count of 100 nanoseconds since 1 January 1601, UTC.
 struct FILETIME
 {
     DWORD dwLowDateTime;
@@ -225,7 +225,7 @@ struct SYSTEMTIME
     WORD wMilliseconds;
 };
 
-// A file that a directory search found, 1,140 bytes. Names are UTF-32 with a NUL.
+// A file that a search in a folder found, 1,140 bytes. Names are UTF-32 with a NUL.
 struct WIN32_FIND_DATAW
 {
     DWORD dwFileAttributes;

@@ -17,15 +17,15 @@
 // Reads a string of a resource module.
 //   hInstance     in: the module
 //   uID           in: the string's number, handed to the module's "loadstring"
-//   lpBuffer      out: the text, cut to nBufferMax - 1 characters, then zeros up to there. Its last
+//   lpBuffer      out: the text, cut to nBufferMax - 1 characters, then zeros up to there. The last
 //                 position is never written, so the caller fills the buffer with zeros first.
 //   nBufferMax    in: the buffer's size in characters
-// Result: the characters in the buffer before its first zero, nBufferMax at most. A string that the
-// module does not have gives 0 and leaves the buffer untouched. A module without "loadstring", and
-// the handles null and 1, give the empty string and 0. A null buffer, or a size below 1, gives 0
-// and writes nothing.
+// Result: the number of characters in the buffer before its first zero, at most nBufferMax. A
+// string that the module does not have gives 0 and leaves the buffer untouched. A module without
+// "loadstring", and the handles null and 1, give the empty string and 0. A null buffer, or a size
+// below 1, gives 0 and writes nothing.
 //   L"abcdef", size 4, buffer of zeros  => L"abc", 3
-// Kept: the last position belongs to the caller; hosts pass zero-filled buffers.
+// Kept: the last position is never written. Part of the interface.
 // On Windows: the text is always terminated, and strings come from the program's resources.
 KTQTBASE_EXPORT int LoadString(HINSTANCE hInstance, unsigned int uID, wchar_t* lpBuffer,
                                int nBufferMax);

@@ -4,8 +4,8 @@
 //
 //     HWND window = reinterpret_cast<HWND>(widget->winId());
 //
-// Each handle is a pointer to a struct of its own that is never defined: two kinds of handle do not
-// convert into each other, and a host casts to and from them with reinterpret_cast.
+// Each kind of handle is a pointer to a struct of its own that is never defined, so that two kinds
+// do not convert into each other. A host casts to and from them with reinterpret_cast.
 #ifndef KTQTBASE_WINDOWS_SCALARS_H
 #define KTQTBASE_WINDOWS_SCALARS_H
 

@@ -29,7 +29,7 @@ KTQTBASE_EXPORT int GetSystemMetrics(int nIndex);
 
 // Width and height of the main screen's frame in points, cut to whole numbers; 0 without a main
 // screen. On Linux they come from Qt's primary screen, which exists with a QGuiApplication.
-// Kept: the second name is spelt as hosts call it.
+// Kept: the spelling of the second name is part of the interface.
 KTQTBASE_EXPORT int getDisplayWidth();
 KTQTBASE_EXPORT int getDiaplayHeight();
 
@@ -40,7 +40,7 @@ KTQTBASE_EXPORT unsigned int GetTickCount();
 KTQTBASE_EXPORT unsigned int GetLastError();
 
 // Whether a byte begins a two-byte character. Result: what the OS-base library answers.
-// On Windows: bytes from 0x81 up begin one in the code pages of East Asia.
+// On Windows: bytes of 0x81 and above begin one in the code pages of East Asia.
 KTQTBASE_EXPORT int IsDBCSLeadByte(unsigned char TestChar);
 
 } // namespace KtKernel32

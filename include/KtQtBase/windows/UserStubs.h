@@ -18,10 +18,10 @@
 
 // The device context of a window.
 // Inert: returns null. KtQtPainterWrapper draws on a widget.
-// On Windows: returns a context that ReleaseDC gives back.
+// On Windows: returns a context, to be released by ReleaseDC.
 KTQTBASE_EXPORT HDC GetDC(HWND hWnd);
 
-// Gives a device context back.
+// Releases a device context.
 // Inert: returns 0 and releases nothing.
 // On Windows: 1 means that the context was released.
 KTQTBASE_EXPORT int ReleaseDC(HWND hWnd, HDC hDC);
@@ -32,9 +32,9 @@ KTQTBASE_EXPORT int ReleaseDC(HWND hWnd, HDC hDC);
 KTQTBASE_EXPORT int MessageBox(HWND hWnd, const wchar_t* lpText, const wchar_t* lpCaption,
                                unsigned int uType);
 
-// The place of the mouse pointer.
+// The position of the mouse pointer.
 // Inert: returns 0; the point is not written.
-// On Windows: writes the place in screen pixels; non-zero means success.
+// On Windows: writes the position in screen pixels; non-zero means success.
 KTQTBASE_EXPORT int GetCursorPos(POINT* lpPoint);
 
 // Destroys a menu.
@@ -47,7 +47,7 @@ KTQTBASE_EXPORT int DestroyMenu(HMENU hMenu);
 // On Windows: releases the table; non-zero means that no reference is left.
 KTQTBASE_EXPORT int DestroyAcceleratorTable(HACCEL hAccel);
 
-// Gives a clipboard format a number.
+// Registers a clipboard format and gives it a number.
 // Inert: returns 0, which is no format; nothing is registered.
 // On Windows: returns the same number, 0xC000 or above, for the same name everywhere.
 KTQTBASE_EXPORT unsigned int RegisterClipboardFormatW(const wchar_t* lpszFormat);
@@ -66,19 +66,19 @@ KTQTBASE_EXPORT HCURSOR GetCursor();
 // On Windows: returns the shape that was shown before.
 KTQTBASE_EXPORT void SetCursor(HCURSOR hCursor);
 
-// Lets a window take input, or stops it.
+// Enables or disables input to a window.
 // Inert: returns true (1) and changes nothing. QWidget::setEnabled does.
 // On Windows: the result says whether the window was disabled before.
 KTQTBASE_EXPORT int EnableWindow(HWND hWnd, bool bEnable);
 
-// Gives a window the keyboard.
+// Gives a window the keyboard focus.
 // Inert: returns null and changes nothing. QWidget::setFocus does.
-// On Windows: returns the window that had the keyboard before.
+// On Windows: returns the window that had the focus before.
 KTQTBASE_EXPORT HWND SetFocus(HWND hWnd);
 
-// The window that has the keyboard.
+// The window that has the keyboard focus.
 // Inert: returns null. QApplication::focusWidget knows it.
-// On Windows: null only where no window of the thread has it.
+// On Windows: null only if no window of the thread has it.
 KTQTBASE_EXPORT HWND GetFocus();
 
 } // namespace KtUser32
