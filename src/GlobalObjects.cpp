@@ -1,8 +1,8 @@
 // SPDX-License-Identifier: MIT
 //
-// The process-wide objects of the library, in the order of their creation at load. They are
-// destroyed in the reverse order at unload: first the descriptors, then the list that held them,
-// then the prefix, which points to a descriptor and never follows that pointer when it dies.
+// The process-wide objects of the library, in the order in which they are made at load. They are
+// destroyed in the reverse order at unload: first the descriptors, then their list, then the
+// current folder, which may point to a descriptor but does not use that pointer when it dies.
 #include <KtQtBase/PathName.h>
 #include <KtQtBase/VolumeDescriptor.h>
 
@@ -14,7 +14,7 @@ static CDelVolumeList volumelistdel;
 
 CDelVolumeList::~CDelVolumeList()
 {
-    // By index, since a host's descriptor may look at the list while it dies.
+    // By index, since a host's descriptor may read the list while it dies.
     for (int i = 0; i < volumeList.size(); ++i)
         delete volumeList.at(i);
 }

@@ -9,7 +9,7 @@
 
 namespace {
 
-// The multibyte form of a wide name, or false where there is none.
+// Converts a wide name to multibyte text. Result: false if the name is null or does not convert.
 bool toNarrow(const wchar_t* name, std::vector<char>& narrow)
 {
     if (!name)
@@ -20,8 +20,8 @@ bool toNarrow(const wchar_t* name, std::vector<char>& narrow)
     return length != static_cast<std::size_t>(-1) && length < narrow.size();
 }
 
-// The C library answers a buffer that is too small and a text that does not convert with the same
-// -1, so a larger buffer is tried only up to this size.
+// The C library gives -1 both for a buffer that is too small and for a text that does not convert,
+// so larger buffers are tried only up to this size.
 constexpr std::size_t kLargestPrint = std::size_t{1} << 22;
 
 } // namespace

@@ -76,11 +76,11 @@ int KtQtFileDialog::DoModal()
     auto* const dialog = new QFileDialog(m_pParentWnd, m_strCaption, m_strDirectory, m_strFilter);
     m_pDialog = dialog;
     setUp(*dialog, m_attri);
-    // Kept: a dialog that is visible before exec() does not become Qt's modal window, and hosts go
-    // on using their other windows. The folder comes last, so that it wins over a selected file's.
+    // Kept: a dialog that is visible before exec() does not block the host's other windows. The
+    // folder is set last, so that it replaces the selected file's.
     dialog->setVisible(true);
     dialog->setDirectory(m_strDirectory);
-    // Any other end may have left no dialog.
+    // If the user did not accept, the dialog may be deleted already.
     if (dialog->exec() != QDialog::Accepted)
         return IDCANCEL;
     takeSelection(*this, *dialog);

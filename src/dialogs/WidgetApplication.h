@@ -8,7 +8,7 @@
 
 namespace ktqtbase {
 
-// Qt ends the process that makes a widget without a QApplication.
+// Without a QApplication Qt ends a process that makes a widget.
 inline bool hasWidgetApplication()
 {
     return qobject_cast<QApplication*>(QCoreApplication::instance());

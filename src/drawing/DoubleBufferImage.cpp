@@ -22,8 +22,8 @@ struct FreeBits
 };
 using Bits = std::unique_ptr<unsigned char, FreeBits>;
 
-// The product of the three, or -1 where an argument is negative or the product, or a row, does not
-// fit. A size of 0 must not hide a row that is too long.
+// The product of the three, or -1 if an argument is negative or the product, or a row, does not
+// fit. The row and the area are checked too, since a factor of 0 makes every product fit.
 int byteSize(int width, int height, int bytesPerPixel)
 {
     int row = 0;
@@ -37,7 +37,7 @@ int byteSize(int width, int height, int bytesPerPixel)
     return size;
 }
 
-// An empty area is still one byte, because a null pointer means that memory was refused.
+// At least one byte, because a null pointer means that memory was refused.
 Bits zeroedBits(int size)
 {
     if (size < 0)
@@ -46,7 +46,7 @@ Bits zeroedBits(int size)
     return Bits(static_cast<unsigned char*>(std::calloc(bytes, 1)));
 }
 
-// Qt would take a row of 0 bytes for a row of its own length, beyond the end of the bits.
+// For a row of 0 bytes Qt would use a length of its own and read beyond the end of the bits.
 QImage viewOf(unsigned char* bits, int width, int height, int rowBytes)
 {
     return rowBytes > 0 ? QImage(bits, width, height, rowBytes, kFormat) : QImage();

@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: MIT
 //
-// The device context itself: its device, its sessions and its saved states.
+// The device context: its device, its sessions and its saved states.
 #include <KtQtBase/drawing/Painter.h>
 
 #include "drawing/PainterClip.h"

@@ -29,7 +29,7 @@ QPainterPath pathOf(const POINT* points, const unsigned int* counts, unsigned in
     return path;
 }
 
-// One fill polygon for all of them: a union of regions would lose the holes.
+// One fill polygon for all of them, since a union of regions would have no holes.
 QRegion oddEvenRegion(const POINT* points, const unsigned int* counts, unsigned int n)
 {
     if (!points || n == 0)
@@ -40,8 +40,8 @@ QRegion oddEvenRegion(const POINT* points, const unsigned int* counts, unsigned 
 
 } // namespace
 
-// Qt frees the clip on Qt::NoClip while the pen and the brush that were last used still refer to
-// it; switching clipping off beforehand makes them let go.
+// On Qt::NoClip Qt frees the clip while the last pen and brush still point to it. If clipping is
+// switched off first, they no longer do.
 void ktqtbase::applyClip(QPainter& painter, const QRegion& region, Qt::ClipOperation operation)
 {
     if (operation == Qt::NoClip)

@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: MIT
 //
-// Clipping with Qt, and its removal without harm.
+// Sets and removes Qt's clips safely.
 #ifndef KTQTBASE_DRAWING_PAINTERCLIP_H
 #define KTQTBASE_DRAWING_PAINTERCLIP_H
 
@@ -11,11 +11,11 @@ class QRegion;
 
 namespace ktqtbase {
 
-// Sets the painter's clip. Qt::NoClip takes clipping away, and what was drawn with under the old
-// clip can be drawn with again.
+// Sets the painter's clip. Qt::NoClip removes it, and the pen and brush that were used under the
+// old clip stay usable.
 void applyClip(QPainter& painter, const QRegion& region, Qt::ClipOperation operation);
 
-// Makes a region the painter's clip, or takes clipping away where the region is empty.
+// Makes a region the painter's clip, or removes clipping if the region is empty.
 void replaceClip(QPainter& painter, const QRegion& region);
 
 } // namespace ktqtbase

@@ -18,7 +18,7 @@ const QPoint* qtPoints(const POINT* pts)
     return reinterpret_cast<const QPoint*>(pts);
 }
 
-// Always a closed figure: paths are recorded to be filled.
+// The figure is always closed, as the header says.
 void recordFigure(QPainterPath& path, const QPoint* points, int n)
 {
     path.moveTo(points[0]);

@@ -18,7 +18,7 @@ QString familyOf(const LOGFONTW& lf)
     return QString::fromWCharArray(lf.lfFaceName, static_cast<int>(end - lf.lfFaceName));
 }
 
-// Unsigned, because the product wraps at 32 bits where the numbers are silly.
+// Unsigned, because with very large numbers the product wraps at 32 bits.
 int pixelSizeOf(const LOGFONTW& lf, int depth)
 {
     const int height = lf.lfHeight > 0 ? lf.lfHeight : lf.lfWeight;

@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: MIT
 //
-// The path bracket, and the painting of paths.
+// Opening, closing and painting paths.
 #include <KtQtBase/drawing/Painter.h>
 
 #include <QtGui/QPainter>

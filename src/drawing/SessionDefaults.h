@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: MIT
 //
-// The pen and brush with which every drawing session starts, on a screen as on a printer.
+// The pen and brush with which every drawing session starts, on screens and printers alike.
 #ifndef KTQTBASE_DRAWING_SESSIONDEFAULTS_H
 #define KTQTBASE_DRAWING_SESSIONDEFAULTS_H
 

@@ -5,15 +5,15 @@
 
 namespace {
 
-// Null and 1 (the main program) name no module. The macOS loader refuses them itself; the one of the
-// GNU C library takes null for the global scope and reads what 1 points at.
+// Null and 1 (the main program) name no module. The macOS loader refuses them itself; that of the
+// GNU C library takes null for the global scope and reads from address 1.
 bool isModule(void* handle)
 {
     return handle && handle != reinterpret_cast<void*>(1);
 }
 
-// Neither does -1 (no handle), in which both loaders look symbols up and which only that of macOS
-// refuses to close.
+// Nor does -1 (no handle). Both loaders look symbols up in it, but only that of macOS refuses to
+// close it.
 bool canBeClosed(void* handle)
 {
     return isModule(handle) && handle != reinterpret_cast<void*>(-1);

@@ -1,5 +1,5 @@
 # SPDX-License-Identifier: MIT
-# Chooses the one source file that answers the platform's questions, and what it links.
+# Chooses the platform's own source file and the libraries that it needs.
 
 target_sources(KtQtBase PRIVATE platform/Loader.cpp)
 if(APPLE)

@@ -11,7 +11,8 @@
 
 namespace {
 
-// The kernel's link cuts a long path without a word, so it is read with room to spare.
+// readlink cuts a path that is too long without an error, so a path that fills all the room is read
+// again with more.
 std::string readExecutablePath()
 {
     std::string path;
@@ -39,7 +40,8 @@ namespace ktqtbase::platform {
 
 int executablePath(char* buffer, std::uint32_t* size)
 {
-    // Asked once, for the executable does not move; never freed, for hosts ask while they exit.
+    // Read once, since the path does not change; never freed, so that it can be read until the
+    // process ends.
     static const std::string& path = *new const std::string(readExecutablePath());
     const auto needed = static_cast<std::uint32_t>(path.empty() ? 0 : path.size() + 1);
     if (needed == 0 || needed > *size) {

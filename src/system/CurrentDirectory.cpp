@@ -24,7 +24,7 @@ unsigned int GetCurrentDirectoryW(unsigned int, wchar_t* lpBuffer)
     std::uint32_t size = sizeof path;
     ktqtbase::platform::executablePath(path, &size);
     dropFileName(path);
-    // Half of a folder's name would be another folder.
+    // A cut path would name another folder.
     if (!ktqtbase::widen(path, lpBuffer, ktqtbase::kTextRoom))
         lpBuffer[0] = L'\0';
     return size;

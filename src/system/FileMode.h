@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: MIT
 //
-// What the file system has under a name, as the file functions of Windows' names report it.
+// The mode of a file, as GetFileAttributes reports it.
 #ifndef KTQTBASE_SYSTEM_FILEMODE_H
 #define KTQTBASE_SYSTEM_FILEMODE_H
 

@@ -19,7 +19,7 @@ constexpr std::size_t kPartRoom = 512;
 constexpr std::uintptr_t kFirstNamePointer = 0x10000;
 const HINSTANCE kMainProgram = reinterpret_cast<HINSTANCE>(1);
 
-// Cuts a final ".dll" off, in whatever case it is written.
+// Removes a final ".dll", in any case.
 void dropDllSuffix(char* name)
 {
     char* dot = std::strrchr(name, '.');
@@ -27,7 +27,7 @@ void dropDllSuffix(char* name)
         *dot = '\0';
 }
 
-// Opens folder + "lib" + base + suffix, or nothing where that is too long.
+// Opens folder + "lib" + base + suffix, or nothing if that is too long.
 HINSTANCE openMapped(const char* folder, std::size_t folderLength, const char* base)
 {
     char fileName[ktqtbase::kTextRoom];

@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
 //
-// Hosts hand these records on as raw bytes and over shared-library borders, so a layout that
-// differs from the published one must fail the build and not a run.
+// Hosts pass these records to other libraries as raw bytes, so a layout that differs from the
+// published one must stop the build.
 #include <KtQtBase/windows/Records.h>
 
 #include <cstddef>

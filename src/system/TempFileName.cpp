@@ -21,8 +21,8 @@ const wchar_t* orEmpty(const wchar_t* text)
     return text ? text : L"";
 }
 
-// The number, or six characters that name no file in the working directory; empty where there are
-// none.
+// The number, or six characters that name no file in the working directory; empty if there are no
+// such characters.
 void makeUniquePart(unsigned int number, char (&unique)[kUniqueRoom])
 {
     if (number != 0) {

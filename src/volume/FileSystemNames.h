@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: MIT
 //
-// The names by which Windows knows its file systems.
+// Windows' names of its file systems.
 #ifndef KTQTBASE_VOLUME_FILESYSTEMNAMES_H
 #define KTQTBASE_VOLUME_FILESYSTEMNAMES_H
 
@@ -8,10 +8,10 @@
 
 namespace ktqtbase {
 
-// What every volume's file system is called while nothing can be asked about volumes.
+// The file system's name of every volume, since volumes cannot be asked.
 extern const wchar_t* const kUnknownFileSystem;
 
-// Whether a file system may report a name: its own, for FS_NFS any name that holds "NFS".
+// Whether a file system may have a name: its own one, or for FS_NFS any name that holds "NFS".
 bool isFileSystemNamed(FS_TYPE type, const wchar_t* name);
 
 } // namespace ktqtbase

@@ -43,7 +43,7 @@ bool CRbUiNTFSVolumeDescriptor::ValidateFilename(const CStdStr<wchar_t>* name,
         return false;
     if (!ValidateVolChar(name, static_cast<int>(_wcsnextc(name->c_str()))))
         return false;
-    // Two backslashes at the very start are those of a share.
+    // Two backslashes at the start belong to the name of a share.
     if (name->find(m_pUncPrefix, 1) != name->npos)
         return false;
     return holdsNoneOf(*this, *name, allowWildcards ? L"<>|/\"" : L"*<>?|/\"");

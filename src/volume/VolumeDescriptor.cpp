@@ -28,7 +28,7 @@ CRbUiVolumeDescriptor::CRbUiVolumeDescriptor(const CStdStr<wchar_t>& localName)
       m_maxPathLen(kDefaultMaxPathLen), m_separator(kBackslash), m_bUseCSearch(false),
       m_reserved(0), m_pAuxName(nullptr), m_pConnectionName(nullptr), m_pUncPrefix(kUncPrefix)
 {
-    // The one read of memory that this constructor did not write: a host may have set the bit.
+    // Reads memory that this constructor did not write: a host may have set the bit.
 #pragma GCC diagnostic push
 #pragma GCC diagnostic ignored "-Wuninitialized"
     m_flags = static_cast<unsigned char>((m_flags & kKeptByConstructor) | kBuiltFromName);

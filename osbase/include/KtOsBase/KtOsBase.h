@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
 //
-// The OS-base library: the few C runtime functions of Windows that libKtQtBase expects its host to
-// bring. This stand-in lets the library be built and used without a host's own.
+// The OS-base library: the few C runtime functions of Windows that libKtQtBase expects from its
+// host. With this stand-in the library can be built and used without a host's own.
 //
 //     for (const wchar_t* p = name; _wcsnextc(p) != 0; p = _wcsinc(p)) { ... }
 #ifndef KTOSBASE_KTOSBASE_H
@@ -24,13 +24,13 @@ KTOSBASE_EXPORT wchar_t* _wcsinc(const wchar_t* text);
 KTOSBASE_EXPORT unsigned int _wcsnextc(const wchar_t* text);
 
 // Formatted wide print into a buffer whose size is not passed.
-//   buffer    out: the text and its terminator; the caller provides room enough
+//   buffer    out: the text and its terminator; the caller provides enough room
 //   format    as for the C library's swprintf
 // Result: the number of characters before the terminator, or -1 when the format or an argument
 // cannot be converted (buffer then holds the empty string).
 KTOSBASE_EXPORT int swprintf(wchar_t* buffer, const wchar_t* format, ...);
 
-// Renames a file or a directory.
+// Renames a file or a folder.
 //   oldName, newName    wide names, converted by the current LC_CTYPE
 // Result: 0 done; -1 refused, also for a null name and for one that does not convert.
 KTOSBASE_EXPORT int _wrename(const wchar_t* oldName, const wchar_t* newName);

@@ -59,7 +59,7 @@ unsigned int CRegKey::QueryValue(wchar_t* szValue, const wchar_t* lpszValueName,
     m_pSettings->beginGroup(toQt(m_pKeyName));
     const QString text = stored(*m_pSettings, toQt(lpszValueName));
     const unsigned int room = pnChars ? *pnChars : 0;
-    // Kept: the group stays open, as the header promises.
+    // Kept: the group stays open, as the header says.
     if (static_cast<unsigned int>(text.size()) > room)
         return kTooLong;
     if (szValue)

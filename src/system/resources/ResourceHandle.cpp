@@ -27,5 +27,5 @@ bool CStdStr<T>::LoadString(unsigned int id)
     return ::LoadString(m_hCurrentResourceHandle, id, this->data(), kTextRoom) > 0;
 }
 
-// The string's own source does not know resources, so this operation is instantiated here.
+// WideString.cpp does not use resources, so this operation is instantiated here.
 template bool CStdStr<wchar_t>::LoadString(unsigned int id);
