@@ -1,13 +1,13 @@
 # SPDX-License-Identifier: MIT
-# What `cmake --install` puts where: the libraries, their headers, the CMake package and the
-# pkg-config module. Nothing that is installed holds the prefix, so a host may move it.
+# What `cmake --install` installs: the libraries, their headers, the CMake package and the
+# pkg-config module. No installed file holds the prefix, so a host may move them.
 
 include(CMakePackageConfigHelpers)
 
 set(KTQTBASE_CMAKE_DIR ${CMAKE_INSTALL_LIBDIR}/cmake/KtQtBase)
 set(KTQTBASE_PC_DIR ${CMAKE_INSTALL_LIBDIR}/pkgconfig)
 
-# The two libraries lie side by side, and the loader is to find the second next to the first.
+# The two libraries are in the same folder, and the loader looks for the second one there.
 if(APPLE)
     set_target_properties(KtQtBase PROPERTIES INSTALL_RPATH "@loader_path")
 else()
@@ -18,7 +18,7 @@ install(TARGETS KtQtBase EXPORT KtQtBaseTargets)
 install(DIRECTORY include/KtQtBase DESTINATION ${CMAKE_INSTALL_INCLUDEDIR})
 install(EXPORT KtQtBaseTargets NAMESPACE KtQtBase:: DESTINATION ${KTQTBASE_CMAKE_DIR})
 
-# A host's own OS-base library stays where the host has it; the package only points there.
+# A host's own OS-base library is not installed; the package only names its place.
 if(KTQTBASE_HOST_OSBASE)
     set(KTQTBASE_PC_OSBASE_LIBS "${KTQTBASE_HOST_OSBASE}")
     set(KTQTBASE_PC_OSBASE_CFLAGS "-I${KTQTBASE_HOST_OSBASE_INCLUDE}")
@@ -39,7 +39,7 @@ install(FILES
     ${PROJECT_BINARY_DIR}/KtQtBaseConfigVersion.cmake
     DESTINATION ${KTQTBASE_CMAKE_DIR})
 
-# The library folder may be one or two levels deep, so the module's way up to the prefix is measured.
+# The library folder may be one or two levels deep, so the relative path to the prefix is computed.
 file(RELATIVE_PATH KTQTBASE_PC_PREFIX
     ${CMAKE_INSTALL_FULL_LIBDIR}/pkgconfig ${CMAKE_INSTALL_PREFIX})
 file(RELATIVE_PATH KTQTBASE_PC_LIBDIR ${CMAKE_INSTALL_PREFIX} ${CMAKE_INSTALL_FULL_LIBDIR})

@@ -1,5 +1,5 @@
 # SPDX-License-Identifier: MIT
-# What a builder may switch, and the compile settings that every target of this project shares.
+# The options of a build, and the compile settings that all targets of this project share.
 
 option(KTQTBASE_BUILD_TESTS "Build the tests" ${PROJECT_IS_TOP_LEVEL})
 option(KTQTBASE_BUILD_EXAMPLES "Build the example programs" ${PROJECT_IS_TOP_LEVEL})
@@ -14,7 +14,7 @@ set(KTQTBASE_HOST_OSBASE_INCLUDE "" CACHE PATH
     "The folder that holds KtOsBase/KtOsBase.h of the host's own OS-base library")
 
 # Settings for one target: C++17, hidden symbols (Objective-C++ takes neither from the C++ ones),
-# warnings, and the sanitizers or counters where they are asked for.
+# warnings, and the sanitizers or counters if they are switched on.
 function(ktqtbase_target_settings target)
     set_target_properties(${target} PROPERTIES
         CXX_STANDARD 17

@@ -1,15 +1,15 @@
 #!/usr/bin/env bash
 # SPDX-License-Identifier: MIT
-# Compares what libKtQtBase.so exports with the list that is checked in: a missing symbol breaks a
-# host, a leaked one becomes something that hosts come to rely on.
+# Compares what libKtQtBase.so exports with the list that is checked in: a missing symbol breaks
+# hosts, and an additional one could not be removed later.
 #
 #     tools/check-exports.sh BUILD_DIR             compare, fail on a difference
 #     tools/check-exports.sh --update BUILD_DIR    rewrite the list
 set -euo pipefail
 list=$(dirname "$0")/../tests/exports/exported-symbols.txt
 
-# Templates of the standard library and of Qt have default visibility of their own, so whatever the
-# compiler did not inline appears as a weak symbol. Classes that begin with QKt are this library's.
+# Templates of the standard library and of Qt are visible by themselves, so those that the compiler
+# did not inline appear as weak symbols. Classes that begin with QKt belong to this library.
 is_foreign='^([^(<]* )?(std::|__gnu_cxx::|operator (new|delete)|Q[A-JL-Zt]|QK[a-su-z]|q[A-Zt])'
 is_toolchain='^(_init|_fini|__bss_start|_edata|_end|__asan_|__ubsan_|__odr_asan)'
 

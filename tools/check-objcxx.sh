@@ -1,13 +1,13 @@
 #!/usr/bin/env bash
 # SPDX-License-Identifier: MIT
-# Compiles, on Linux, what a Mac will compile: every public header after AppKit's, and the macOS
-# platform source. GNUstep stands in for Apple's frameworks.
+# Compiles on Linux what a Mac compiles: every public header after AppKit's, and the macOS platform
+# source. GNUstep takes the place of Apple's frameworks.
 set -euo pipefail
 cd "$(dirname "$0")/.."
 mac_source=src/platform/PlatformMac.mm
 
-# The compiler's own folder comes last: it is needed for <objc/objc.h> alone, and what else it holds
-# is g++'s.
+# The compiler's own folder comes last: only <objc/objc.h> is needed from it, and its other headers
+# belong to g++.
 compile() {
     # shellcheck disable=SC2046 # the flags are meant to be split
     clang++ -x objective-c++ -fobjc-runtime=gcc -std=c++17 -fPIC -fsyntax-only \
@@ -24,7 +24,7 @@ compile_headers() {
     done
 }
 
-# GNUstep runs on Linux, so its compiler would find what a Mac does not have.
+# GNUstep runs on Linux, so its compiler also accepts what a Mac does not have.
 find_linux_only() {
     if grep -nE '<link\.h>|<malloc\.h>|/proc\b' "$mac_source"; then
         echo "$mac_source: macOS has none of these" >&2

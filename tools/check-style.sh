@@ -1,11 +1,11 @@
 #!/usr/bin/env bash
 # SPDX-License-Identifier: MIT
-# House rules that no compiler checks. Prints every line or file that breaks one, then fails.
+# Checks house rules that no compiler checks. Prints every line or file that breaks one, then fails.
 set -euo pipefail
 cd "$(dirname "$0")/.."
 failed=0
 
-# Prints a rule and the lines on standard input that break it.
+# Prints a rule and the lines of standard input, which break it.
 report() {
     local offenders
     offenders=$(cat)
@@ -24,7 +24,7 @@ platform_conditionals() {
         '*.h' '*.cpp' '*.mm' ':!src/platform/' || true
 }
 
-# A script's first line belongs to the system, so the notice may stand on the second one.
+# The first line of a script is for the system, so the notice may be on the second one.
 unlicensed() {
     git ls-files -z '*.h' '*.cpp' '*.mm' '*.cmake' '*CMakeLists.txt' '*.in' '*.sh' '*.py' \
         run .ci/run |
@@ -32,8 +32,8 @@ unlicensed() {
             FNR == 2 && !seen { print FILENAME }'
 }
 
-# Sources speak for themselves: none sends its reader to a document that is not here. The brackets
-# keep the pattern from matching itself.
+# No source refers to a document that is not in the project. The brackets keep the pattern from
+# matching itself.
 outside_references() {
     local words='\bsp[e]c(ification)?\b|\b[i]nterface\.md\b|\bsha[r]ed/|\b[P]art [0-9]|\b[i]ssue #?[0-9]'
     git grep -nIiE "$words" -- ':!*.svg' ':!*.json' || true

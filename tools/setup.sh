@@ -1,7 +1,7 @@
 # shellcheck shell=bash
 # SPDX-License-Identifier: MIT
 # The packages that the scripts of this project need, and how each platform's package manager finds
-# and installs them. Sourced, never run. Kept to what the bash 3.2 of macOS knows.
+# and installs them. Sourced, never run. Uses only what the bash 3.2 of macOS knows.
 
 package_manager() {
     if [ "$(uname -s)" = Darwin ]; then
@@ -16,11 +16,11 @@ package_manager() {
 # The packages of one group (build, check or bench) under the names of this platform.
 packages() {
     case "$(package_manager):$1" in
-        # poppler-utils looks at printed pages; the packages behind it show the tests' windows on a
-        # display that nobody sees.
+        # poppler-utils reads printed pages; the packages after it show the tests' windows on an
+        # invisible display.
         apt:build) echo build-essential cmake ninja-build pkg-config qtbase5-dev libgtest-dev \
             libgmock-dev poppler-utils xvfb xauth openbox xdotool fonts-dejavu-core ;;
-        # The formatter's version is fixed, since each one lays out some lines in its own way.
+        # The formatter's version is fixed, since each version formats some lines differently.
         apt:check) echo git clang clang-format-14 libgnustep-gui-dev python3 ;;
         brew:build) echo cmake ninja pkg-config qt@5 googletest poppler ;;
         apt:bench) echo libbenchmark-dev libboost-filesystem-dev libglib2.0-dev libinih-dev \
@@ -55,7 +55,7 @@ install_packages() {
     esac
 }
 
-# Homebrew keeps Qt 5 out of the folders that CMake and pkg-config search by themselves.
+# Homebrew installs Qt 5 outside the folders that CMake and pkg-config search by default.
 find_homebrew_qt() {
     local qt
     qt=$(brew --prefix qt@5)
@@ -63,7 +63,7 @@ find_homebrew_qt() {
     export PKG_CONFIG_PATH="$qt/lib/pkgconfig${PKG_CONFIG_PATH:+:$PKG_CONFIG_PATH}"
 }
 
-# Makes the packages of one group available; leaves alone what is already there.
+# Installs the packages of one group that are not installed yet.
 setup() {
     local package missing=()
     if [ "$(package_manager)" = none ]; then
