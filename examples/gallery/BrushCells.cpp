@@ -28,7 +28,7 @@ void drawGradient(KtQtPainterWrapper& painter)
     painter.drawPolygon(kShape, 5);
 }
 
-// Dots and hatches, whose gaps show what the background does.
+// Dots and hatches; their gaps show the background.
 template<int mode>
 void drawBackground(KtQtPainterWrapper& painter)
 {

@@ -5,7 +5,7 @@ namespace {
 
 const QRect kWhole(0, 0, kCellWidth, kCellHeight);
 
-// Something in every place of the cell, so that the clip shows.
+// Fills the whole cell, so that the clip can be seen.
 void fillCell(KtQtPainterWrapper& painter)
 {
     painter.fillRect(kWhole, Qt::cyan);

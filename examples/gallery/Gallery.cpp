@@ -61,7 +61,7 @@ void drawFrame(KtQtPainterWrapper& painter)
     painter.drawPolygon(corners, 4);
 }
 
-// A stored clip outlives restore, so it is taken away here for all cells.
+// restore does not remove a stored clip, so it is removed here for all cells.
 void drawCell(KtQtPainterWrapper& painter, const Cell& cell, int x, int y)
 {
     painter.save();

@@ -10,8 +10,8 @@
 
 #include <vector>
 
-// One cell. It is drawn with its own upper left corner as the origin, kCellWidth by kCellHeight
-// large, with the pen and brush of a fresh session; whatever it sets is undone.
+// One cell of kCellWidth by kCellHeight. It is drawn with its upper left corner as the origin and
+// with the pen and brush of a new session; all that it sets is undone.
 struct Cell
 {
     const wchar_t* label;
@@ -34,11 +34,11 @@ Cells imageCells();
 // The size of the whole picture in pixels.
 QSize gallerySize();
 
-// Draws the whole picture; the painter is at work already.
+// Draws the whole picture; the painter has a session already.
 void drawGallery(KtQtPainterWrapper& painter);
 
-// The lfHeight that makes letters of about so many pixels on the painter's device, whose depth
-// takes part in the size.
+// The lfHeight of letters of about so many pixels on the painter's device; it depends on the
+// device's depth.
 int heightForPixels(const KtQtPainterWrapper& painter, int pixels);
 
 #endif

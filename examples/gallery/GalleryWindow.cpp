@@ -17,7 +17,7 @@ void GalleryWindow::paintEvent(QPaintEvent*)
     m_painter.endDraw();
 }
 
-// The widget has its new size already, so the old images must go before new ones are asked for.
+// The widget already has its new size, so the old images must go before new ones are made.
 void GalleryWindow::resizeEvent(QResizeEvent*)
 {
     m_buffer.destroyImages();

@@ -49,8 +49,8 @@ void drawDoubleBuffer(KtQtPainterWrapper& painter)
     painter.drawImage(target, *buffer.frontImage());
 }
 
-// Two discs that meet, on an image of their own: a PDF knows no composition modes. Raster
-// operations make sense of opaque colours only.
+// Two discs that overlap, on an image of their own, since a PDF has no composition modes. Raster
+// operations work with opaque colours only.
 template<int mode>
 void drawComposition(KtQtPainterWrapper& painter)
 {

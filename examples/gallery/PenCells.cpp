@@ -3,7 +3,7 @@
 
 namespace {
 
-// A bent line in a pen, wide enough that its pattern shows.
+// A bent line in a pen, wide enough that its pattern can be seen.
 template<int style>
 void drawStyle(KtQtPainterWrapper& painter)
 {

@@ -34,7 +34,7 @@ void fillRects(KtQtPainterWrapper& painter)
         painter.fillRect(QRect(8 + 24 * i, 8 + 6 * i, 22, 38), kColours[i]);
 }
 
-// Records the zigzag, which the path closes to a figure, and leaves the path open.
+// Records the zigzag, which becomes a closed figure, and leaves the path open.
 QPainterPath& recordZigzag(KtQtPainterWrapper& painter)
 {
     painter.setPen(PS_SOLID, 4, 0x00602080);

@@ -48,7 +48,7 @@ void drawFixedPitch(KtQtPainterWrapper& painter)
     write(painter, font, L"iiWWii");
 }
 
-// The weight stands in for a height that is not above 0.
+// The weight replaces a height that is not above 0.
 void drawNegativeHeight(KtQtPainterWrapper& painter)
 {
     LOGFONTW font = record(painter, 24, L"DejaVu Sans");

@@ -85,7 +85,7 @@ bool complain(const QFile& file)
     return false;
 }
 
-// Without a name there is nothing to write. Nothing is cut off yet: the other file may fail.
+// Without a name there is nothing to write. The file is not cut yet, since the other one may fail.
 bool openFile(QFile& file)
 {
     return file.fileName().isEmpty() || file.open(QIODevice::ReadWrite) || complain(file);
@@ -127,7 +127,7 @@ int main(int argc, char** argv)
     if (!openFile(pngFile) || !openFile(pdfFile))
         return kFailed;
     const bool toFiles = pngFile.isOpen() || pdfFile.isOpen();
-    // Files need fonts and no screen.
+    // Files need fonts but no screen.
     if (toFiles && qEnvironmentVariableIsEmpty("QT_QPA_PLATFORM"))
         qputenv("QT_QPA_PLATFORM", "offscreen");
     QApplication application(argc, argv);

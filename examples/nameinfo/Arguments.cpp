@@ -76,7 +76,7 @@ bool isOption(const std::string& value)
     return value.compare(0, 2, "--") == 0;
 }
 
-// Whether every heading to show is one of the columns that there will be.
+// Whether every heading to show is one of the columns.
 bool haveColumns(const Arguments& arguments)
 {
     const Row row = describe(std::wstring(), arguments.questions);

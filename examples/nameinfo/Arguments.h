@@ -9,7 +9,7 @@
 #include <string>
 #include <vector>
 
-// What the command line asks for.
+// The arguments of the command line.
 struct Arguments
 {
     NameSource source;
@@ -19,7 +19,7 @@ struct Arguments
     bool hasNames = false;
 };
 
-// Result: none where the command line is not understood, or gives neither a name nor a list.
+// Result: none if the command line is not understood, or has neither a name nor a list.
 std::optional<Arguments> readArguments(int count, char** values);
 
 #endif

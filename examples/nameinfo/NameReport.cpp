@@ -44,8 +44,8 @@ Answer copyOf(const CStdStr<wchar_t>* text)
     return text ? Answer(*text) : std::nullopt;
 }
 
-// The getters leave their argument alone where they have no answer, so one is told from an empty
-// answer by a text that no name holds.
+// A getter without an answer leaves its argument alone. A text that no name holds is put in first,
+// to tell that case from an empty answer.
 Answer ask(const CRbUiPathname& name, void (CRbUiPathname::*get)(CStdStr<wchar_t>&) const)
 {
     const std::wstring untouched(1, L'\0');
@@ -105,7 +105,7 @@ Answer unique(const CRnUiPathname& name)
     return copyOf(result.m_pWork);
 }
 
-// Asks the rules of the name's own volume, or of the first one for a name that is on none.
+// Asks the rules of the name's own volume, or of the first volume if the name has none.
 Answer validity(const CRnUiPathname& name, const std::wstring& text)
 {
     CStdStr<wchar_t> plain(text);

@@ -6,7 +6,7 @@
 #include <string>
 #include <vector>
 
-// One answer about a name: its heading, and the answer where there is one.
+// One answer about a name: its heading, and the answer, if any.
 struct Cell
 {
     const char* heading;
@@ -15,14 +15,14 @@ struct Cell
 
 using Row = std::vector<Cell>;
 
-// What is asked beside the parts of a name; each adds a column.
+// What is asked besides the parts of a name; each adds a column.
 struct Questions
 {
     bool parent = false;                    // the folder that holds it
     std::optional<std::wstring> extensions; // the name with an extension of this list
     std::optional<int> width;               // the name cut to so many characters
     std::optional<std::wstring> match;      // whether it denotes the same path as this one
-    bool unique = false;                    // a name in its folder that is free
+    bool unique = false;                    // a free name in the same folder
     bool status = false;                    // what may be done with it
     bool validate = false;                  // whether its volume takes it
 };

@@ -6,16 +6,16 @@
 #include <string>
 #include <vector>
 
-// Decodes UTF-8. Result: false where the bytes are none, or hold a NUL.
+// Decodes UTF-8. Result: false if the bytes are not UTF-8, or hold a NUL.
 bool decodeUtf8(const std::string& bytes, std::wstring& text);
 
-// Names as they were given, and what was wrong with the others.
+// The names given, and what was wrong with the others.
 struct NameSource
 {
     std::vector<std::wstring> names;
     std::vector<std::string> errors;
 
-    // Takes one name of UTF-8 bytes; place tells where it stood.
+    // Takes one name of UTF-8 bytes; place says where it comes from.
     void add(const std::string& bytes, const std::string& place);
 
     // Takes every line of a stream as a name.

@@ -11,7 +11,7 @@
 
 namespace {
 
-// A text as a terminal shows it, and how many cells it takes there.
+// A text as a terminal shows it, and the number of cells that it takes there.
 struct Shown
 {
     std::string bytes;

@@ -6,11 +6,11 @@
 
 #include <ostream>
 
-// Prints rows under their headings, each column as wide as its widest text. An answer that there is
-// none of is a dash, an empty one a pair of quotes.
+// Prints rows under their headings, each column as wide as its widest text. A missing answer is a
+// dash, an empty one a pair of quotes.
 void printTable(std::ostream& out, const std::vector<Row>& rows);
 
-// Prints rows as a JSON array of objects; an answer that there is none of is null.
+// Prints rows as a JSON array of objects; a missing answer is null.
 void printJson(std::ostream& out, const std::vector<Row>& rows);
 
 #endif

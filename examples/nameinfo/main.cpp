@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: MIT
 //
-// Shows what the library makes of file names as a Windows program writes them.
+// Shows how the library parses file names of a Windows program.
 #include "Arguments.h"
 #include "ReportPrinter.h"
 
@@ -29,15 +29,15 @@ const char* const kUsage =
 
 constexpr int kBadInput = 2;
 
-// The library converts names with LC_CTYPE; macOS and Linux know plain UTF-8 under two names.
+// The library converts names with LC_CTYPE; plain UTF-8 has different names on macOS and Linux.
 void useUtf8()
 {
     if (!std::setlocale(LC_CTYPE, "UTF-8"))
         std::setlocale(LC_CTYPE, "C.UTF-8");
 }
 
-// What a ported application does before it parses names: it tells the library which drives there
-// are, and where relative names lie.
+// What a ported application does before it parses names: it registers its drives, and sets the
+// folder of relative names.
 void setUpNames()
 {
     // The library owns its list's descriptors and deletes them when it is unloaded.

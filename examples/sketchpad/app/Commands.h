@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: MIT
 //
-// The numbers of the commands in menus, on the toolbar and in scripts.
+// The numbers of the commands, for menus, toolbar and scripts.
 #ifndef SKETCHPAD_COMMANDS_H
 #define SKETCHPAD_COMMANDS_H
 

@@ -14,8 +14,7 @@ namespace {
 
 constexpr wchar_t kSection[] = L"Sketchpad";
 
-// The number beside a key. GetPrivateProfileInt would answer 0 for a missing key, whatever default
-// it is given.
+// The number of a key. GetPrivateProfileInt would give 0 for a missing key, and not its default.
 int ProfileNumber(const wchar_t* key, int fallback, int lowest, int highest, const wchar_t* file)
 {
     wchar_t text[32] = {};
@@ -27,7 +26,7 @@ int ProfileNumber(const wchar_t* key, int fallback, int lowest, int highest, con
     return static_cast<int>(std::clamp<long>(number, lowest, highest));
 }
 
-// The profile functions open a file for reading and writing, and one that refuses that is absent.
+// The profile functions open a file for reading and writing; if that fails, it counts as absent.
 bool IsRead(const std::wstring& path)
 {
     return std::fstream(Narrow(path).value_or(std::string()), std::ios::in | std::ios::out)

@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: MIT
 //
-// What the program starts with, from sketchpad.ini beside the executable.
+// What the program starts with, from sketchpad.ini in the executable's folder.
 #ifndef SKETCHPAD_DEFAULTS_H
 #define SKETCHPAD_DEFAULTS_H
 
@@ -13,8 +13,7 @@ struct CDefaults
     int grid = 20; // pixels between two lines; 0 for none
 };
 
-// A file that is missing, or that may not be written, counts as absent: the built-in defaults then
-// hold, and reason says so.
+// If the file is missing or may not be written, the built-in defaults are used, and reason says so.
 CDefaults ReadDefaults(std::wstring& reason);
 
 #endif

@@ -15,7 +15,7 @@
 namespace {
 
 constexpr char kSignature[] = "SKETCHPAD 1";
-constexpr std::size_t kLongestFolder = 1000; // GetTempFileName's buffer has no bound of its own
+constexpr std::size_t kLongestFolder = 1000; // GetTempFileName does not know its buffer's size
 
 std::wstring NumberedReason(int line, const std::wstring& what)
 {
@@ -52,7 +52,7 @@ std::wstring TemporaryNameFor(const std::wstring& path)
     return name;
 }
 
-// Whether it works is what the stream says in the end: no Windows call here reports a short write.
+// Only the stream, at its end, says whether it worked: no Windows call here reports a short write.
 bool WriteLines(const std::string& path, const std::vector<CShape>& shapes, std::wstring& reason)
 {
     errno = 0;

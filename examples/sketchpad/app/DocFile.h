@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: MIT
 //
-// The file of a drawing: UTF-8 text, a line a shape.
+// The file of a drawing: UTF-8 text, one line for each shape.
 //
 //     SKETCHPAD 1
 //     polygon 0 3 0000ff 00ffff 3 10,10 90,10 50,80
@@ -16,8 +16,8 @@
 // Result: whether the whole file was understood; if not, shapes is unspecified and reason says why.
 bool ReadSketch(const std::wstring& path, std::vector<CShape>& shapes, std::wstring& reason);
 
-// Writes beside the file first and renames then, so that a failure leaves the former file as it
-// was.
+// Writes a temporary file in the same folder and renames it, so that a failure leaves the former
+// file as it was.
 bool WriteSketch(const std::wstring& path, const std::vector<CShape>& shapes, std::wstring& reason);
 
 #endif

@@ -18,7 +18,7 @@ constexpr int kNameWidth = 40;
 constexpr int kTitleWidth = 24;
 constexpr int kStatusExists = 1;
 
-// The window's input, off for as long as a dialog runs.
+// Switches the window's input off while a dialog runs.
 class CInputPause
 {
 public:
@@ -31,7 +31,7 @@ private:
     CShell& m_shell;
 };
 
-// Every box has the buttons Yes and No, so that only a question looks at which one it was.
+// Every box has the buttons Yes and No, so only a question looks at the answer.
 void Report(const std::wstring& text)
 {
     AfxMessageBox(text.c_str(), MB_OK | MB_ICONEXCLAMATION);
@@ -119,7 +119,7 @@ bool CSketchApp::OpenFile(const std::wstring& name)
     return true;
 }
 
-// Turns what was typed into the name that is written, and asks before that replaces a file.
+// Turns what was typed into the name to write, and asks before a file is replaced.
 bool CSketchApp::TakeName(const std::wstring& typed, const wchar_t* extension, bool asked,
                           CRnUiPathname& name)
 {
@@ -129,7 +129,7 @@ bool CSketchApp::TakeName(const std::wstring& typed, const wchar_t* extension, b
         Report(Text(IDS_BADNAME, typed, reason));
         return false;
     }
-    // Qt's dialog has asked about the name as it was typed, which is another one by now.
+    // Qt's dialog has asked about the name as it was typed, which may be another one.
     const bool exists = name.Status() & kStatusExists;
     if (!exists || (asked && !added) || FullPath(name) == m_document.GetPathName())
         return true;

@@ -17,7 +17,7 @@ std::wstring SegmentTyped(const std::wstring& typed)
     return typed.substr(typed.rfind(L'/') + 1);
 }
 
-// Drawings travel to Windows machines, so their names keep to what NTFS takes.
+// Drawings are also used on Windows machines, so their names must be valid on NTFS.
 bool IsValidSegment(const std::wstring& segment)
 {
     CRbUiNTFSVolumeDescriptor rules(CStdStr<wchar_t>(L"C:"));

@@ -7,7 +7,7 @@
 #include <optional>
 #include <string>
 
-// In the LC_CTYPE that LoadLibrary has set: UTF-8. Nothing where a character does not convert.
+// In UTF-8, the LC_CTYPE that LoadLibrary has set. Nothing if a character does not convert.
 std::optional<std::string> Narrow(const std::wstring& text);
 std::optional<std::wstring> Widen(const std::string& bytes);
 

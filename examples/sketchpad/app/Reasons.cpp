@@ -12,6 +12,6 @@ std::wstring ReasonOf(const std::error_code& error)
 
 std::wstring LastErrorReason()
 {
-    const auto code = static_cast<int>(GetLastError()); // errno, and no Windows number
+    const auto code = static_cast<int>(GetLastError()); // errno, not a Windows number
     return code ? ReasonOf({code, std::generic_category()}) : L"the disk did not take it";
 }

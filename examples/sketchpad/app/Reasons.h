@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: MIT
 //
-// Why something did not work, in words.
+// Texts that say why something did not work.
 #ifndef SKETCHPAD_REASONS_H
 #define SKETCHPAD_REASONS_H
 

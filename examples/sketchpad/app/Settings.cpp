@@ -8,13 +8,13 @@
 
 namespace {
 
-// A CRegKey keeps the pointer to its path and no copy, so these live as long as the program.
+// A CRegKey keeps the pointer to its path, not a copy, so these live as long as the program.
 constexpr wchar_t kWindowKey[] = L"Software\\Sketchpad\\Window";
 constexpr wchar_t kRecentKey[] = L"Software\\Sketchpad\\Recent";
 constexpr std::size_t kMostRecent = 4;
 
-// The buffer is zero-filled, as QueryValue writes no terminator; and each try has an object of its
-// own, since one that has met a text too long for it reads elsewhere from then on.
+// The buffer is filled with zeros, since QueryValue writes no terminator. Each try has an object of
+// its own, since after a text that was too long an object reads from another place.
 std::wstring ReadText(const wchar_t* path, const wchar_t* name)
 {
     for (unsigned int room = 64; room <= 4096; room *= 4) {

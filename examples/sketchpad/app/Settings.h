@@ -10,7 +10,7 @@
 #include <string>
 #include <vector>
 
-// The window's place, in pixels; nothing where none was stored.
+// The window's place, in pixels; nothing if none was stored.
 std::optional<CRect> ReadWindowPlace();
 void WriteWindowPlace(const CRect& place);
 

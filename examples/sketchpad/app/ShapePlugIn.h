@@ -10,7 +10,7 @@
 
 #include "Shape.h"
 
-// Loads starshape.dll from beside the executable.
+// Loads starshape.dll from the executable's folder.
 // Result: whether the module is there and has the function.
 bool LoadShapePlugIn();
 

@@ -60,7 +60,7 @@ bool ReadText(std::istream& stream, CShape& shape)
     const auto text = Widen(rest);
     if (!text || text->size() < 2)
         return false;
-    shape.text = text->substr(1); // the blank behind the point
+    shape.text = text->substr(1); // the blank after the point
     return true;
 }
 

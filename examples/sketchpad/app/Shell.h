@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: MIT
 //
-// What the program asks of the window around it.
+// What the program needs from its window.
 #ifndef SKETCHPAD_SHELL_H
 #define SKETCHPAD_SHELL_H
 
@@ -16,7 +16,7 @@ public:
 
     // The parent of dialogs.
     virtual CWnd* GetMainWnd() = 0;
-    // While a dialog runs its parent still takes input by itself, so the shell must stop it.
+    // While a dialog runs, its parent still takes input, so the shell must stop it.
     virtual void EnableInput(bool enable) = 0;
     virtual void SetWindowText(const std::wstring& title) = 0;
     virtual void SetRecentFiles(const std::vector<std::wstring>& names) = 0;

@@ -22,18 +22,18 @@ public:
     // Result: whether the number is that of a command.
     bool OnCommand(UINT id);
 
-    // Each tells its failures in a box and leaves the drawing as it was.
+    // Each reports a failure in a box and leaves the drawing as it was.
     //   name     in: an absolute name
-    //   asked    in: whether a dialog has already asked about replacing this very name
+    //   asked    in: whether a dialog has already asked about replacing this name
     bool OpenFile(const std::wstring& name);
     bool SaveFile(const std::wstring& name, bool asked);
     bool PrintFile(const std::wstring& name, bool asked);
     bool SaveCopy();
 
-    // Result: whether nothing unsaved is left, or the user gives it up.
+    // Result: whether nothing unsaved is left, or the user discards it.
     bool SaveModified();
 
-    // Brings title and menus up to date.
+    // Updates title and menus.
     void UpdateFrame();
 
 private:

@@ -13,7 +13,7 @@ public:
     void DeleteContents();
     void AddShape(const CShape& shape);
     bool RemoveLast();
-    // Result: how many shapes went.
+    // Result: how many shapes were removed.
     int RemoveIf(const std::function<bool(const CShape&)>& wanted);
     void ReplaceLast(const CShape& shape);
     const std::vector<CShape>& GetShapes() const { return m_shapes; }
@@ -23,7 +23,7 @@ public:
     const std::wstring& GetPathName() const { return m_strPathName; }
     void SetPathName(const std::wstring& path) { m_strPathName = path; }
 
-    // Both leave the drawing as it is where they fail, and say why.
+    // If one fails, it leaves the drawing as it is and says why.
     bool OnOpenDocument(const std::wstring& path, std::wstring& reason);
     bool OnSaveDocument(const std::wstring& path, std::wstring& reason);
 

@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
 //
-// What the tools and the view say to each other. SendMessage answers 0 whatever the receiver does:
-// answers travel through the memory that lParam points to.
+// The messages between the tools and the view. SendMessage always returns 0: answers go through the
+// memory that lParam points to.
 #ifndef SKETCHPAD_SKETCHMESSAGES_H
 #define SKETCHPAD_SKETCHMESSAGES_H
 
@@ -15,7 +15,7 @@ constexpr UINT WM_SKETCH_SELECT = WM_USER + 5;    // lParam: const CRect*
 constexpr UINT WM_SKETCH_DRAGRECT = WM_USER + 6;  // lParam: const CRect*, or 0 to end it
 constexpr UINT WM_SKETCH_SETTOOL = WM_USER + 7;   // wParam: a ToolId
 constexpr UINT WM_SKETCH_GETCOUNTS = WM_USER + 8; // lParam: CSketchCounts*, written
-constexpr UINT WM_SKETCH_CHANGED = WM_USER + 9;   // posted when the drawing is not as it was
+constexpr UINT WM_SKETCH_CHANGED = WM_USER + 9;   // posted when the drawing has changed
 
 struct CSketchCounts
 {

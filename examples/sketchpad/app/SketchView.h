@@ -20,7 +20,7 @@ public:
     // The window through which the tools talk to this view.
     void OnCreate(HWND window);
 
-    // Called after each change that should be seen.
+    // Called after each visible change.
     void SetChangedHandler(const std::function<void()>& handler) { m_changed = handler; }
 
     // Result: whether the message is one of this view's.
@@ -33,7 +33,7 @@ public:
     void DeleteSelection();
     // Makes a text that is being typed part of the drawing.
     void FinishInput();
-    // Forgets selection and preview, for another drawing.
+    // Removes selection and preview, before another drawing is shown.
     void OnInitialUpdate();
 
     SIZE GetExtent() const; // of paper and margins, in pixels

@@ -4,7 +4,7 @@
 #ifndef SKETCHPAD_TEXTIDS_H
 #define SKETCHPAD_TEXTIDS_H
 
-// In texts with a %ls it stands for a name, a reason or a number.
+// A %ls in a text is a name, a reason or a number.
 enum TextId : unsigned int
 {
     IDS_APPTITLE = 101,

@@ -70,7 +70,7 @@ std::wstring Fill(std::wstring text, const std::wstring& argument)
 
 std::wstring LoadTexts()
 {
-    // Names no module, but sets the locale in which the executable's own path is read next.
+    // Loads no module, but sets the locale in which the executable's own path is read next.
     LoadLibrary(L"/");
     ktuiSetCurrentDirPrefix();
     const std::wstring path = BesideExecutable(kModule);

@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: MIT
 //
-// The program's texts: from the resource module, or the built-in ones where that is missing.
+// The program's texts: from the resource module, or the built-in ones if that is missing.
 #ifndef SKETCHPAD_TEXTS_H
 #define SKETCHPAD_TEXTS_H
 
@@ -8,8 +8,8 @@
 
 #include <string>
 
-// Loads the resource module that lies beside the executable. Comes before all else, since it also
-// sets the locale in which names convert; and after the application object, which resets that.
+// Loads the resource module from the executable's folder. Call it before everything else, since it
+// also sets the locale in which names convert, but after the application object, which resets that.
 // Result: an empty text, or why the built-in texts are used.
 std::wstring LoadTexts();
 

@@ -35,7 +35,7 @@ std::vector<POINT> EllipsePoints(POINT from, POINT to)
     return points;
 }
 
-// Makes a figure between the points where the button went down and where it is now.
+// Makes a figure between the point where the button was pressed and the mouse.
 class CDragTool : public CTool
 {
 public:
@@ -123,7 +123,7 @@ private:
     POINT m_from = {};
 };
 
-// A click chooses the place; the text grows with each key until Return, or until another click.
+// A click chooses the place; each key adds to the text until Return or another click.
 class CTextTool : public CTool
 {
 public:

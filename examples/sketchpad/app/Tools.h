@@ -19,7 +19,7 @@ public:
     virtual void OnMove(POINT point) = 0;
     virtual void OnUp(POINT point) = 0;
     virtual void OnChar(wchar_t) {}
-    // Ends what is half done, when another tool takes over or the drawing is about to be saved.
+    // Completes an unfinished shape before another tool is chosen or the drawing is saved.
     virtual void Finish() {}
 
 protected:

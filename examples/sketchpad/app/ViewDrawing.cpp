@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: MIT
 //
-// How the view paints: on the screen and on paper, with the same calls.
+// How the view paints, with the same calls on the screen and on paper.
 #include "SketchView.h"
 
 #include <KtQtBase/PainterWrapper.h>
@@ -11,7 +11,7 @@
 namespace {
 
 constexpr LONG kMargin = 16;
-constexpr int kHollow = 0; // this and the raster operation are Qt's numbers, not Windows'
+constexpr int kHollow = 0; // like the raster operation a number of Qt's, not of Windows'
 constexpr COLORREF kDesk = RGB(208, 212, 220);
 constexpr COLORREF kPaper = RGB(255, 255, 255);
 constexpr COLORREF kGrid = RGB(214, 222, 235);

@@ -15,7 +15,7 @@ BoxAnswerer::BoxAnswerer(QObject* parent) : QObject(parent)
     qApp->installEventFilter(this);
 }
 
-// Only when the event loop of the box runs can it be closed.
+// A box can be closed only while its event loop runs.
 bool BoxAnswerer::eventFilter(QObject* object, QEvent* event)
 {
     if (event->type() != QEvent::Show || object == m_seen)
@@ -41,7 +41,7 @@ void BoxAnswerer::answer(QMessageBox* box)
         box->reject();
 }
 
-// A dialog that refuses the name would wait for a human.
+// A dialog that refuses the name would wait for a user.
 void BoxAnswerer::choose(QFileDialog* dialog)
 {
     m_seen = nullptr;

@@ -10,7 +10,7 @@
 class QFileDialog;
 class QMessageBox;
 
-// Answers boxes and file dialogs in the place of a human.
+// Answers boxes and file dialogs in place of a user.
 class BoxAnswerer : public QObject
 {
     Q_OBJECT
@@ -18,14 +18,14 @@ class BoxAnswerer : public QObject
 public:
     explicit BoxAnswerer(QObject* parent);
 
-    // What the next box, or the next file dialog, is answered with, in turn.
+    // The answers for the next boxes, and for the next file dialogs, in order.
     void answerNext(bool yes) { m_answers.append(yes); }
     void chooseNext(const QString& name) { m_choices.append(name); }
 
-    // Whether an answer or a choice is left that nothing asked for.
+    // Whether an answer or a choice is left over.
     bool hasLeftovers() const { return !m_answers.isEmpty() || !m_choices.isEmpty(); }
 
-    // Called with each box's text and its answer; expected is false where no answer was ready.
+    // Called with each box's text and its answer; expected is false if no answer was ready.
     std::function<void(const QString& text, bool yes, bool expected)> answered;
 
 protected:

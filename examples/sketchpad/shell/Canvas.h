@@ -8,7 +8,7 @@
 
 class CSketchView;
 
-// The view's window: hands messages, mouse and keys on to it, and shows what it paints.
+// The view's window: passes messages, mouse and keys to the view, and shows what it paints.
 class Canvas : public QWidget
 {
     Q_OBJECT

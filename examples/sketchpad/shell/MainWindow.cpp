@@ -21,7 +21,7 @@ namespace {
 
 constexpr int kRecentWidth = 36;
 constexpr int kVisiblePart =
-    60; // of the window, in pixels, that a stored place must leave on screen
+    60; // pixels of the window that must be on screen at a stored place
 
 QString toQt(const std::wstring& text)
 {

@@ -10,7 +10,7 @@
 
 namespace {
 
-constexpr int kPixelsPerInch = 80; // with which a paper of the usual size fills the sheet
+constexpr int kPixelsPerInch = 80; // so that a paper of the usual size fills the sheet
 
 } // namespace
 
@@ -21,7 +21,7 @@ bool printToPdf(const CSketchView& view, const std::wstring& path)
     writer.setPageOrientation(QPageLayout::Landscape);
     writer.setResolution(kPixelsPerInch);
     KtQtPrinterPainter painter(&writer);
-    // beginDraw says true for a file that cannot be written, too.
+    // beginDraw gives true even for a file that cannot be written.
     const bool ready = painter.wrappedPainter()->isActive() && painter.beginDraw();
     if (ready) {
         view.OnPrint(painter);

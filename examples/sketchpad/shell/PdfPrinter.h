@@ -7,7 +7,7 @@
 class CSketchView;
 
 // Prints the drawing on one sheet of A4, lengthwise.
-// Result: false where the file cannot be written.
+// Result: false if the file cannot be written.
 bool printToPdf(const CSketchView& view, const std::wstring& path);
 
 #endif

@@ -27,7 +27,7 @@ std::wstring nameIn(std::istream& arguments)
     return AbsoluteName(Widen(restOf(arguments)).value_or(std::wstring()));
 }
 
-// The place of a word in a list, or the list's length.
+// The position of a word in a list, or the list's length.
 template<std::size_t N>
 UINT indexOf(const std::string& word, const char* const (&words)[N])
 {

@@ -38,7 +38,7 @@ void ScriptPlayer::start()
     QTimer::singleShot(0, this, &ScriptPlayer::step);
 }
 
-// One command a turn of the event loop, so that posted messages arrive between two of them.
+// Each command in its own turn of the event loop, so that posted messages arrive in between.
 void ScriptPlayer::step()
 {
     if (m_next == m_lines.size()) {

@@ -10,8 +10,8 @@
 
 class MainWindow;
 
-// Replays a session that a file holds, a command a line, and prints what the program showed.
-// docs/porting.md lists the commands. Names are taken against the working folder.
+// Replays a session from a file with one command on each line, and prints what the program showed.
+// docs/porting.md lists the commands. Relative names lie in the working directory.
 class ScriptPlayer : public QObject
 {
     Q_OBJECT
@@ -22,8 +22,8 @@ public:
     // Result: whether the file could be read.
     bool load(const std::string& path);
 
-    // Plays when the event loop runs, closes the window at the end and leaves the application: with
-    // 0, or 1 where a command failed or a box had no answer ready.
+    // Plays when the event loop runs, then closes the window and ends the application: with 0, or
+    // with 1 if a command failed or a box had no answer ready.
     void start();
 
 private:

@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: MIT
 //
-// A small drawing program, written as a Windows program is.
+// A small drawing program, written like a Windows program.
 #include "MainWindow.h"
 #include "ScriptPlayer.h"
 #include "app/FileNames.h"
