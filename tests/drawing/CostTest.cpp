@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: MIT
 //
-// A call on the wrapper allocates what the QPainter calls behind it allocate, and no more.
+// A call on the wrapper allocates what its QPainter calls allocate, and no more.
 #include "drawing/Twin.h"
 #include "support/AllocationCounter.h"
 
@@ -13,7 +13,7 @@ const QPoint kQtCorners[] = {{5, 5}, {90, 20}, {40, 80}, {10, 60}};
 const QBrush kGreen(Qt::green);
 const QPen kRed(QBrush(Qt::red), 3);
 
-// The last of a few like calls, which finds every cache filled.
+// The last of a few equal calls, for which every cache is filled.
 template<class Calls>
 long allocationsOf(Calls calls)
 {

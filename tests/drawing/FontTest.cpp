@@ -215,7 +215,7 @@ TEST(FontFamily, EndsAtTheTerminator)
     EXPECT_EQ(fontSetBy(lf).family(), QStringLiteral("Mono"));
 }
 
-// On the heap, where a sanitizer sees a character being read behind the record.
+// On the heap, where a sanitizer reports a read after the end of the record.
 TEST(FontFamily, MayFillTheRecordWithoutATerminator)
 {
     const auto lf = std::make_unique<LOGFONTW>(record({"", 18, 400, 0, 0}));

@@ -1,7 +1,6 @@
 // SPDX-License-Identifier: MIT
 //
-// Single operations with arguments drawn by lot, to be made on the wrapper and on the plain painter
-// alike.
+// Single operations with random arguments, for the wrapper and for the plain painter.
 #ifndef KTQTBASE_TESTS_DRAWING_OPERATIONS_H
 #define KTQTBASE_TESTS_DRAWING_OPERATIONS_H
 
@@ -15,7 +14,7 @@
 
 namespace drawing {
 
-// Numbers by lot, the same ones from the same seed on every platform.
+// Random numbers, the same ones from the same seed on every platform.
 class Lot
 {
 public:
@@ -49,7 +48,7 @@ struct Operation
     void (*onPlain)(PlainPainter&, Lot&);
 };
 
-// All of them but the ones that open and close sessions and saved states.
+// All of them, except those that open and close sessions and saved states.
 const std::vector<Operation>& operations();
 
 } // namespace drawing

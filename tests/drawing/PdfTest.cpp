@@ -14,8 +14,8 @@ namespace {
 // One unit is a pixel of the screen and a point of the page.
 constexpr QSize kPage(200, 150);
 
-// The other program smooths nothing here, but rounds edges by half a pixel in its own way and has
-// its own idea of glyphs: one pixel in fifty may differ by more than a quarter of the scale.
+// The other program smooths nothing here, but rounds edges by half a pixel and draws glyphs in its
+// own way: one pixel in fifty may differ by more than a quarter of the scale.
 constexpr support::Tolerance kTolerance = {64, 0.02};
 
 void drawShapes(KtQtPainterWrapper& p)

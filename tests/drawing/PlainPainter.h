@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
 //
-// The operations of the wrapper, said again in plain QPainter calls: what random programs are
-// compared with. It shares no code with the library.
+// The operations of the wrapper in plain QPainter calls, with which random programs are compared.
+// It shares no code with the library.
 #ifndef KTQTBASE_TESTS_DRAWING_PLAINPAINTER_H
 #define KTQTBASE_TESTS_DRAWING_PLAINPAINTER_H
 

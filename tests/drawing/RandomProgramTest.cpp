@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: MIT
 //
-// Programs of operations by lot, run through the wrapper and through plain QPainter calls.
+// Random programs of operations, run through the wrapper and through plain QPainter calls.
 #include "drawing/Operations.h"
 #include "drawing/Twin.h"
 
@@ -14,7 +14,7 @@ constexpr unsigned kFirstSeed = 20240501;
 constexpr int kProgramsPerTest = 100;
 constexpr int kLeastOperations = 20;
 
-// Both painters at work on one program, with the tale of what they did.
+// Both painters with one program, and a record of what they did.
 class Run
 {
 public:

@@ -48,8 +48,8 @@ TEST(Wrapper, HasItsFieldsInOrderAndNoVirtualTable)
     EXPECT_FALSE(std::is_polymorphic<KtQtPainterWrapper>::value);
 }
 
-// The decision that hosts rely on: they keep the painter and the path longer than the wrapper. A
-// smart pointer inside the wrapper would break both tests.
+// Pointers to the painter and to the path stay valid after the wrapper. A smart pointer inside the
+// wrapper would break both tests.
 TEST(WrapperDestructor, LeavesThePainterUsable)
 {
     QImage image = drawing::ground();

@@ -23,19 +23,19 @@ constexpr QImage::Format kScreen = QImage::Format_ARGB32_Premultiplied;
 using WrapperCalls = std::function<void(KtQtPainterWrapper&)>;
 using PlainCalls = std::function<void(QPainter&)>;
 
-// A picture of many translucent colours, so that whatever is painted over it shows.
+// A picture of many translucent colours, on which all painting can be seen.
 QImage ground(QImage::Format format = kScreen, QSize size = QSize(96, 96));
 
 // Begins painting as the wrapper does: a black one-pixel pen and a black brush.
 void beginPlain(QPainter& painter, QImage& image);
 
-// Success where both make the same picture and it is not the mere ground. The wrapper's calls run
+// Success if both make the same picture and it is not just the ground. The wrapper's calls run
 // between its beginDraw and endDraw.
 ::testing::AssertionResult drawsLike(const WrapperCalls& calls, const PlainCalls& plainCalls,
                                      QImage::Format format = kScreen);
 
-// Removes clipping as it has to be done with Qt 5.15, where Qt::NoClip alone leaves the pen and the
-// brush that were used under the clip with a clip that is freed.
+// Removes clipping. With Qt 5.15, Qt::NoClip alone would leave the pen and the brush that were used
+// under the clip with a pointer to the freed clip.
 void removeClip(QPainter& painter);
 
 } // namespace drawing

@@ -23,7 +23,7 @@ namespace {
 
 using support::AllocationCounter;
 
-// The last of a few like calls, which finds every cache filled.
+// The last of a few equal calls, for which every cache is filled.
 template<class Call>
 long allocationsOf(Call call)
 {

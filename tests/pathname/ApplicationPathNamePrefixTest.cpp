@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
 //
-// The executable's folder as this program makes it up: a definition of its own takes the place of
-// the library's GetCurrentDirectoryW.
+// An invented folder of the executable: this program's own definition replaces the library's
+// GetCurrentDirectoryW.
 #include "pathname/HandMadePath.h"
 #include "pathname/Scopes.h"
 

@@ -28,7 +28,7 @@ void makeName(const ScratchFolder& scratch, const StatusRow& row, CRnUiPathname&
     ASSERT_EQ(name.Parse(scratch.widePath("dir/file").c_str(), false), 0);
 }
 
-// A parse that answers 1 and yet leaves a name, or answers 0 and leaves none.
+// A parse that returns 1 although it leaves a name, or 0 although it leaves none.
 class ContraryPath : public CRnUiPathname
 {
 public:

@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
 //
 // Every operation of the path family with its first allocation failing, then its second, and so on
-// until it gets through: the exception passes, and what is left is whole.
+// until it succeeds: the exception passes, and the objects stay consistent.
 #include "pathname/AllocationSweep.h"
 #include "pathname/HandMadePath.h"
 #include "pathname/Scopes.h"

@@ -17,7 +17,7 @@ using ktqtbase::test::Text;
 // What an output holds that was not written.
 const wchar_t* const kUntouched = L"#untouched#";
 
-// A name made of its fields, so that no file on disk has a say in its type.
+// A path object made from its fields, so that no file on disk decides its type.
 class Built : public CRbUiPathname
 {
 public:

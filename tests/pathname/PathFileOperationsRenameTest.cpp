@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
 //
-// What path names ask of the file functions: definitions of this program's own take the place of
-// the library's and of its host's, note each call and answer what a test wants.
+// The file functions that path objects call: this program's own definitions replace those of the
+// library and of its host, record each call and return what a test wants.
 #include "pathname/HandMadePath.h"
 
 #include <KtOsBase/KtOsBase.h>

@@ -179,7 +179,7 @@ TEST(ParseRelative, ShowsTheVolumeNothingOfTheNameBefore)
     EXPECT_EQ(volume.calls, 2);
 }
 
-// Takes the name apart: what a volume makes of it is the name.
+// Replaces the separators of a name.
 class SeparatorlessVolume : public RecordingVolume
 {
 public:

@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: MIT
 //
-// What holds for every name, tried on random ones; the seed is fixed, so that a failure comes back.
+// What is true for every name, tested with random ones; the seed is fixed, so a failure repeats.
 #include "pathname/HandMadePath.h"
 #include "support/RandomNames.h"
 #include "support/SlowPathName.h"
@@ -12,7 +12,7 @@ namespace {
 
 constexpr int kRounds = 25000;
 
-// A base that exists nowhere, so that nothing of the machine takes part.
+// A base that exists nowhere, so that no file of the machine matters.
 class ParsedNames : public testing::Test
 {
 protected:

@@ -115,8 +115,8 @@ TEST(NarrowText, HoldsTextsOfEveryLength)
     }
 }
 
-// What libc writes for a value beyond the last code point is its own affair, but a long text must
-// not be refused where a short one is taken.
+// libc decides what it writes for a value beyond the last code point, but a long text must not be
+// refused if a short one is accepted.
 TEST(NarrowText, AgreesWithTheLocaleOnValuesBeyondTheLastCodePoint)
 {
     const LocaleScope utf8("C.UTF-8", LC_CTYPE);

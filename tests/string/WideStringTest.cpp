@@ -226,7 +226,7 @@ TEST(CStdStr, CopiesAndMovesItsText)
     EXPECT_EQ(moved, L'b' + std::wstring(39, L'a'));
 }
 
-// That the string is freed too is the leak checker's to say.
+// The leak checker tests that the string is freed, too.
 TEST(ReleaseCStrPtr, DeletesAndForgetsTheString)
 {
     auto* text = new Text(100, L'a');

@@ -6,8 +6,8 @@
 //     call();
 //     EXPECT_EQ(counter.count(), 0);
 //
-// Link AllocationCounter.cpp into the test program, or AllocationCounterSanitizer.cpp where it is
-// built with AddressSanitizer, which has a malloc of its own.
+// Link AllocationCounter.cpp into the test program, or AllocationCounterSanitizer.cpp with
+// AddressSanitizer, which has a malloc of its own.
 #ifndef KTQTBASE_TESTS_SUPPORT_ALLOCATIONCOUNTER_H
 #define KTQTBASE_TESTS_SUPPORT_ALLOCATIONCOUNTER_H
 

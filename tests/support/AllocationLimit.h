@@ -5,7 +5,7 @@
 //     AllocationLimit limit(10000);
 //     EXPECT_EQ(std::malloc(10000), nullptr);
 //
-// Link AllocationCounter.cpp into the test program. Not to be had with AddressSanitizer.
+// Link AllocationCounter.cpp into the test program. Does not work with AddressSanitizer.
 #ifndef KTQTBASE_TESTS_SUPPORT_ALLOCATIONLIMIT_H
 #define KTQTBASE_TESTS_SUPPORT_ALLOCATIONLIMIT_H
 

@@ -22,7 +22,7 @@ inline void* allocate(std::size_t size)
     throw std::bad_alloc();
 }
 
-// Runs an operation whose n-th allocation fails. Result: whether it came that far.
+// Runs an operation whose n-th allocation fails. Result: whether it had so many.
 template<class Operation>
 bool failsAt(int n, Operation operation)
 {

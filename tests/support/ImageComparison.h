@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: MIT
 //
-// Pictures compared pixel for pixel, with a message that says where they part.
+// Pictures compared pixel by pixel, with a message that says where they differ.
 //
 //     EXPECT_TRUE(samePicture(expected, actual));
 //     EXPECT_TRUE(similarPicture(onScreen, printed, {16, 0.02}));
@@ -13,8 +13,8 @@
 
 namespace support {
 
-// What similarPicture lets pass: a pixel counts as different where a part of its colour is further
-// off than `part` (0 to 255), and such pixels may be `share` of all (0 to 1).
+// What similarPicture accepts: a pixel counts as different if a part of its colour differs by more
+// than `part` (0 to 255), and such pixels may be `share` of all (0 to 1).
 struct Tolerance
 {
     int part;

@@ -16,7 +16,7 @@ public:
 
     bool oneIn(std::size_t chances) { return below(chances) == 0; }
 
-    // A character of a name: mostly what names are taken apart at.
+    // A character of a name: mostly one that has a meaning in names.
     wchar_t character()
     {
         static const std::wstring special = L"..  \"\"\t//\\\\*?~;";

@@ -16,7 +16,7 @@ struct ProgramResult
     std::string err;
 };
 
-// Result: the exit status, or -1 where the program did not start or did not end by itself.
+// Result: the exit status, or -1 if the program did not start or did not end by itself.
 inline ProgramResult runProgram(const char* program, const QStringList& arguments,
                                 const QByteArray& input = QByteArray())
 {

@@ -49,7 +49,8 @@ std::wstring ScratchProfile::wideName() const
 
 void ScratchProfile::rewrite(const std::string& bytes) const
 {
-    // Some file systems hurry a file to the disk that is cut and written anew; not a new one.
+    // Some file systems write a file to the disk at once if it is cut and filled again. A new file
+    // is faster.
     remove();
     std::ofstream(m_name, std::ios::binary) << bytes;
 }

@@ -23,8 +23,8 @@ public:
     std::string bytes() const;
     void remove() const;
 
-    // Asks read_profile_string into a poisoned area, and fails the test where a byte behind the
-    // text is not zero or a byte behind the area was touched.
+    // Calls read_profile_string with a poisoned area, and fails the test if a byte after the text
+    // is not zero or a byte after the area was touched.
     ProfileAnswer read(const ProfileQuestion& question);
 
 private:

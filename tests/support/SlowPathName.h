@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
 //
-// A second reading of what path names do, for tests to compare with: plain values, one character at
-// a time, nothing shared with the library. Letters are those of ASCII.
+// A second, simple implementation of the path objects, for tests to compare with: plain values, one
+// character at a time, nothing shared with the library. Letters are those of ASCII.
 #ifndef KTQTBASE_TESTS_SUPPORT_SLOWPATHNAME_H
 #define KTQTBASE_TESTS_SUPPORT_SLOWPATHNAME_H
 

@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
 //
-// A second reading of profile files, kept plain and slow: it copies every line and keeps every
-// name. What it says is what the library's reader must say.
+// A second reader of profile files, simple and slow: it copies every line and keeps every name. The
+// library's reader must give the same results.
 #ifndef KTQTBASE_TESTS_SUPPORT_SLOWPROFILEREADER_H
 #define KTQTBASE_TESTS_SUPPORT_SLOWPROFILEREADER_H
 

@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
 //
-// What the library says of its executable's place, asked from executables in places that no test
-// program can be in itself: a small program is copied there and run.
+// What the library says about its executable's place. A small program is copied to places where a
+// test program itself cannot be, and run there.
 #ifndef KTQTBASE_TESTS_SUPPORT_WHEREAMI_H
 #define KTQTBASE_TESTS_SUPPORT_WHEREAMI_H
 

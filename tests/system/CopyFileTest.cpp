@@ -93,7 +93,7 @@ TEST(CopyFile, TakesNamesOfMoreThan1024Bytes)
     EXPECT_EQ(readFile(folder / "to"), "content");
 }
 
-// ---- What is not told --------------------------------------------------------------------------
+// ---- What is not reported ----------------------------------------------------------------------
 
 TEST(CopyFile, LeavesAnEmptyDestinationForAMissingSource)
 {

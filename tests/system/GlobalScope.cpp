@@ -14,7 +14,7 @@ KTQTBASE_GLOBAL const wchar_t* loadstring(unsigned int)
     return L"of the program";
 }
 
-// Stands before the C library's own.
+// Found before the C library's own.
 KTQTBASE_GLOBAL char* mktemp(char* text)
 {
     ktqtbase::test::lastTemplate = text;

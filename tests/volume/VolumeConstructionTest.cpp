@@ -130,7 +130,7 @@ TEST(DefaultConstructor, SetsTheDispatchTable)
     volume->~CRbUiVolumeDescriptor();
 }
 
-// That the strings are freed too is the leak checker's to say.
+// The leak checker tests that the strings are freed, too.
 TEST(Destructor, DeletesAndForgetsTheThreeStrings)
 {
     Memory memory(0xA5);

@@ -196,7 +196,7 @@ TEST(InitModeMultiByte, Gives0)
     EXPECT_EQ(InitModeMultiByte(), 0);
 }
 
-// That the string is freed too is the leak checker's to say.
+// The leak checker tests that the string is freed, too.
 TEST(ReleaseStringPtr, DeletesAndForgetsTheString)
 {
     auto* text = new Text(100, L'a');

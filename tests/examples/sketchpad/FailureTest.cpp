@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: MIT
 //
-// What is missing, spoilt or forbidden is told, and nothing that was drawn is lost.
+// What is missing, broken or forbidden is reported, and nothing that was drawn is lost.
 #include "Host.h"
 
 #include <gmock/gmock.h>

@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: MIT
 //
-// The drawing program in a folder of its own, where parts of it may be missing or spoilt.
+// The drawing program in a folder of its own, where parts of it may be missing or broken.
 #ifndef KTQTBASE_TESTS_EXAMPLES_SKETCHPAD_HOST_H
 #define KTQTBASE_TESTS_EXAMPLES_SKETCHPAD_HOST_H
 

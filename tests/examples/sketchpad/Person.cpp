@@ -115,7 +115,7 @@ bool Person::answerDialog(const QString& title, const QString& name) const
 void Person::moveWindow(const QPoint& point) const
 {
     xdotool(QStringList{"windowmove", "--sync", m_window} + place(point));
-    // The first change of place need not be the last, and the program hears of it later still.
+    // There may be several changes of place, and the program gets them later.
     QPoint last;
     waitFor([&] {
         QThread::msleep(200);

@@ -16,7 +16,7 @@ class Person
 public:
     // Starts the program and waits for its window to be active.
     explicit Person(const Host& host, const QStringList& arguments = QStringList());
-    // The program is killed where it still runs.
+    // Kills the program if it still runs.
     ~Person();
 
     // Each result says whether it happened within some seconds.

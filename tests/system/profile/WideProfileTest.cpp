@@ -22,8 +22,8 @@ struct WideAnswer
     std::wstring text;
 };
 
-// Asks into a poisoned area of 1,100 characters and checks that nothing behind the text's
-// terminator is touched.
+// Asks with a poisoned area of 1,100 characters and checks that nothing after the text's terminator
+// is touched.
 WideAnswer read(const wchar_t* section, const wchar_t* key, const wchar_t* defaultText,
                 unsigned int size, const wchar_t* file)
 {
