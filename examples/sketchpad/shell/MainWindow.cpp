@@ -20,8 +20,7 @@
 namespace {
 
 constexpr int kRecentWidth = 36;
-constexpr int kVisiblePart =
-    60; // pixels of the window that must be on screen at a stored place
+constexpr int kVisiblePart = 60; // pixels of the window that must be on screen at a stored place
 
 QString toQt(const std::wstring& text)
 {
