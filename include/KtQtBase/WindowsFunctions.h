@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: MIT
 //
-// Functions of the Windows API at global scope, and again in KtKernel32 where hosts call them so.
+// Functions of the Windows API at global scope, some of them also in the namespace KtKernel32.
 //
 //     wchar_t name[1024] = {};
 //     GetTempFileName(L"/tmp/", L"kt", 0, name);

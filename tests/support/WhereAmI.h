@@ -17,7 +17,7 @@ namespace ktqtbase::test {
 
 using Answers = std::map<std::string, std::string>;
 
-// What one run of the copy in the working folder prints, by its "name=value" lines.
+// What one run of the copy in the working directory prints, by its "name=value" lines.
 inline Answers answersFromWorkingFolder()
 {
     std::filesystem::copy_file(KTQTBASE_WHERE_AM_I, "where_am_i");

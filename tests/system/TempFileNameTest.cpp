@@ -105,7 +105,7 @@ TEST(GetTempFileName, PutsSixCharactersInForTheNumber0)
         EXPECT_TRUE(ch < 128 && std::isalnum(static_cast<int>(ch)));
 }
 
-// A template without a folder is one for the working folder.
+// A template without a folder is one for the working directory.
 TEST(GetTempFileName, AsksForCharactersThatNameNothingInTheWorkingFolder)
 {
     Buffer buffer;

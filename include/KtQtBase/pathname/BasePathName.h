@@ -44,8 +44,7 @@ public:
     virtual int Parse(const wchar_t* name, bool flag);
 
     // Makes this object a copy of another, with strings of its own.
-    //   other    in: the path object to copy. The own strings are deleted first, so that a copy
-    //            from the object itself leaves it unparsed.
+    //   other    in: the path object to copy; a copy from the object itself leaves it unparsed
     virtual void AssignCopy(const CRbUiPathname& other);
 
     // Parses a name; a relative one is taken as lying in a base.
@@ -184,8 +183,8 @@ public:
     // Makes another path object the folder of this one.
     //   parent    out: the folder, through its virtual AssignCopy; untouched if nothing is parsed.
     //             It may be this object.
-    //   /tmp/dir => /tmp/, a directory     /tmp/dir/ => /tmp/, not found     / => /, a directory
-    //   C:/ => C:/, a directory            C:file.txt => C:                  a/b => a/
+    //   /tmp/dir => /tmp/, a folder     /tmp/dir/ => /tmp/, not found     / => /, a folder
+    //   C:/ => C:/, a folder            C:file.txt => C:                  a/b => a/
     //   f.txt with prefix /home/u/ => /home/u/, rooted, without prefix; without prefix => unparsed
     // A bare name (without separator or colon) whose prefix is an empty string raises
     // std::out_of_range, and parent then holds that empty string. A rooted name becomes such a one

@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: MIT
 //
-// Drawing functions without a counterpart here, so that a host links and runs with them inert.
+// Drawing functions without a counterpart here: a host links and runs with them, but they do nothing.
 //
 //     HFONT font = CreateFontIndirectW(&description);             // always null
 //     DeleteObject(font);

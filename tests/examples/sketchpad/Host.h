@@ -24,7 +24,7 @@ public:
     explicit Host(const std::string& folder = "program");
 
     std::filesystem::path program() const { return m_program; } // the folder
-    std::filesystem::path work() const { return m_work; }       // the working folder
+    std::filesystem::path work() const { return m_work; }       // the working directory
     std::filesystem::path settings() const;                     // the store's file
 
     std::filesystem::path textsModule() const;
@@ -36,7 +36,7 @@ public:
     // Plays a script to its end.
     SessionResult play(const std::string& script);
 
-    // Makes a process ready to start the program in the working folder.
+    // Makes a process ready to start the program in the working directory.
     void prepare(QProcess& process, const QStringList& arguments) const;
 
     std::string file(const char* name) const { return ktqtbase::test::readFile(m_work / name); }
