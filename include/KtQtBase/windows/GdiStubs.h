@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: MIT
 //
-// Drawing functions without a counterpart here: a host links and runs with them, but they do nothing.
+// Drawing functions without a counterpart here: a host links and runs, but they do nothing.
 //
 //     HFONT font = CreateFontIndirectW(&description);             // always null
 //     DeleteObject(font);

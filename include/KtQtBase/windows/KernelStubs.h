@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: MIT
 //
-// Kernel functions without a counterpart here: a host links and runs with them, but they do nothing.
+// Kernel functions without a counterpart here: a host links and runs, but they do nothing.
 //
 //     HANDLE found = FindFirstFileW(L"/tmp/*.txt", &description);
 //     if (found == nullptr) { ... }                               // always

@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: MIT
 //
-// Shell functions without a counterpart here: a host links and runs with them, but they do nothing.
+// Shell functions without a counterpart here: a host links and runs, but they do nothing.
 //
 //     wchar_t folder[MAX_PATH] = {};
 //     SHGetFolderPath(nullptr, CSIDL_APPDATA, nullptr, 0, folder);

@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: MIT
 //
-// Printer functions without a counterpart here: a host links and runs with them, but they do nothing.
+// Printer functions without a counterpart here: a host links and runs, but they do nothing.
 //
 //     HANDLE printer = nullptr;
 //     if (OpenPrinterW(name, &printer, nullptr) == 0) { ... }     // always

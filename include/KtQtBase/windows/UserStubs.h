@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: MIT
 //
-// Window functions without a counterpart here: a host links and runs with them, but they do nothing.
+// Window functions without a counterpart here: a host links and runs, but they do nothing.
 //
 //     HDC context = GetDC(window);                                // always null
 //     ReleaseDC(window, context);
