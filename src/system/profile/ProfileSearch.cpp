@@ -6,20 +6,23 @@
 namespace {
 
 // What may follow a key: an equals sign, or white space before it. It is asked of every byte, so
-// the other control characters are let through.
+// that other bytes may pass which the grammar refuses later.
 bool mayFollowKey(char c)
 {
-    return (c == '=') | (static_cast<unsigned char>(c) <= ' ');
+    return (c == '=') | (c <= ' ');
 }
 
-// Whether a key may begin at one of a few places. All of them are looked at, with no branch in
-// between, so that compilers look at many at once.
+// Whether a key may begin at one of a few places. All of them are looked at, in bytes and with no
+// branch in between, so that compilers look at many at once.
 bool mayBeginAmong(const char* places, std::size_t count, std::string_view key)
 {
     const char* const lasts = places + key.size() - 1;
-    bool found = false;
+    const char first = key.front();
+    const char last = key.back();
+    char found = 0;
     for (std::size_t i = 0; i < count; ++i)
-        found |= (places[i] == key.front()) & (lasts[i] == key.back()) & mayFollowKey(lasts[i + 1]);
+        found |= static_cast<char>((places[i] == first) & (lasts[i] == last) &
+                                   mayFollowKey(lasts[i + 1]));
     return found;
 }
 
