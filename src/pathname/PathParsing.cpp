@@ -8,7 +8,6 @@
 
 #include <QtCore/QScopeGuard>
 
-#include <cwchar>
 #include <utility>
 
 namespace {
@@ -22,7 +21,7 @@ using Text = CStdStr<wchar_t>;
 
 // The work string of a name given, in the former one's storage if there is one. To fill a string
 // costs less than to free it and to get another.
-OwnedText workString(const wchar_t* given, OwnedText former)
+OwnedText workString(std::wstring_view given, OwnedText former)
 {
     const std::wstring_view bare = ktqtbase::bareName(given);
     OwnedText work = former ? std::move(former) : std::make_unique<Text>();
@@ -79,9 +78,10 @@ int CRbUiPathname::ParseRelative(const wchar_t* name, const CRbUiPathname* base,
     m_pVolume = nullptr;
     m_type = PT_NONE;
     // The name given is read before the former strings are filled, in which it may lie.
-    const bool hasColon = std::wcschr(name, kColon);
+    const std::wstring_view given(name);
+    const bool hasColon = given.find(kColon) != given.npos;
     OwnedText formerPrefix(std::exchange(m_pRelPath, nullptr));
-    OwnedText work = workString(name, OwnedText(std::exchange(m_pWork, nullptr)));
+    OwnedText work = workString(given, OwnedText(std::exchange(m_pWork, nullptr)));
     if (!acceptsName(*this, *work, base))
         return kBadArgument;
 

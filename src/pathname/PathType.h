@@ -6,7 +6,6 @@
 
 #include "pathname/PathInternals.h"
 
-#include <algorithm>
 #include <string_view>
 
 namespace ktqtbase {
@@ -14,8 +13,7 @@ namespace ktqtbase {
 // Whether a text holds an asterisk or a question mark.
 inline bool holdsWildcard(std::wstring_view text)
 {
-    return std::any_of(text.begin(), text.end(),
-                       [](wchar_t ch) { return ch == kAsterisk || ch == kQuestionmark; });
+    return text.find(kAsterisk) != text.npos || text.find(kQuestionmark) != text.npos;
 }
 
 // What the file system has under a work string in its prefix.
@@ -27,8 +25,10 @@ inline bool isPattern(const CRbUiPathname& path)
 {
     if (path.m_type == PT_NONE || !path.m_pWork)
         return false;
+    // Few names hold a wildcard anywhere, so the last component is seldom looked for.
     const std::wstring_view work = *path.m_pWork;
-    return holdsWildcard(work.substr(lastComponent(*path.m_pWork, path.m_separator)));
+    return holdsWildcard(work) &&
+           holdsWildcard(work.substr(lastComponent(*path.m_pWork, path.m_separator)));
 }
 
 // Works out a type as CRbUiPathname::GetAttributes does.
