@@ -13,11 +13,7 @@ namespace {
 constexpr int kExistsAndReadable = 3;
 constexpr int kMayBeWritten = 4;
 constexpr int kFolderMayBeWritten = 8;
-constexpr int kOnReadOnlyVolume = 0xF3;
-
-// The read-only attribute of Windows; in a POSIX mode the same bit is the others' execute
-// permission.
-constexpr unsigned int kReadOnlyAttribute = 0x01;
+constexpr int kNeedsWritableVolume = kMayBeWritten | kFolderMayBeWritten;
 
 // Takes a path object's full path and parses it anew. Result: of the parse.
 int parseAgain(CRnUiPathname& path)
@@ -35,7 +31,7 @@ unsigned int attributesOfText(CStdStr<wchar_t>** work)
 
 } // namespace
 
-// ---- The path name -----------------------------------------------------------------------------
+// ---- The path object ---------------------------------------------------------------------------
 
 CRnUiPathname::CRnUiPathname() = default;
 
@@ -72,11 +68,11 @@ int CRnUiPathname::Status()
     if (parent.m_type != PT_NONE)
         ProcessParentStatus(parent, &parent.m_pWork, status);
     if (name.m_pVolume && name.m_pVolume->CheckReadOnly())
-        status &= kOnReadOnlyVolume;
+        status &= ~kNeedsWritableVolume;
     return status;
 }
 
-// ---- The current folder ------------------------------------------------------------------------
+// ---- The folder of relative names --------------------------------------------------------------
 
 bool ktuiSetCurrentDirPrefix()
 {
@@ -96,7 +92,8 @@ bool ktuiSetCurrentDirPrefix()
 
 int ProcessPathStatus(CRnUiPathname& path, CStdStr<wchar_t>** work)
 {
-    // The folder does these two in the other order, and judges by the parse's result instead.
+    // Kept: ProcessParentStatus trims after the parse and goes by its result; the statuses of names
+    // with a closing separator would change otherwise.
     path.TrimSlash();
     parseAgain(path);
     if (path.m_type == PT_NONE)
@@ -104,8 +101,8 @@ int ProcessPathStatus(CRnUiPathname& path, CStdStr<wchar_t>** work)
     const unsigned int attributes = attributesOfText(work);
     if (attributes == INVALID_FILE_ATTRIBUTES)
         return 0;
-    return attributes & kReadOnlyAttribute ? kExistsAndReadable
-                                           : kExistsAndReadable | kMayBeWritten;
+    return attributes & ktqtbase::kReadOnlyAttribute ? kExistsAndReadable
+                                                     : kExistsAndReadable | kMayBeWritten;
 }
 
 void ProcessParentStatus(CRnUiPathname& parent, CStdStr<wchar_t>** work, int& status)
@@ -114,6 +111,6 @@ void ProcessParentStatus(CRnUiPathname& parent, CStdStr<wchar_t>** work, int& st
         return;
     parent.TrimSlash();
     // A failed look-up has every bit set, and so adds nothing.
-    if (!(attributesOfText(work) & kReadOnlyAttribute))
+    if (!(attributesOfText(work) & ktqtbase::kReadOnlyAttribute))
         status |= kFolderMayBeWritten;
 }

@@ -1,12 +1,13 @@
 // SPDX-License-Identifier: MIT
 #include <KtQtBase/PathName.h>
 
+#include "pathname/PathInternals.h"
+
 #include <cwchar>
-#include <memory>
 
 namespace {
 
-using OwnedText = std::unique_ptr<CStdStr<wchar_t>>;
+using ktqtbase::OwnedText;
 
 OwnedText copyOf(const CStdStr<wchar_t>* text)
 {

@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
 //
-// The steps of a parse, in the order in which CRbUiPathname::ParseRelative takes them. Those with a
-// name in PathFunctions.h or in CRbUiPathname are exported over the same code.
+// The steps of a parse, in the order in which CRbUiPathname::ParseRelative takes them. Hosts call
+// some of them as functions of PathFunctions.h or as members of CRbUiPathname, which use these.
 #ifndef KTQTBASE_PATHNAME_PARSESTEPS_H
 #define KTQTBASE_PATHNAME_PARSESTEPS_H
 
@@ -9,18 +9,15 @@
 #include "string/CaseFolding.h"
 #include "string/WhiteSpace.h"
 
-#include <memory>
 #include <string_view>
 
 namespace ktqtbase {
-
-using OwnedText = std::unique_ptr<CStdStr<wchar_t>>;
 
 // A text without one pair of double quotes around it and the white space outside them. A text
 // without such a pair stays as it is.
 inline std::wstring_view unquoted(std::wstring_view text, const WhiteSpace& isSpace)
 {
-    const std::wstring_view inner = withoutSpace(text, isSpace);
+    const std::wstring_view inner = trimmed(text, isSpace);
     const bool isQuoted =
         inner.size() >= 2 && inner.front() == kDoubleQuote && inner.back() == kDoubleQuote;
     return isQuoted ? inner.substr(1, inner.size() - 2) : text;
@@ -30,7 +27,7 @@ inline std::wstring_view unquoted(std::wstring_view text, const WhiteSpace& isSp
 inline std::wstring_view bareName(std::wstring_view given)
 {
     const WhiteSpace isSpace;
-    return withoutSpace(unquoted(given, isSpace), isSpace);
+    return trimmed(unquoted(given, isSpace), isSpace);
 }
 
 inline bool holdsSeveralColons(std::wstring_view text)
@@ -77,11 +74,10 @@ inline bool classify(wchar_t first, wchar_t second, wchar_t separator, path_cate
     return true;
 }
 
-// Classifies a text. Result: whether it is accepted: a drive may hold a colon, and a relative name
-// needs a parsed base.
-inline bool acceptsCategory(wchar_t first, wchar_t second, wchar_t separator,
-                            path_category& category, CStdStr<wchar_t>& text,
-                            const CRbUiPathname* base)
+// Classifies a name by classify. Result: whether it is good: only a drive may hold a colon, and a
+// relative name needs a parsed base.
+inline bool classifyName(wchar_t first, wchar_t second, wchar_t separator, path_category& category,
+                         CStdStr<wchar_t>& text, const CRbUiPathname* base)
 {
     if (classify(first, second, separator, category, text))
         return true;
@@ -90,18 +86,20 @@ inline bool acceptsCategory(wchar_t first, wchar_t second, wchar_t separator,
     return category != PC_RELATIVE || (base && isParsed(base->m_type));
 }
 
-// The prefix of a name: its base's full path for a relative one, a given text for a rooted one. A
+// The prefix of a name: its base's full path for a relative one, a text that is passed for a rooted one. A
 // drive has none, and neither has a relative name whose base has an empty path.
-//   former    in: a string that is filled instead of a new one, or null
-inline OwnedText prefixOf(path_category category, std::wstring_view rooted,
+//   ofRooted    in: the prefix of a rooted name
+//   former      in: a string that is filled instead of a new one, or null
+inline OwnedText prefixOf(path_category category, std::wstring_view ofRooted,
                           const CRbUiPathname* base, OwnedText former)
 {
     if (category != PC_RELATIVE && category != PC_ROOTED)
         return nullptr;
     OwnedText prefix = former ? std::move(former) : std::make_unique<CStdStr<wchar_t>>();
-    prefix->assign(rooted);
-    if (category == PC_ROOTED)
+    if (category == PC_ROOTED) {
+        prefix->assign(ofRooted);
         return prefix;
+    }
     prefix->clear();
     if (base)
         base->GetFullPath(*prefix);

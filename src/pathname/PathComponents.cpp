@@ -18,17 +18,17 @@ void CRbUiPathname::GetFilename(CStdStr<wchar_t>& out) const
     const std::size_t start = ktqtbase::lastComponent(*m_pWork, m_separator);
     if (start == m_pWork->size())
         return;
-    const std::size_t dot = m_pWork->rfind(kPeriod);
-    const bool hasDot = dot != m_pWork->npos && dot >= start;
-    out.assign(*m_pWork, start, hasDot ? dot - start : m_pWork->npos);
+    const std::size_t dot = ktqtbase::extensionDot(*m_pWork, start);
+    out.assign(*m_pWork, start, dot == m_pWork->npos ? dot : dot - start);
 }
 
 void CRbUiPathname::GetExtension(CStdStr<wchar_t>& out) const
 {
     if (m_type == PT_NONE || !m_pWork)
         return;
-    const std::size_t dot = m_pWork->rfind(kPeriod);
-    if (dot != m_pWork->npos && dot >= ktqtbase::lastComponent(*m_pWork, m_separator))
+    const std::size_t start = ktqtbase::lastComponent(*m_pWork, m_separator);
+    const std::size_t dot = ktqtbase::extensionDot(*m_pWork, start);
+    if (dot != m_pWork->npos)
         out.assign(*m_pWork, dot + 1, m_pWork->npos);
 }
 

@@ -26,13 +26,14 @@ void shortenBase(const CRbUiPathname& path, std::size_t start, std::size_t width
         out.append(1, kPeriod).append(extension);
 }
 
-// Appends the whole components at the end of a work string that fit into a width after a prefix
-// and dots; nothing where the last one does not begin with a separator.
-void appendTail(const CRbUiPathname& path, std::size_t prefix, std::size_t width, WideText& out)
+// Appends the whole components at the end of a work string that fit into a width after a volume's
+// name and dots; nothing where the last one does not begin with a separator.
+void appendTail(const CRbUiPathname& path, std::size_t volumeLength, std::size_t width,
+                WideText& out)
 {
     const WideText& work = *path.m_pWork;
-    std::size_t start = prefix;
-    while (start < work.size() && work.size() - start + prefix + 4 > width)
+    std::size_t start = volumeLength;
+    while (start < work.size() && work.size() - start + volumeLength + 4 > width)
         start = std::min(work.find(path.m_separator, start + 1), work.size());
     out.append(work, start, work.npos);
 }
@@ -42,14 +43,14 @@ void shortenFolders(const CRbUiPathname& path, std::size_t start, std::size_t wi
 {
     const std::size_t baseLength = path.m_pWork->size() - start;
     const bool isOnVolume = path.m_category == PC_DRIVE || path.m_category == PC_UNC;
-    const std::size_t prefix = isOnVolume ? ktqtbase::volumeNameLength(path) : 0;
+    const std::size_t volumeLength = isOnVolume ? ktqtbase::volumeNameLength(path) : 0;
     const wchar_t* const dots = isOnVolume ? L"\\..." : L"...";
-    if (width < baseLength + prefix + std::wcslen(dots) + 1) {
+    if (width < baseLength + volumeLength + std::wcslen(dots) + 1) {
         out.assign(*path.m_pWork, start, baseLength);
         return;
     }
-    out.assign(*path.m_pWork, 0, prefix).append(dots);
-    appendTail(path, prefix, width, out);
+    out.assign(*path.m_pWork, 0, volumeLength).append(dots);
+    appendTail(path, volumeLength, width, out);
 }
 
 } // namespace

@@ -3,6 +3,7 @@
 
 #include "pathname/PathInternals.h"
 
+#include <algorithm>
 #include <cwchar>
 
 using ktqtbase::kCannotBeDone;
@@ -45,8 +46,8 @@ bool isRoot(const CRbUiPathname& path)
     }
 }
 
-// Whether the last component of a name that is not on a drive can be cut off at a separator.
-int canCutAt(const CRbUiPathname& path, std::size_t separator)
+// The result with which a cut at a separator is refused, or kDone; not for drives.
+int refusalOfCut(const CRbUiPathname& path, std::size_t separator)
 {
     if (separator == kNowhere)
         return path.m_category == PC_RELATIVE ? kReachesIntoRoot : kCannotBeDone;
@@ -86,7 +87,7 @@ int CRbUiPathname::Trim()
             position = m_pWork->find(kColon);
         return position == kNowhere ? kCannotBeDone : cutTo(*this, position + 1);
     }
-    const int refused = canCutAt(*this, position);
+    const int refused = refusalOfCut(*this, position);
     return refused ? refused : cutTo(*this, position + 1);
 }
 
@@ -99,7 +100,7 @@ int CRbUiPathname::TrimComponent()
         return kCannotBeDone;
     if (m_category == PC_DRIVE)
         return cutTo(*this, position == kNowhere ? m_pWork->find(kColon) + 1 : position);
-    const int refused = canCutAt(*this, position);
+    const int refused = refusalOfCut(*this, position);
     if (refused)
         return refused;
     const bool leavesNothing = m_category == PC_ROOTED && position == 0;
@@ -140,9 +141,7 @@ void CRbUiPathname::RemoveSpaces()
     if (!m_pWork || *m_pWork == L"." || *m_pWork == L"..")
         return;
     const std::size_t start = ktqtbase::lastComponent(*m_pWork, m_separator);
-    const std::size_t dot = m_pWork->rfind(kPeriod);
-    const bool hasExtension = dot != m_pWork->npos && dot >= start;
-    const std::size_t end = hasExtension ? dot : m_pWork->size();
+    const std::size_t end = std::min(ktqtbase::extensionDot(*m_pWork, start), m_pWork->size());
     CStdStr<wchar_t> stem(*m_pWork, start, end - start);
     stem.TrimLeft().TrimRight();
     m_pWork->replace(start, end - start, stem);

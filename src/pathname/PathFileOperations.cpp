@@ -24,7 +24,8 @@ bool openFile(const CRbUiPathname& path, unsigned int access, void*& handle)
     return handle != INVALID_HANDLE_VALUE;
 }
 
-// Renames with the folder of a prefix as the current one, which stays the process's own here.
+// Renames as on Windows, with the prefix as current directory. SetCurrentDirectoryW does nothing
+// here, so that the process's own working directory counts.
 int renameInside(const CStdStr<wchar_t>& folder, const wchar_t* oldName, const wchar_t* newName)
 {
     wchar_t saved[ktqtbase::kTextRoom];

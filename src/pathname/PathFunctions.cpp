@@ -20,8 +20,8 @@ void GetWorkString(CStdStr<wchar_t>* s, wchar_t sep, wchar_t& last, wchar_t& fir
 int GetPathCatType(wchar_t first, wchar_t second, wchar_t sep, path_category& cat,
                    CStdStr<wchar_t>* s, const CRbUiPathname* base)
 {
-    const bool accepted = ktqtbase::acceptsCategory(first, second, sep, cat, *s, base);
-    return accepted ? ktqtbase::kDone : ktqtbase::kBadArgument;
+    const bool isGood = ktqtbase::classifyName(first, second, sep, cat, *s, base);
+    return isGood ? ktqtbase::kDone : ktqtbase::kBadArgument;
 }
 
 void GetUNCScount(CStdStr<wchar_t>*, int*, unsigned int&, int&, wchar_t) {}
@@ -72,6 +72,8 @@ void ParseRelPath(CStdStr<wchar_t>** pp, wchar_t sep, path_category& cat)
 void GetPathStrNoExt(CStdStr<wchar_t>** pp, wchar_t sep)
 {
     CStdStr<wchar_t>& text = **pp;
+    // Kept: a colon does not end the folder part here; the extension of C.x:name would stay
+    // otherwise.
     const std::size_t dot = text.rfind(kPeriod);
     const std::size_t separator = text.rfind(sep);
     if (dot != text.npos && (separator == text.npos || dot > separator))

@@ -6,11 +6,17 @@
 
 #include <KtQtBase/PathName.h>
 
-#include "pathname/PathTypes.h"
-
 #include <functional>
+#include <memory>
 
 namespace ktqtbase {
+
+using OwnedText = std::unique_ptr<CStdStr<wchar_t>>;
+
+// Attributes of Windows. In the POSIX mode that GetFileAttributes gives, the same bits are the
+// group's write permission and the others' execute permission.
+constexpr unsigned int kDirectoryAttribute = 0x10;
+constexpr unsigned int kReadOnlyAttribute = 0x01;
 
 // The results of type int.
 enum PathResult : int
@@ -21,6 +27,37 @@ enum PathResult : int
     kReachesIntoRoot = 3,
     kCannotBeDone = 4
 };
+
+// ---- Types -------------------------------------------------------------------------------------
+
+// Never given by a parse. A host may set it for a name that it knows to exist.
+constexpr path_type kKnownToExist = static_cast<path_type>(5);
+
+// Whether a type is one that a parse gives, PT_NOT_FOUND to PT_DIRECTORY.
+inline bool isParsed(path_type type)
+{
+    return type >= PT_NOT_FOUND && type <= PT_DIRECTORY;
+}
+
+// Whether a type names something, given by a parse or by a host.
+inline bool isNamed(path_type type)
+{
+    return isParsed(type) || type == kKnownToExist;
+}
+
+// Whether a type names one thing and not a pattern.
+inline bool isSingleName(path_type type)
+{
+    return isNamed(type) && type != PT_WILDCARD;
+}
+
+// Whether a type may be worked out again from the file system.
+inline bool canBeLookedUp(path_type type)
+{
+    return isSingleName(type) && type != kKnownToExist;
+}
+
+// ---- Path objects ------------------------------------------------------------------------------
 
 // Whether a path object holds a name that can be edited.
 inline bool isParsed(const CRbUiPathname& path)
@@ -41,6 +78,14 @@ inline std::size_t lastComponent(const CStdStr<wchar_t>& work, wchar_t separator
     if (position == work.npos)
         position = work.rfind(kColon);
     return position + 1;
+}
+
+// Where the extension of the last component begins with its dot, or npos.
+//   start    in: where the last component begins
+inline std::size_t extensionDot(const CStdStr<wchar_t>& work, std::size_t start)
+{
+    const std::size_t dot = work.rfind(kPeriod);
+    return dot != work.npos && dot >= start ? dot : work.npos;
 }
 
 // The length of the local name of a path object's volume, 0 without a volume.

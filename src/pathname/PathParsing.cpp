@@ -25,23 +25,23 @@ OwnedText workString(std::wstring_view given, OwnedText former)
 {
     const std::wstring_view bare = ktqtbase::bareName(given);
     OwnedText work = former ? std::move(former) : std::make_unique<Text>();
-    // With room for the separator that AppendSlash may add.
+    // A new string has room for the separator that AppendSlash may add.
     if (work->empty())
         work->reserve(bare.size() + 1);
     work->assign(bare);
     return work;
 }
 
-// Puts the separators into a work string and classifies it. Result: whether it is a good name.
-bool acceptsName(CRbUiPathname& path, Text& work, const CRbUiPathname* base)
+// Puts the separators into a work string and sets the category. Result: whether it is a good name.
+bool normaliseName(CRbUiPathname& path, Text& work, const CRbUiPathname* base)
 {
     if (work.empty() || ktqtbase::holdsSeveralColons(work))
         return false;
     ktqtbase::putSeparators(work, path.m_separator);
     path.m_category = PC_RELATIVE;
-    const bool accepted = ktqtbase::acceptsCategory(work.front(), ktqtbase::secondCharacter(work),
-                                                    path.m_separator, path.m_category, work, base);
-    return accepted && path.m_category != PC_UNC;
+    const bool isGood = ktqtbase::classifyName(work.front(), ktqtbase::secondCharacter(work),
+                                               path.m_separator, path.m_category, work, base);
+    return isGood && path.m_category != PC_UNC;
 }
 
 // The first volume of the list with a local name, or null.
@@ -82,7 +82,7 @@ int CRbUiPathname::ParseRelative(const wchar_t* name, const CRbUiPathname* base,
     const bool hasColon = given.find(kColon) != given.npos;
     OwnedText formerPrefix(std::exchange(m_pRelPath, nullptr));
     OwnedText work = workString(given, OwnedText(std::exchange(m_pWork, nullptr)));
-    if (!acceptsName(*this, *work, base))
+    if (!normaliseName(*this, *work, base))
         return kBadArgument;
 
     // A host's volume may throw, and must not leave half of a name.

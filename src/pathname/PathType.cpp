@@ -10,11 +10,8 @@
 
 namespace {
 
-// The directory attribute of Windows. In a POSIX mode the same bit is the group's write permission.
-constexpr unsigned int kDirectoryAttribute = 0x10;
-
-// The attributes of a prefix, a slash and a work string. The slash is added also where the prefix
-// ends with one.
+// The attributes of a prefix, a slash and a work string. The slash is added also if the prefix ends
+// with one, or is the empty prefix of a rooted name.
 unsigned int attributesInPrefix(const CStdStr<wchar_t>& prefix, const CStdStr<wchar_t>& work)
 {
     ktqtbase::TextRoom<wchar_t> room;
@@ -34,7 +31,7 @@ path_type ktqtbase::typeOnDisk(const CStdStr<wchar_t>& work, const CStdStr<wchar
         prefix ? attributesInPrefix(*prefix, work) : GetFileAttributes(work.c_str());
     if (attributes == INVALID_FILE_ATTRIBUTES)
         return PT_NOT_FOUND;
-    return attributes & kDirectoryAttribute ? PT_DIRECTORY : PT_FILE;
+    return attributes & ktqtbase::kDirectoryAttribute ? PT_DIRECTORY : PT_FILE;
 }
 
 void CRbUiPathname::GetAttributes(const CStdStr<wchar_t>* work, const CStdStr<wchar_t>* relPath,

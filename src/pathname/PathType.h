@@ -35,8 +35,8 @@ inline bool isPattern(const CRbUiPathname& path)
 inline void workOutType(const CRbUiPathname& path, const CStdStr<wchar_t>* work,
                         const CStdStr<wchar_t>* prefix, path_type& type)
 {
-    // First, since a parse works out the path object's own type, and the last component is asked
-    // only of an object that is parsed by then.
+    // Set first: it may be the path object's own type, and an object of type PT_NONE holds no
+    // pattern.
     type = PT_NOT_FOUND;
     if (isPattern(path))
         type = PT_WILDCARD;

@@ -9,6 +9,13 @@
 
 namespace ktqtbase {
 
+// White space as the classic locale has it.
+template<class Ch>
+constexpr bool isClassicSpace(Ch ch)
+{
+    return ch == ' ' || (ch >= '\t' && ch <= '\r');
+}
+
 // The test of one operation. The host may change the global locale between two of them.
 class WhiteSpace
 {
@@ -19,7 +26,7 @@ public:
 
     bool operator()(wchar_t ch) const
     {
-        return m_classes ? m_classes->is(std::ctype_base::space, ch) : isClassic(ch);
+        return m_classes ? m_classes->is(std::ctype_base::space, ch) : isClassicSpace(ch);
     }
 
 private:
@@ -31,30 +38,32 @@ private:
                                                 : &std::use_facet<std::ctype<wchar_t>>(locale);
     }
 
-    static bool isClassic(wchar_t ch) { return ch == L' ' || (ch >= L'\t' && ch <= L'\r'); }
-
     std::locale m_locale;
     const std::ctype<wchar_t>* m_classes;
 };
 
 // A text without the white space at its start, at its end, at both.
-inline std::wstring_view withoutLeadingSpace(std::wstring_view text, const WhiteSpace& isSpace)
+//   isSpace    in: the test of a character
+template<class Ch, class Test>
+std::basic_string_view<Ch> trimmedStart(std::basic_string_view<Ch> text, const Test& isSpace)
 {
     while (!text.empty() && isSpace(text.front()))
         text.remove_prefix(1);
     return text;
 }
 
-inline std::wstring_view withoutTrailingSpace(std::wstring_view text, const WhiteSpace& isSpace)
+template<class Ch, class Test>
+std::basic_string_view<Ch> trimmedEnd(std::basic_string_view<Ch> text, const Test& isSpace)
 {
     while (!text.empty() && isSpace(text.back()))
         text.remove_suffix(1);
     return text;
 }
 
-inline std::wstring_view withoutSpace(std::wstring_view text, const WhiteSpace& isSpace)
+template<class Ch, class Test>
+std::basic_string_view<Ch> trimmed(std::basic_string_view<Ch> text, const Test& isSpace)
 {
-    return withoutTrailingSpace(withoutLeadingSpace(text, isSpace), isSpace);
+    return trimmedEnd(trimmedStart(text, isSpace), isSpace);
 }
 
 } // namespace ktqtbase

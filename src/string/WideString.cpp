@@ -4,8 +4,6 @@
 #include "string/WhiteSpace.h"
 
 using ktqtbase::WhiteSpace;
-using ktqtbase::withoutLeadingSpace;
-using ktqtbase::withoutTrailingSpace;
 
 namespace {
 
@@ -27,14 +25,16 @@ int CStdStr<T>::Find(const T* sub) const
 template<class T>
 CStdStr<T>& CStdStr<T>::TrimLeft()
 {
-    this->erase(0, this->size() - withoutLeadingSpace(*this, WhiteSpace()).size());
+    const std::basic_string_view<T> text = *this;
+    this->erase(0, text.size() - ktqtbase::trimmedStart(text, WhiteSpace()).size());
     return *this;
 }
 
 template<class T>
 CStdStr<T>& CStdStr<T>::TrimRight()
 {
-    this->resize(withoutTrailingSpace(*this, WhiteSpace()).size());
+    const std::basic_string_view<T> text = *this;
+    this->resize(ktqtbase::trimmedEnd(text, WhiteSpace()).size());
     return *this;
 }
 

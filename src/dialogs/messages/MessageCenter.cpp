@@ -15,9 +15,9 @@ QWidget* widgetOf(HWND hWnd)
 
 } // namespace
 
-// Both make the event before they know whether anybody gets it: its type is registered by the first
-// message, delivered or not. A null receiver crashes Qt's sendEvent, and postEvent prints a
-// warning.
+// Kept: both make the event before they look for the receiver, so that the first message registers
+// the event type, delivered or not. Qt gets no null receiver: sendEvent would crash, and postEvent
+// print a warning.
 
 LRESULT QKtMessageCenter::sendMessage(HWND hWnd, UINT msg, WPARAM wParam, LPARAM lParam)
 {

@@ -11,7 +11,7 @@ namespace {
 
 constexpr int kNumberRoom = 64;
 
-// A name never holds the character that ends it in a file.
+// Names that no file holds: a section's ends before its first "]", a key's before its first "=".
 char kNoSection[] = "]";
 char kNoKey[] = "=";
 char kEmpty[] = "";

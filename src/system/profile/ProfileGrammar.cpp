@@ -1,30 +1,29 @@
 // SPDX-License-Identifier: MIT
 #include "system/profile/ProfileGrammar.h"
 
+#include "string/WhiteSpace.h"
+
 #include <algorithm>
 
 namespace ktqtbase {
 
 std::string_view trimmedStart(std::string_view text)
 {
-    while (!text.empty() && isWhiteSpace(text.front()))
-        text.remove_prefix(1);
-    return text;
+    return trimmedStart(text, isClassicSpace<char>);
 }
 
 std::string_view trimmedEnd(std::string_view text)
 {
-    while (!text.empty() && isWhiteSpace(text.back()))
-        text.remove_suffix(1);
-    return text;
+    return trimmedEnd(text, isClassicSpace<char>);
 }
 
 std::string_view trimmed(std::string_view text)
 {
-    return trimmedStart(trimmedEnd(text));
+    return trimmed(text, isClassicSpace<char>);
 }
 
 ProfileLines::ProfileLines(std::string_view text)
+    // 0 without a line feed, since npos + 1 is 0.
     : m_text(text), m_lineFeedsEnd(text.rfind('\n') + 1)
 {}
 
@@ -32,6 +31,7 @@ std::string_view ProfileLines::takeAt(std::size_t place)
 {
     const bool endsWithLineFeed = place < m_lineFeedsEnd;
     const char lineEnd = endsWithLineFeed ? '\n' : '\r';
+    // A line that ends with a carriage return begins after the last line feed.
     const std::size_t first = endsWithLineFeed ? m_position : std::max(m_position, m_lineFeedsEnd);
     std::size_t start = place;
     while (start > first && m_text[start - 1] != lineEnd)

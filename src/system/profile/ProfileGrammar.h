@@ -10,14 +10,8 @@
 
 namespace ktqtbase {
 
-// White space as the C locale has it, whatever locale the process has set, and for bytes above
-// 0x7F as well: isspace would ask the process's locale and takes no negative char.
-constexpr bool isWhiteSpace(char c)
-{
-    return c == ' ' || (c >= '\t' && c <= '\r');
-}
-
-// A text without the white space at its start, at its end, at both.
+// A text without the white space at its start, at its end, at both. White space is the classic
+// locale's, whatever locale the process has set.
 std::string_view trimmedStart(std::string_view text);
 std::string_view trimmedEnd(std::string_view text);
 std::string_view trimmed(std::string_view text);

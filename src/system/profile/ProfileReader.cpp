@@ -14,9 +14,6 @@ using ktqtbase::ProfileText;
 
 namespace {
 
-// The least area that holds a byte and a terminator.
-constexpr int kLeastSize = 2;
-
 // What is asked for. Without a section the answer is the list of sections, without a key the list
 // of the section's keys.
 struct Query
@@ -54,27 +51,32 @@ bool findAnswer(std::string_view text, const Query& query, ProfileResult& result
     return value.has_value();
 }
 
+// Fills the result from a file that is read, empty or absent.
+void answer(const ProfileText& file, const Query& query, std::string_view fallback,
+            ProfileResult& result)
+{
+    const bool isRead = file.state() == ProfileText::State::Read;
+    const bool hasFallback = file.state() == ProfileText::State::Empty ||
+                             (file.state() == ProfileText::State::Absent && query.section);
+    if (isRead ? !findAnswer(file.text(), query, result) : hasFallback)
+        result.assign(fallback);
+    // Kept: quotes stay in the default of a file that is absent or empty; a host would lose them
+    // otherwise.
+    if (isRead)
+        result.stripQuotes();
+}
+
 } // namespace
 
 int read_profile_string(const char* section, char* key, char* defaultText, char* out, int size,
                         char* fileName)
 {
-    if (out && size == 1)
-        out[0] = '\0';
-    if (!out || size < kLeastSize)
+    if (!out || size < 1)
         return 0;
     ProfileResult result(out, static_cast<std::size_t>(size));
-    const std::string_view fallback = trimmedDefault(defaultText);
+    if (size == 1)
+        return 0;
     const Query query{trimmedArgument(section), trimmedArgument(key)};
-
-    const ProfileText file(fileName);
-    if (file.state() == ProfileText::State::Read) {
-        if (!findAnswer(file.text(), query, result))
-            result.assign(fallback);
-        result.stripQuotes();
-    } else if (file.state() == ProfileText::State::Empty ||
-               (file.state() == ProfileText::State::Absent && section)) {
-        result.assign(fallback);
-    }
+    answer(ProfileText(fileName), query, trimmedDefault(defaultText), result);
     return result.count();
 }

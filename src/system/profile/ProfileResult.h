@@ -14,7 +14,7 @@ class ProfileResult
 public:
     // Fills the area with zeros.
     //   area    out: the caller's, not owned
-    //   size    in: its size in bytes, at least 2
+    //   size    in: its size in bytes, at least 1
     ProfileResult(char* area, std::size_t size);
 
     // Holds this text, as far as it fits with a terminator.

@@ -5,8 +5,8 @@
 
 namespace {
 
-// What may follow a key: an equals sign, or white space before it. It is asked of every byte, so
-// that other bytes may pass which the grammar refuses later.
+// Whether a byte may follow a key: an equals sign, or white space before it. The test is cheap and
+// lets other bytes pass, too; entryOf judges exactly.
 bool mayFollowKey(char c)
 {
     return (c == '=') | (c <= ' ');
