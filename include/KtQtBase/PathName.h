@@ -11,8 +11,11 @@
 //
 // A parse removes enclosing quotes and white space, turns backslashes into slashes, tells drive,
 // rooted and relative names apart, looks the drive up in volumeList, and asks the file system what
-// the name denotes. The drive stays in the name: the library maps C: to no folder. Names of the
-// form \\server\share are refused.
+// the name denotes. Names of the form \\server\share are refused.
+//
+// The drive stays in the name, and the library maps it to no folder: C:/docs is looked up as it
+// stands, below a folder "C:" of the working directory, and is hardly ever found. A host that has
+// names with drives replaces the drive by a folder of its own before it parses them.
 //
 // Only Rename changes the file system. Look-ups follow symbolic links; a link whose target is
 // missing counts as not found. "." and ".." are never removed from a name.

@@ -12,6 +12,7 @@
 #ifndef KTQTBASE_WINDOWSFUNCTIONS_H
 #define KTQTBASE_WINDOWSFUNCTIONS_H
 
+#include <KtQtBase/windows/CharNext.h>
 #include <KtQtBase/windows/Files.h>
 #include <KtQtBase/windows/Modules.h>
 #include <KtQtBase/windows/Profiles.h>

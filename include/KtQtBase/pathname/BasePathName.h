@@ -20,8 +20,9 @@
 // what follows the last separator of a name, or the last colon if there is no separator; a pattern
 // is a name whose last component holds a wildcard, * or ?.
 //
-// Results of type int: 0 done, 1 bad name or argument, 2 nothing parsed, 3 refused at the root, 4
-// cannot be done.
+// Results of type int, unless a function says otherwise: 0 done, 1 bad name or argument, 2 nothing
+// parsed, 3 refused at the root, 4 cannot be done. Type 5, which only a host sets, counts as parsed
+// for questions, which then leave the prefix out, and as not parsed for edits.
 class KTQTBASE_EXPORT CRbUiPathname
 {
 public:
@@ -38,8 +39,9 @@ public:
     // Parses a name; a relative one is taken as lying in the executable's folder.
     //   name    in: the name given; it may point into this object's own strings
     //   flag    not used
-    // Result: 0 done; 1 bad name, or null; 4 the executable's folder could not be parsed, and the
-    // object stays as it was.
+    // Result: 0 done; 1 a bad name, as the rows of ParseRelative have them, and the object is
+    // unparsed; 1 also for null, and 4 if the executable's folder could not be parsed: the object
+    // then stays as it was.
     // On Windows: relative names lie in the working directory.
     virtual int Parse(const wchar_t* name, bool flag);
 
@@ -52,7 +54,8 @@ public:
     //   base    in: a parsed path object for relative names; may be null for others
     //   flag    not used
     // Result: 0 done; 1 bad name, and the object is unparsed (a null name leaves it as it was).
-    //   The rows have a base /home/u/ and a volume C: that does not change case.
+    //   The rows have a base /home/u/ and a volume C: that does not change case. A drive that is
+    //   not in volumeList is accepted, too; m_pVolume is null then.
     //   L" \"/tmp/a b.txt\" "  => rooted,   /tmp/a b.txt, prefix empty
     //   L"c:\\dir\\f.abc"      => drive,    C:/dir/f.abc, no prefix
     //   L"docs\\f.txt"         => relative, docs/f.txt,   prefix /home/u/
@@ -61,6 +64,8 @@ public:
     //   L"\"open"              => relative, with the quote
     //   L"\\\\srv\\share", L"//", L"a:b:c", L"dir:file", L"1:", L"/a/b:c"  => 1
     //   L"", L"   ", L"\"\""   => 1
+    // On Windows: C:file lies in the current folder of the drive, \file on the current drive, and a
+    // share is a good name.
     int ParseRelative(const wchar_t* name, const CRbUiPathname* base, bool flag);
 
     // Back to the unparsed state. m_separator, m_category and m_bQualified stay.
@@ -183,14 +188,16 @@ public:
     // Makes another path object the folder of this one.
     //   parent    out: the folder, through its virtual AssignCopy; untouched if nothing is parsed.
     //             It may be this object.
-    //   /tmp/dir => /tmp/, a folder     /tmp/dir/ => /tmp/, not found     / => /, a folder
-    //   C:/ => C:/, a folder            C:file.txt => C:                  a/b => a/
+    //   /tmp/dir => /tmp/, PT_DIRECTORY     /tmp/dir/ => /tmp/, PT_NOT_FOUND
+    //   / => /, PT_DIRECTORY                C:/ => C:/, PT_DIRECTORY
+    //   C:file.txt => C:                    a/b => a/
     //   f.txt with prefix /home/u/ => /home/u/, rooted, without prefix; without prefix => unparsed
+    // The type is set without a look at the file system; Exists looks it up.
     // A bare name (without separator or colon) whose prefix is an empty string raises
     // std::out_of_range, and parent then holds that empty string. A rooted name becomes such a one
     // when Rename gives it a bare name.
     // Kept: with a closing separator the parent's type is PT_NOT_FOUND, since TrimSlash cuts the
-    // separator off. Part of the interface; Exists looks the type up.
+    // separator off. Part of the interface.
     void GetParent(CRbUiPathname& parent) const;
 
     // ---- Extensions ----
@@ -293,7 +300,8 @@ public:
     // Result: false if nothing is parsed (result untouched) or the folder's name leaves no room
     // (result unparsed); else true. After 200 names that exist, result is unparsed and the function
     // still returns true. The same happens to a type 5 that a host has set: it is never looked up.
-    // An exception leaves result unparsed.
+    // An exception leaves result unparsed. No file is made, so that another program may take the name
+    // first; rand() is the process's own, and never seeded here.
     //   existing report.txt => report01234.txt     existing data => dat012340
     // Kept: without an extension the digits stand one character early. Part of the interface.
     bool GetUniqueName(CRbUiPathname& result, bool force) const;
@@ -334,7 +342,7 @@ public:
     const CRbUiVolumeDescriptor* m_pVolume; // not owned; null if it is not known
     CStdStr<wchar_t>* m_pWork;              // owned: the work string, with its drive
     CStdStr<wchar_t>* m_pRelPath; // owned: the prefix; empty for a rooted name, null for a drive
-    path_category m_category;     // set by a parse
+    path_category m_category;     // set by a parse, also by one that refuses the name
     wchar_t m_separator;          // slash
     // Set by a parse of a name with a separator or a colon.
     // Kept: no later parse clears it. Part of the interface.

@@ -11,9 +11,9 @@
 
 // ---- The steps of a parse ----------------------------------------------------------------------
 //
-// CRbUiPathname::ParseRelative takes the steps of GetWorkString, GetPathCatType, GetRelPath,
-// IsPathType and GetAttByPath, in this order. The others have no effect on a name that a parse
-// accepts.
+// CRbUiPathname::ParseRelative does what GetWorkString, GetPathCatType, GetRelPath, IsPathType and
+// GetAttByPath do, in this order, by the same code. The others have no effect on a name that a
+// parse accepts.
 
 // Turns backslashes into separators and reads the first two characters.
 //   s         in/out: the text
@@ -63,8 +63,9 @@ KTQTBASE_EXPORT void GetRelPath(path_category cat, const CStdStr<wchar_t>* text,
 KTQTBASE_EXPORT bool GetPathBuffer(CStdStr<wchar_t>** relPath, bool flag, CStdStr<wchar_t>* work,
                                    wchar_t sep, const CRbUiVolumeDescriptor** volume = nullptr);
 
-// Whether a name is a wildcard pattern: whether it holds an asterisk or a question mark.
-//   type    out: PT_WILDCARD for a pattern, else untouched
+// Whether a text holds a wildcard, an asterisk or a question mark, anywhere. A parse asks this of
+// the last component only.
+//   type    out: PT_WILDCARD if it does, else untouched
 KTQTBASE_EXPORT bool IsPathType(CStdStr<wchar_t> name, path_type* type);
 
 // Asks the file system what a name denotes.

@@ -13,7 +13,8 @@ enum path_category : int
     PC_RELATIVE = 3 // everything else
 };
 
-// What a name denotes.
+// What a name denotes. A host may set 5, without a name here, for a name that it knows to exist;
+// it is never looked up.
 enum path_type : int
 {
     PT_NONE = 0,      // nothing parsed

@@ -9,7 +9,7 @@
 #define KTQTBASE_WINDOWS_SYSTEMINFORMATION_H
 
 #include <KtQtBase/Export.h>
-#include <KtQtBase/windows/CharNext.h>
+#include <KtQtBase/windows/CharNext.h> // for hosts that look for CharNext here
 
 // A clock for differences of two readings.
 // Result: milliseconds of the wall clock since 1970, modulo 2^32; wraps about every 49.7 days and
