@@ -24,11 +24,12 @@ platform_conditionals() {
         '*.h' '*.cpp' '*.mm' ':!src/platform/' || true
 }
 
-# The first line of a script is for the system, so the notice may be on the second one.
+# The first line of a script is for the system, so the notice may be on the second one. The brackets
+# keep the pattern from being taken for the notice of this file.
 unlicensed() {
     git ls-files -z '*.h' '*.cpp' '*.mm' '*.cmake' '*CMakeLists.txt' '*.in' '*.sh' '*.py' \
         run .ci/run |
-        xargs -0 awk 'FNR == 1 { seen = 0 } /SPDX-License-Identifier: MIT/ { seen = 1 }
+        xargs -0 awk 'FNR == 1 { seen = 0 } /SPDX-License-Identifier[:] MIT/ { seen = 1 }
             FNR == 2 && !seen { print FILENAME }'
 }
 
