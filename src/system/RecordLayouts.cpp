@@ -49,6 +49,12 @@ static_assert(offsetof(LOGFONTW, lfItalic) == 20);
 static_assert(offsetof(LOGFONTW, lfPitchAndFamily) == 27);
 static_assert(offsetof(LOGFONTW, lfFaceName) == 28);
 
+static_assert(sizeof(NUMBERFMTW) == 40);
+static_assert(offsetof(NUMBERFMTW, Grouping) == 8);
+static_assert(offsetof(NUMBERFMTW, lpDecimalSep) == 16);
+static_assert(offsetof(NUMBERFMTW, lpThousandSep) == 24);
+static_assert(offsetof(NUMBERFMTW, NegativeOrder) == 32);
+
 static_assert(sizeof(OSVERSIONINFOW) == 532);
 static_assert(offsetof(OSVERSIONINFOW, dwPlatformId) == 16);
 static_assert(offsetof(OSVERSIONINFOW, szCSDVersion) == 20);
