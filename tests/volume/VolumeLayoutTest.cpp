@@ -63,6 +63,20 @@ TEST(VolumeSlots, EndAfterTheLastFunction)
     EXPECT_EQ(slotOf(&ExtendedVolume::next), 15);
 }
 
+class ExtendedNtfsVolume : public CRbUiNTFSVolumeDescriptor
+{
+public:
+    using CRbUiNTFSVolumeDescriptor::CRbUiNTFSVolumeDescriptor;
+    virtual void next() {}
+};
+
+TEST(VolumeSlots, AreTheSameOfAnNtfsVolume)
+{
+    EXPECT_EQ(slotOf(&CRbUiNTFSVolumeDescriptor::ValidateFilename), 3);
+    EXPECT_EQ(slotOf(&CRbUiNTFSVolumeDescriptor::ValidateSegment), 4);
+    EXPECT_EQ(slotOf(&ExtendedNtfsVolume::next), 15);
+}
+
 TEST(VolumeSlots, ExcludeTheOtherMembers)
 {
     EXPECT_EQ(slotOf(&Volume::GetConnectionName), kNotVirtual);
@@ -88,6 +102,7 @@ TEST(VolumeFields, LieInTheDeclaredOrder)
     EXPECT_EQ(offset(&volume.m_pConnectionName), 56);
     EXPECT_EQ(offset(&volume.m_pUncPrefix), 64);
     EXPECT_EQ(sizeof(CRbUiVolumeDescriptor), 72u);
+    EXPECT_EQ(sizeof(CRbUiNTFSVolumeDescriptor), 72u);
 }
 
 TEST(VolumeFields, HaveTheirTypes)
