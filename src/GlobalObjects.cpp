@@ -15,6 +15,7 @@ static CDelVolumeList volumelistdel;
 CDelVolumeList::~CDelVolumeList()
 {
     // By index, since a host's descriptor may read the list while it dies.
+    // NOLINTNEXTLINE(modernize-loop-convert)
     for (int i = 0; i < volumeList.size(); ++i)
         delete volumeList.at(i);
 }

@@ -61,12 +61,10 @@ QImage transparentImage(int width, int height)
 
 } // namespace
 
-KtGrQtDoubleBufferImage::KtGrQtDoubleBufferImage(QWidget* destination) : m_pDestWidget(destination)
-{
-    m_pMemPainter = new KtQtPainterWrapper;
-    m_pFrontPainter = new KtQtPainterWrapper;
-    m_pPalette = new QPalette;
-}
+KtGrQtDoubleBufferImage::KtGrQtDoubleBufferImage(QWidget* destination)
+    : m_pMemPainter(new KtQtPainterWrapper), m_pFrontPainter(new KtQtPainterWrapper),
+      m_pDestWidget(destination), m_pPalette(new QPalette)
+{}
 
 KtGrQtDoubleBufferImage::~KtGrQtDoubleBufferImage()
 {

@@ -10,8 +10,9 @@
 
 namespace {
 
-static_assert(sizeof(POINT) == sizeof(QPoint) && alignof(POINT) == alignof(QPoint),
-              "point arrays reach Qt without being copied");
+// Arrays of points reach Qt without being copied.
+static_assert(sizeof(POINT) == sizeof(QPoint));
+static_assert(alignof(POINT) == alignof(QPoint));
 
 const QPoint* qtPoints(const POINT* pts)
 {

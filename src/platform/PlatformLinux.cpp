@@ -18,7 +18,7 @@ std::string readExecutablePath()
     std::string path;
     for (std::size_t room = 1024;; room *= 2) {
         path.resize(room);
-        const ssize_t length = readlink("/proc/self/exe", &path[0], room);
+        const ssize_t length = readlink("/proc/self/exe", path.data(), room);
         if (length < 0)
             return std::string();
         if (static_cast<std::size_t>(length) < room) {

@@ -21,7 +21,7 @@ constexpr unsigned int kKeptByConstructor = 0x80;
 
 } // namespace
 
-CRbUiVolumeDescriptor::CRbUiVolumeDescriptor() {}
+CRbUiVolumeDescriptor::CRbUiVolumeDescriptor() = default;
 
 CRbUiVolumeDescriptor::CRbUiVolumeDescriptor(const CStdStr<wchar_t>& localName)
     : m_pLocalName(new CStdStr<wchar_t>(localName)), m_maxComponentLen(kDefaultMaxComponentLen),
