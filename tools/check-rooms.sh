@@ -36,7 +36,6 @@ header_only="
     drawing/ColorRef.h
     pathname/ParseSteps.h
     pathname/PathInternals.h
-    pathname/PathTypes.h
     string/CaseFolding.h
     string/TextRoom.h
     string/WhiteSpace.h
