@@ -38,6 +38,8 @@ inline bool holdsSeveralColons(std::wstring_view text)
 
 inline void putSeparators(CStdStr<wchar_t>& text, wchar_t separator)
 {
+    if (text.find(kBackslash) == text.npos)
+        return;
     for (wchar_t& ch : text)
         ch = ch == kBackslash ? separator : ch;
 }

@@ -34,8 +34,8 @@ private:
     // trim.
     static const std::ctype<wchar_t>* classesOf(const std::locale& locale)
     {
-        return locale == std::locale::classic() ? nullptr
-                                                : &std::use_facet<std::ctype<wchar_t>>(locale);
+        static const std::locale& classic = std::locale::classic();
+        return locale == classic ? nullptr : &std::use_facet<std::ctype<wchar_t>>(locale);
     }
 
     std::locale m_locale;
