@@ -41,6 +41,12 @@ bool CRbUiPathname::GetFullPath(CStdStr<wchar_t>& out) const
 {
     if (m_type == PT_NONE)
         return false;
+    if (ktqtbase::isOwn(*this, out)) {
+        CStdStr<wchar_t> path;
+        GetFullPath(path);
+        out.swap(path);
+        return true;
+    }
     out.clear();
     if (ktqtbase::isParsed(m_type) && m_category != PC_ROOTED && m_pRelPath) {
         out.reserve(m_pRelPath->size() + 1 + (m_pWork ? m_pWork->size() : 0));

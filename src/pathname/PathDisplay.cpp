@@ -57,6 +57,12 @@ void shortenFolders(const CRbUiPathname& path, std::size_t start, std::size_t wi
 
 void CRbUiPathname::GetDisplayName(CStdStr<wchar_t>& out, int width) const
 {
+    if (ktqtbase::isOwn(*this, out)) {
+        WideText shown;
+        GetDisplayName(shown, width);
+        out.swap(shown);
+        return;
+    }
     out.clear();
     if (!ktqtbase::isParsed(*this))
         return;

@@ -95,6 +95,12 @@ inline std::size_t volumeNameLength(const CRbUiPathname& path)
     return localName ? localName->size() : 0;
 }
 
+// Whether a string to be filled is one of a path object's own, which is read while it is filled.
+inline bool isOwn(const CRbUiPathname& path, const CStdStr<wchar_t>& out)
+{
+    return &out == path.m_pWork || &out == path.m_pRelPath;
+}
+
 // Whether a text lies in a string's own characters, which an edit of the string moves or
 // overwrites.
 inline bool liesIn(const CStdStr<wchar_t>& s, const wchar_t* text)

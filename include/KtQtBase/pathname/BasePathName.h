@@ -20,6 +20,9 @@
 // what follows the last separator of a name, or the last colon if there is no separator; a pattern
 // is a name whose last component holds a wildcard, * or ?.
 //
+// A text passed in may point into this object's own strings. A string to be filled may be one of
+// them: it gets what any other string would get.
+//
 // Results of type int, unless a function says otherwise: 0 done, 1 bad name or argument, 2 nothing
 // parsed, 3 refused at the root, 4 cannot be done. Type 5, which only a host sets, counts as parsed
 // for questions, which then leave the prefix out, and as not parsed for edits.
