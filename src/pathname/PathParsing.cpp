@@ -47,7 +47,9 @@ bool normaliseName(CRbUiPathname& path, Text& work, const CRbUiPathname* base)
 // The first volume of the list with a local name, or null.
 const CRbUiVolumeDescriptor* listedVolume(std::wstring_view name)
 {
-    for (const CRbUiVolumeDescriptor* volume : qAsConst(volumeList)) {
+    // By index, since a host's GetLocalName may append to the list.
+    for (int i = 0; i < volumeList.size(); ++i) {
+        const CRbUiVolumeDescriptor* volume = volumeList.at(i);
         const Text* localName = volume ? volume->GetLocalName() : nullptr;
         if (localName && *localName == name)
             return volume;

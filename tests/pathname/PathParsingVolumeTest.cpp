@@ -8,6 +8,7 @@
 #include <gtest/gtest.h>
 
 #include <new>
+#include <utility>
 
 namespace {
 
@@ -65,6 +66,34 @@ TEST(FindVolumeDescriptor, PassesOverNullEntries)
     const ListedVolumes listed{nullptr, &volume, nullptr};
     EXPECT_EQ(CRbUiPathname().FindVolumeDescriptor(kDriveC), &volume);
     EXPECT_EQ(CRbUiPathname().FindVolumeDescriptor(Text(L"D:")), nullptr);
+}
+
+// Appends volumes to the list while it is searched.
+class AppendingVolume : public RecordingVolume
+{
+public:
+    using RecordingVolume::RecordingVolume;
+    const Text* GetLocalName() const override
+    {
+        for (CRbUiVolumeDescriptor* volume : std::exchange(m_waiting, {}))
+            volumeList.append(volume);
+        return m_pLocalName;
+    }
+
+    mutable std::vector<CRbUiVolumeDescriptor*> m_waiting;
+};
+
+TEST(FindVolumeDescriptor, LooksAtWhatAVolumeAppendsMeanwhile)
+{
+    AppendingVolume appending(L"A:");
+    RecordingVolume other(L"B:");
+    RecordingVolume wanted(L"C:");
+    // So many that the list moves to other memory.
+    appending.m_waiting.assign(1000, &other);
+    appending.m_waiting.push_back(&wanted);
+    const ListedVolumes listed{&appending, &other};
+    EXPECT_EQ(CRbUiPathname().FindVolumeDescriptor(kDriveC), &wanted);
+    EXPECT_EQ(volumeList.size(), 1003);
 }
 
 TEST(NewVolDescriptor, GivesNullAndListsNothing)

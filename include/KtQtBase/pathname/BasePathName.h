@@ -89,7 +89,8 @@ public:
 
     // Looks a volume up in volumeList by its exact local name.
     //   name    in: such as L"C:"; an empty one finds nothing
-    // Result: the first volume of that name, or null. Not owned.
+    // Result: the first volume of that name, or null. Not owned. A volume that a host's GetLocalName
+    // appends to the list meanwhile is looked at, too.
     const CRbUiVolumeDescriptor* FindVolumeDescriptor(const CStdStr<wchar_t>& name) const;
 
     // Inert: returns null; no descriptor is made and none is added to volumeList.
