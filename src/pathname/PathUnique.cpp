@@ -32,12 +32,13 @@ bool isUsable(CRbUiPathname& path)
     return path.m_type != ktqtbase::kKnownToExist;
 }
 
-// Cuts the last component off, also where it is all there is.
+// Cuts the last component off, also where it is all there is. A type 5 name cannot be cut, and
+// counts as the folder as a whole.
 void keepFolder(CRbUiPathname& path)
 {
     const bool isBareName =
         path.m_category == PC_RELATIVE && path.m_pWork->find(path.m_separator) == WideText::npos;
-    if (isBareName)
+    if (isBareName && ktqtbase::isParsed(path))
         path.m_pWork->clear();
     else
         path.Trim();

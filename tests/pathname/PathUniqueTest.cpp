@@ -3,6 +3,7 @@
 #include "pathname/Scopes.h"
 
 #include <cstdlib>
+#include <cwchar>
 
 namespace {
 
@@ -150,6 +151,33 @@ TEST(GetUniqueName, CountsAHostsTypeAsTakenAlways)
             EXPECT_TRUE(each->GetUniqueName(result, false));
             expectUnparsed(result);
             EXPECT_EQ(g_calls, 200);
+        }
+    }
+}
+
+TEST(GetUniqueName, CountsAHostsNameAsAFolderAsAWhole)
+{
+    struct
+    {
+        const char* name;
+        std::size_t length;
+        const wchar_t* extension;
+        bool hasRoom;
+    } const rows[] = {{"room for one character", 1016, L"", true},
+                      {"no room", 1017, L"", false},
+                      {"nearly the longest name", 1020, L"", false},
+                      {"room beside the extension", 1013, L".txt", true},
+                      {"the extension takes the room", 1014, L".txt", false}};
+    for (const auto& row : rows) {
+        const std::size_t stem = row.length - std::wcslen(row.extension);
+        const HandMadePath name(PC_RELATIVE, std::wstring(stem, L'n') + row.extension, kTypeOfHost);
+        for (bool force : {false, true}) {
+            SCOPED_TRACE(testing::Message() << row.name << ", force " << force);
+            answerRand(7);
+            HandMadePath result(PC_ROOTED, L"/old");
+            EXPECT_EQ(name.GetUniqueName(result, force), row.hasRoom);
+            expectUnparsed(result);
+            EXPECT_EQ(g_calls, row.hasRoom ? 200 : 0);
         }
     }
 }

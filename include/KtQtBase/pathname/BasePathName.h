@@ -303,7 +303,8 @@ public:
     //   force     in: whether to make a new name in any case
     // Result: false if nothing is parsed (result untouched) or the folder's name leaves no room
     // (result unparsed); else true. After 200 names that exist, result is unparsed and the function
-    // still returns true. The same happens to a type 5 that a host has set: it is never looked up.
+    // still returns true. The same happens to a type 5 that a host has set: it is never looked up,
+    // and its whole work string counts as the folder's name.
     // An exception leaves result unparsed. No file is made, so that another program may take the name
     // first; rand() is the process's own, and never seeded here.
     //   existing report.txt => report01234.txt     existing data => dat012340
