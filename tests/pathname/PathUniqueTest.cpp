@@ -182,6 +182,22 @@ TEST(GetUniqueName, CountsAHostsNameAsAFolderAsAWhole)
     }
 }
 
+TEST(GetUniqueName, CutsAtTheSeparatorOfTheObject)
+{
+    for (const auto& [work, unique] :
+         {std::make_pair(L"d!a/b.txt", L"d!a/b00007.txt"),
+          std::make_pair(L"a/b.txt", L"a/b00007.txt"), std::make_pair(L"d.x!a", L"d.x!000070"),
+          std::make_pair(L"!none!", L"!none!ktTm000070")}) {
+        SCOPED_TRACE(work);
+        HandMadePath name(PC_RELATIVE, work);
+        name.m_separator = L'!';
+        answerRand(7);
+        CRbUiPathname result;
+        EXPECT_TRUE(name.GetUniqueName(result, true));
+        EXPECT_EQ(workOf(result), unique);
+    }
+}
+
 TEST(GetUniqueName, LeavesTheResultAloneWhereNothingIsParsed)
 {
     HandMadePath result(PC_ROOTED, L"/old");
