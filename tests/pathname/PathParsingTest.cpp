@@ -325,6 +325,28 @@ const QualifiedRow kQualifiedRows[] = {
 
 INSTANTIATE_TEST_SUITE_P(Table, Qualified, testing::ValuesIn(kQualifiedRows), RowName());
 
+TEST(ParseRelative, LooksForTheColonBeforeItOverwritesTheNameGiven)
+{
+    CRbUiPathname name;
+    name.m_type = PT_FILE;
+    name.m_pWork = new Text(L"xxc:abcdefgh");
+    ASSERT_EQ(name.ParseRelative(name.GetPathString() + 2, nullptr, false), 0);
+    EXPECT_STREQ(name.GetPathString(), L"C:abcdefgh");
+    EXPECT_TRUE(name.m_bQualified);
+}
+
+TEST(ParseRelative, QualifiesANameByTheSeparatorOfTheObject)
+{
+    CRbUiPathname base;
+    ASSERT_EQ(base.ParseRelative(L"/home/u/", nullptr, false), 0);
+    CRbUiPathname name;
+    name.m_separator = L'!';
+    ASSERT_EQ(name.ParseRelative(L"a/b", &base, false), 0);
+    EXPECT_FALSE(name.m_bQualified);
+    ASSERT_EQ(name.ParseRelative(L"a\\b", &base, false), 0);
+    EXPECT_TRUE(name.m_bQualified);
+}
+
 TEST(ParseRelative, NeverClearsQualified)
 {
     CRbUiPathname base;

@@ -208,6 +208,28 @@ TEST(ParseRelative, ShowsTheVolumeNothingOfTheNameBefore)
     EXPECT_EQ(volume.calls, 2);
 }
 
+// Changes the base of the name that is being parsed.
+class BaseChangingVolume : public RecordingVolume
+{
+public:
+    using RecordingVolume::RecordingVolume;
+    void VolCase(Text&) const override { base->m_pWork->assign(L"C:/changed"); }
+
+    CRbUiPathname* base = nullptr;
+};
+
+TEST(ParseRelative, TakesThePrefixAfterTheVolumeHadTheName)
+{
+    BaseChangingVolume volume(L"C:");
+    CRbUiPathname base;
+    ASSERT_EQ(base.ParseRelative(L"C:\\dir", nullptr, false), 0);
+    base.m_pVolume = &volume;
+    volume.base = &base;
+    CRbUiPathname name;
+    ASSERT_EQ(name.ParseRelative(L"a", &base, false), 0);
+    EXPECT_STREQ(name.m_pRelPath->c_str(), L"C:/changed");
+}
+
 // Replaces the separators of a name.
 class SeparatorlessVolume : public RecordingVolume
 {
