@@ -31,6 +31,20 @@ public:
     void setPrefix(const std::wstring& prefix) { m_pRelPath = new CStdStr<wchar_t>(prefix); }
 };
 
+// A volume whose own answer differs from the name that its base class keeps.
+class RenamedVolume : public CRbUiNTFSVolumeDescriptor
+{
+public:
+    RenamedVolume(const wchar_t* kept, const wchar_t* answered)
+        : CRbUiNTFSVolumeDescriptor(CStdStr<wchar_t>(kept)), m_answered(answered)
+    {}
+
+    const CStdStr<wchar_t>* GetLocalName() const override { return &m_answered; }
+
+private:
+    CStdStr<wchar_t> m_answered;
+};
+
 // A name whose virtual functions count their calls, as those of a host's own class may.
 template<class Base>
 class CountingPath : public Base

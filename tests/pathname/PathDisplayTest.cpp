@@ -108,6 +108,18 @@ TEST(GetDisplayName, KeepsTheVolumeWithABackslash)
     });
 }
 
+TEST(GetDisplayName, AsksTheVolumesOwnClassForTheName)
+{
+    const RenamedVolume volume(L"C:", L"C:/aa");
+    HandMadePath name(PC_DRIVE, L"C:/aa/bb/cc/dd/file");
+    name.m_pVolume = &volume;
+    CStdStr<wchar_t> out;
+    name.GetDisplayName(out, 18);
+    EXPECT_EQ(std::wstring(out), L"C:/aa\\.../dd/file");
+    name.GetDisplayName(out, 13);
+    EXPECT_EQ(std::wstring(out), L"file");
+}
+
 TEST(GetDisplayName, StopsAtTheEndWhereNoSeparatorIsLeft)
 {
     expectShown({

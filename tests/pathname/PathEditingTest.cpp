@@ -212,6 +212,24 @@ TEST(TrimComponent, TakesTheSeparatorOffToo)
                 });
 }
 
+TEST(Edits, AskTheVolumesOwnClassForTheNameOfAShare)
+{
+    const RenamedVolume longer(L"//s", L"//s/d/longer");
+    const RenamedVolume shorter(L"//s/d/longer", L"//s");
+    for (auto edit : {&CRbUiPathname::Trim, &CRbUiPathname::TrimComponent}) {
+        HandMadePath name(PC_UNC, L"//s/d/x");
+        name.m_pVolume = &longer;
+        EXPECT_EQ((name.*edit)(), 3);
+        name.m_pVolume = &shorter;
+        EXPECT_EQ((name.*edit)(), 0);
+    }
+    HandMadePath name(PC_UNC, L"//s/d/");
+    name.m_pVolume = &longer;
+    EXPECT_EQ(name.TrimSlash(), 3);
+    name.m_pVolume = &shorter;
+    EXPECT_EQ(name.TrimSlash(), 0);
+}
+
 TEST(Append, AppendsATextAsItIs)
 {
     expectAppends(&CRbUiPathname::Append, {
