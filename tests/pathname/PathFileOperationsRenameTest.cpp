@@ -3,6 +3,7 @@
 // The file functions that path objects call: this program's own definitions replace those of the
 // library and of its host, record each call and return what a test wants.
 #include "pathname/HandMadePath.h"
+#include "pathname/Scopes.h"
 
 #include <KtOsBase/KtOsBase.h>
 #include <KtQtBase/windows/Constants.h>
@@ -38,6 +39,24 @@ protected:
 using Rename = FileFunctions;
 using OpenFile = FileFunctions;
 using Parse = FileFunctions;
+using Attributes = FileFunctions;
+using Status = FileFunctions;
+
+// Answers whether it is read-only otherwise than its flags do.
+class ContraryVolume : public ListedVolume
+{
+public:
+    explicit ContraryVolume(bool isReadOnly) : ListedVolume(L"C:"), m_isReadOnly(isReadOnly)
+    {
+        if (!isReadOnly)
+            m_flags |= 0x20;
+    }
+
+    bool CheckReadOnly() const override { return m_isReadOnly; }
+
+private:
+    bool m_isReadOnly;
+};
 
 } // namespace
 
@@ -146,4 +165,51 @@ TEST_F(Parse, AsksOnceForTheAttributesBehindThePrefix)
     EXPECT_EQ(g_typeWhileAsked, PT_NOT_FOUND);
     EXPECT_EQ(name.m_type, PT_DIRECTORY);
     g_asked = nullptr;
+}
+
+TEST_F(Attributes, ArePutBehindASecondSlash)
+{
+    const CStdStr<wchar_t> work(L"a");
+    for (const auto& [text, asked] :
+         {std::make_pair(L"/prefix/", L"attributes /prefix//a"),
+          std::make_pair(L"/prefix", L"attributes /prefix/a"),
+          std::make_pair(L"", L"attributes /a"), std::make_pair(L"/", L"attributes //a")}) {
+        SCOPED_TRACE(text);
+        const CStdStr<wchar_t> prefix(text);
+        const CStdStr<wchar_t>* workPointer = &work;
+        const CStdStr<wchar_t>* prefixPointer = &prefix;
+        path_type type = PT_NONE;
+        path_type* typePointer = &type;
+        GetAttByPath(&workPointer, &prefixPointer, &typePointer);
+        EXPECT_EQ(g_calls.back(), asked);
+    }
+}
+
+TEST_F(Attributes, OfAStatusAreThoseOfTheTextHandedIn)
+{
+    CStdStr<wchar_t> text(L"/other");
+    CStdStr<wchar_t>* work = &text;
+    CRnUiPathname name;
+    g_attributes = 0;
+    ASSERT_EQ(name.ParseRelative(L"/d/a", nullptr, false), 0);
+    EXPECT_EQ(ProcessPathStatus(name, &work), 7);
+    EXPECT_EQ(g_calls.back(), L"attributes /other");
+    int status = 0;
+    g_calls.clear();
+    ProcessParentStatus(name, &work, status);
+    EXPECT_EQ(status, 8);
+    EXPECT_EQ(g_calls.back(), L"attributes /other");
+}
+
+TEST_F(Status, AsksTheVolumesOwnClassWhetherItMayBeWritten)
+{
+    for (bool isReadOnly : {false, true}) {
+        SCOPED_TRACE(isReadOnly);
+        ContraryVolume volume(isReadOnly);
+        CRnUiPathname name;
+        g_attributes = 0;
+        ASSERT_EQ(name.Parse(L"c:\\a", false), 0);
+        EXPECT_EQ(name.m_pVolume, &volume);
+        EXPECT_EQ(name.Status(), isReadOnly ? 3 : 15);
+    }
 }
