@@ -32,6 +32,14 @@ void expectExtensions(int (CRbUiPathname::*edit)(const wchar_t*),
     }
 }
 
+// The LC_CTYPE of Turkish, in which I and i are letters of two pairs; where it is not installed,
+// one in which letters outside ASCII have two cases.
+class CaseRulesScope : public Utf8Scope
+{
+public:
+    CaseRulesScope() { std::setlocale(LC_CTYPE, "tr_TR.UTF-8"); }
+};
+
 // A host's global locale does not take part.
 class ForeignCase : public std::ctype<wchar_t>
 {
@@ -89,6 +97,25 @@ TEST(VerifyExtension, FoldsByNoLocaleOfTheHost)
     const HandMadePath name(PC_ROOTED, L"/d/a.ABC");
     EXPECT_TRUE(name.VerifyExtension(L"abc"));
     EXPECT_FALSE(name.VerifyExtension(L"xyz"));
+}
+
+TEST(VerifyExtension, FoldsAsciiOnlyWhateverTheProcesssCharacterTypes)
+{
+    const CaseRulesScope rules;
+    for (const VerifyRow& row : std::initializer_list<VerifyRow>{
+             {L"/d/a.GIF", L"gif", true},
+             {L"/d/a.gif", L"GIF", true},
+             {L"/d/a.GIF", L"g\u0131f", false}, // a small i without a dot
+             {L"/d/a.G\u0130F", L"gif", false}, // a capital I with a dot
+             {L"/d/a.g\u0131f", L"gif", false},
+             {L"/d/a.\u212A", L"k", false}, // the Kelvin sign
+             {L"/d/a.\u00c9", L"\u00e9", false},
+             {L"/d/a.\u00e9", L"\u00c9", false},
+             {L"/d/a.\u0416", L"\u0436", false},
+         }) {
+        SCOPED_TRACE(testing::Message() << row.work << ", " << row.list);
+        EXPECT_EQ(HandMadePath(PC_ROOTED, row.work).VerifyExtension(row.list), row.result);
+    }
 }
 
 TEST(GetFirstExtInList, GivesTheFirstItem)
