@@ -157,6 +157,16 @@ TEST(GetParent, CopiesThroughTheResultsOwnAssignCopy)
     EXPECT_EQ(workOf(base), L"/");
 }
 
+TEST(GetParent, CopiesABareNameThroughTheResultsOwnAssignCopyToo)
+{
+    HandMadePath name(PC_RELATIVE, L"f.txt");
+    name.setPrefix(L"/home/u/");
+    CountingPath<CRbUiPathname> parent;
+    name.GetParent(parent);
+    EXPECT_EQ(parent.copies, 1);
+    EXPECT_EQ(workOf(parent), L"/home/u/");
+}
+
 TEST(GetParent, LetsAResultCopyNothing)
 {
     class Deaf : public CRbUiPathname
