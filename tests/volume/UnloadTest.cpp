@@ -12,10 +12,10 @@ struct Ending
     int status;
 };
 
-Ending runHost(const std::string& arguments)
+Ending run(const std::string& program, const std::string& arguments)
 {
     Ending ending;
-    FILE* host = popen((std::string("\"" UNLOAD_HOST "\" ") + arguments + " 2>&1").c_str(), "r");
+    FILE* host = popen(("\"" + program + "\" " + arguments + " 2>&1").c_str(), "r");
     if (!host)
         return {"no host", -1};
     char part[256];
@@ -23,6 +23,11 @@ Ending runHost(const std::string& arguments)
         ending.output += part;
     ending.status = pclose(host);
     return ending;
+}
+
+Ending runHost(const std::string& arguments)
+{
+    return run(UNLOAD_HOST, arguments);
 }
 
 TEST(Unload, DeletesEachVolumeOnceInOrder)
@@ -43,6 +48,13 @@ TEST(Unload, OfAnEmptyListDoesNothing)
 {
     const Ending ending = runHost("");
     EXPECT_EQ(ending.output, "main ends with 0\n");
+    EXPECT_EQ(ending.status, 0);
+}
+
+TEST(Unload, DestroysThePrefixOfRelativeNamesLast)
+{
+    const Ending ending = run(UNLOAD_ORDER_HOST, "");
+    EXPECT_EQ(ending.output, "volume\nprefix, list gone\n");
     EXPECT_EQ(ending.status, 0);
 }
 
