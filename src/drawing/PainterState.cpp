@@ -50,7 +50,7 @@ void KtQtPainterWrapper::setPen(int style, int width, unsigned int color)
     m_pPainter->setPen(pen);
 }
 
-void KtQtPainterWrapper::setPen(const QPen& pen)
+void KtQtPainterWrapper::setPen(QPen pen)
 {
     m_pPainter->setPen(pen);
 }
@@ -77,7 +77,7 @@ void KtQtPainterWrapper::setBrush(unsigned int color)
     m_pPainter->setBrush(solidBrush(color));
 }
 
-void KtQtPainterWrapper::setBrush(const QBrush& brush)
+void KtQtPainterWrapper::setBrush(QBrush brush)
 {
     m_pPainter->setBrush(brush);
 }

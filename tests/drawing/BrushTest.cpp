@@ -66,6 +66,15 @@ TEST_F(Brush, IsSetAndReadAsQtHasIt)
     EXPECT_EQ(painter.wrappedPainter()->brush(), brush);
 }
 
+// Hosts take pointers to the function, so its argument is a value and not a reference.
+TEST_F(Brush, IsSetThroughAPointerToTheFunction)
+{
+    void (KtQtPainterWrapper::*const set)(QBrush) = &KtQtPainterWrapper::setBrush;
+    const QBrush brush(Qt::green, Qt::Dense4Pattern);
+    (painter.*set)(brush);
+    EXPECT_EQ(painter.getBrush(), brush);
+}
+
 TEST_F(Brush, ReadOutIsACopy)
 {
     painter.setBrush(0x000000FFu);

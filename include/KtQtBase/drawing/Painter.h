@@ -104,7 +104,7 @@ public:
     void setPen(int style, int width, unsigned int color);
 
     // Sets or gets the pen as Qt has it.
-    void setPen(const QPen& pen);
+    void setPen(QPen pen);
     QPen getPen() const;
 
     // Gives the current pen another colour.
@@ -123,7 +123,7 @@ public:
     void setBrush(unsigned int color);
 
     // Sets or gets the brush as Qt has it.
-    void setBrush(const QBrush& brush);
+    void setBrush(QBrush brush);
     QBrush getBrush() const;
 
     // Sets whether gaps of dashes, patterns and text are filled with the background.
