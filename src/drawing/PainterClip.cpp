@@ -41,10 +41,10 @@ QRegion oddEvenRegion(const POINT* points, const unsigned int* counts, unsigned 
 } // namespace
 
 // On Qt::NoClip Qt frees the clip while the last pen and brush still point to it. If clipping is
-// switched off first, they no longer do.
+// switched off first, they no longer do. An inactive painter would warn of that call too.
 void ktqtbase::applyClip(QPainter& painter, const QRegion& region, Qt::ClipOperation operation)
 {
-    if (operation == Qt::NoClip)
+    if (operation == Qt::NoClip && painter.isActive())
         painter.setClipping(false);
     painter.setClipRegion(region, operation);
 }

@@ -1,5 +1,6 @@
 // SPDX-License-Identifier: MIT
 #include "drawing/Twin.h"
+#include "drawing/Warnings.h"
 
 namespace {
 
@@ -258,6 +259,26 @@ TEST(SetClipRect, OfNoClipLetsPenAndBrushPaintEverywhereAgain)
             p.setBrush(Qt::blue);
             drawAgain(p);
         }));
+}
+
+std::vector<std::string> warningsOf(const std::function<void()>& calls)
+{
+    const drawing::Warnings warnings;
+    calls();
+    return warnings.texts();
+}
+
+TEST(SetClipRect, WithoutASessionWarnsOnceAsQtDoes)
+{
+    for (const OperationRow& row : kOperations) {
+        KtQtPainterWrapper wrapper;
+        QPainter plain;
+        const QRect rect(0, 0, 45, 60);
+        const auto expected = warningsOf([&] { plain.setClipRegion(rect, row.operation); });
+        EXPECT_EQ(expected.size(), 1u) << row.name;
+        EXPECT_EQ(warningsOf([&] { wrapper.setClipRect(rect, row.operation); }), expected)
+            << row.name;
+    }
 }
 
 TEST(SetClipRect, LeavesTheStoredRegionForTheNextSession)
