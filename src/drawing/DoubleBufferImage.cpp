@@ -8,6 +8,7 @@
 #include <QtGui/QPalette>
 #include <QtWidgets/QWidget>
 
+#include <climits>
 #include <cstdlib>
 #include <memory>
 #include <utility>
@@ -22,17 +23,18 @@ struct FreeBits
 };
 using Bits = std::unique_ptr<unsigned char, FreeBits>;
 
-// The product of the three, or -1 if an argument is negative or the product, or a row, does not
-// fit. The row and the area are checked too, since a factor of 0 makes every product fit.
+long long product(int a, int b)
+{
+    return static_cast<long long>(a) * b;
+}
+
+// The product of the three, or -1 if an argument is negative or the product does not fit. A part of
+// it may be longer, since a factor of 0 makes every product fit.
 int byteSize(int width, int height, int bytesPerPixel)
 {
-    int row = 0;
-    int area = 0;
     int size = 0;
     if (width < 0 || height < 0 || bytesPerPixel < 0 ||
-        __builtin_mul_overflow(width, bytesPerPixel, &row) ||
-        __builtin_mul_overflow(width, height, &area) ||
-        __builtin_mul_overflow(area, bytesPerPixel, &size))
+        __builtin_mul_overflow(product(width, height), bytesPerPixel, &size))
         return -1;
     return size;
 }
@@ -46,16 +48,27 @@ Bits zeroedBits(int size)
     return Bits(static_cast<unsigned char*>(std::calloc(bytes, 1)));
 }
 
-// For a row of 0 bytes Qt would use a length of its own and read beyond the end of the bits.
-QImage viewOf(unsigned char* bits, int width, int height, int rowBytes)
+// Null where a row is longer than Qt can say, or empty: for a row of 0 bytes Qt would use a length
+// of its own and read beyond the end of the bits.
+QImage viewOf(unsigned char* bits, int width, int height, long long rowBytes)
 {
-    return rowBytes > 0 ? QImage(bits, width, height, rowBytes, kFormat) : QImage();
+    const bool fits = rowBytes > 0 && rowBytes <= INT_MAX;
+    return fits ? QImage(bits, width, height, static_cast<int>(rowBytes), kFormat) : QImage();
 }
 
-QImage transparentImage(int width, int height)
+// Whether Qt has no image of that size even where the memory is there. The bits are not read.
+bool isRefusedSize(unsigned char* bits, int width, int height)
 {
-    QImage image(width, height, kFormat);
-    image.fill(0);
+    return QImage(bits, width, height, kFormat).isNull();
+}
+
+// Null if memory is refused; a null image at a size that Qt refuses.
+std::unique_ptr<QImage> transparentImage(unsigned char* bits, int width, int height)
+{
+    auto image = std::make_unique<QImage>(width, height, kFormat);
+    if (image->isNull() && !isRefusedSize(bits, width, height))
+        return nullptr;
+    image->fill(0);
     return image;
 }
 
@@ -84,10 +97,10 @@ void KtGrQtDoubleBufferImage::createImages(int width, int height, int bytesPerPi
     Bits bits = zeroedBits(byteSize(width, height, bytesPerPixel));
     if (!bits)
         return;
-    auto front = std::make_unique<QImage>(transparentImage(width, height));
-    if (front->isNull() && width > 0 && height > 0)
+    auto front = transparentImage(bits.get(), width, height);
+    if (!front)
         return;
-    m_pMemImage = new QImage(viewOf(bits.get(), width, height, bytesPerPixel * width));
+    m_pMemImage = new QImage(viewOf(bits.get(), width, height, product(bytesPerPixel, width)));
     m_pMemBits = bits.release();
     m_pMemPainter->setWrappedDevice(m_pMemImage);
     m_pFrontImage = front.release();

@@ -181,9 +181,6 @@ const SizeRow kRefused[] = {
     {"2^31 bytes", 1 << 15, 1 << 14, 4},
     {"2^32 bytes, which wraps to 0", 1 << 15, 1 << 15, 4},
     {"the largest numbers", INT_MAX, INT_MAX, INT_MAX},
-    {"an area too large times 0", INT_MAX, INT_MAX, 0},
-    {"a row too long times 0", INT_MAX, 0, 4},
-    {"an image that Qt refuses", 1 << 26, 1, 1},
 };
 
 TEST_F(DoubleBuffer, IsNotCreatedAtASizeThatCannotBe)
@@ -203,11 +200,17 @@ TEST_F(DoubleBuffer, LosesItsImagesToASizeThatCannotBe)
 }
 
 const SizeRow kEmpty[] = {
-    {"no width", 0, 50, 4},      {"no height", 100, 0, 4},       {"no bytes", 100, 50, 0},
-    {"nothing at all", 0, 0, 0}, {"rows too short", 100, 50, 3},
+    {"no width", 0, 50, 4},
+    {"no height", 100, 0, 4},
+    {"no bytes", 100, 50, 0},
+    {"nothing at all", 0, 0, 0},
+    {"rows too short", 100, 50, 3},
+    {"an area too large times 0", INT_MAX, INT_MAX, 0},
+    {"a row too long times 0", INT_MAX, 0, 4},
+    {"an image that Qt refuses", 1 << 26, 1, 1},
 };
 
-TEST_F(DoubleBuffer, IsCreatedWithoutABackImageAtASizeOfZero)
+TEST_F(DoubleBuffer, IsCreatedWithoutABackImageWhereThereCanBeNone)
 {
     for (const SizeRow& row : kEmpty) {
         SCOPED_TRACE(row.name);
@@ -215,7 +218,7 @@ TEST_F(DoubleBuffer, IsCreatedWithoutABackImageAtASizeOfZero)
         EXPECT_TRUE(buffer.m_bCreated);
         ASSERT_NE(buffer.memImage(), nullptr);
         EXPECT_TRUE(buffer.memImage()->isNull());
-        EXPECT_EQ(buffer.frontImage()->isNull(), row.width == 0 || row.height == 0);
+        EXPECT_EQ(buffer.frontImage()->isNull(), row.width != 100 || row.height != 50);
         EXPECT_TRUE(buffer.memPainter()->beginDraw());
         EXPECT_FALSE(buffer.memPainter()->endDraw());
         buffer.repairFrontBuffer();

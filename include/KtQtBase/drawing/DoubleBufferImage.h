@@ -43,10 +43,16 @@ public:
     // for; if not, they are destroyed first.
     //   width, height    in: pixels
     //   bytesPerPixel    in: 4. It sizes the back image's buffer and rows and nothing else: below 4
-    //                    there is no back image (QImage::isNull), above 4 rows have a gap
+    //                    the back image is null (QImage::isNull), above 4 rows have a gap
     // There are no images afterwards if an argument is negative, the size in bytes is above
-    // 2^31 - 1, QImage refuses the size, or memory is refused. Sizes of 0 give null images, and
-    // count as made.
+    // 2^31 - 1, or memory is refused. A width or height of 0, or a size that QImage refuses, gives
+    // two null images: they count as made, and painting on them does nothing.
+    //   100, 50, 4                  => two images; memBits has 20,000 bytes
+    //   100, 50, 0                  => a null back image and a front image
+    //   2147483647, 0, 4            => two null images
+    //   2147483647, 2147483647, 0   => two null images
+    //   67108864, 1, 1              => two null images: QImage refuses the width
+    //   -1, 0, 4                    => none
     // Kept: the widget's size is compared, not the images'. Part of the interface. The widget is
     // read only if images exist, and must not be null then.
     void createImages(int width, int height, int bytesPerPixel);
