@@ -7,6 +7,7 @@
 #include <algorithm>
 #include <climits>
 #include <cstring>
+#include <type_traits>
 
 namespace {
 
@@ -47,22 +48,37 @@ TEST_F(DoubleBuffer, StartsWithWrappersAPaletteAndNoImages)
     EXPECT_EQ(buffer.destinationWidget(), &widget);
 }
 
-TEST_F(DoubleBuffer, HasItsFieldsInOrderAndNoVirtualTable)
+// Hosts are compiled against these places.
+TEST_F(DoubleBuffer, HasItsFieldsAtTheirPlacesAndNoVirtualTable)
 {
-    const void* const fields[] = {
-        &buffer,
-        &buffer.m_pMemPainter,
-        &buffer.m_pMemImage,
-        &buffer.m_pFrontPainter,
-        &buffer.m_pFrontImage,
-        &buffer.m_pBackupBits,
-        &buffer.m_pDestWidget,
-        &buffer.m_pPalette,
-        &buffer.m_bCreated,
+    const auto place = [this](const void* field) {
+        return static_cast<const char*>(field) - reinterpret_cast<const char*>(&buffer);
     };
-    EXPECT_TRUE(std::is_sorted(std::begin(fields), std::end(fields)));
-    EXPECT_EQ(fields[0], &buffer.m_pMemBits);
+    EXPECT_EQ(place(&buffer.m_pMemBits), 0);
+    EXPECT_EQ(place(&buffer.m_pMemPainter), 8);
+    EXPECT_EQ(place(&buffer.m_pMemImage), 16);
+    EXPECT_EQ(place(&buffer.m_pFrontPainter), 24);
+    EXPECT_EQ(place(&buffer.m_pFrontImage), 32);
+    EXPECT_EQ(place(&buffer.m_pBackupBits), 40);
+    EXPECT_EQ(place(&buffer.m_pDestWidget), 48);
+    EXPECT_EQ(place(&buffer.m_pPalette), 56);
+    EXPECT_EQ(place(&buffer.m_bCreated), 64);
+    EXPECT_EQ(sizeof(KtGrQtDoubleBufferImage), 72u);
     EXPECT_FALSE(std::is_polymorphic<KtGrQtDoubleBufferImage>::value);
+}
+
+TEST_F(DoubleBuffer, HasFieldsOfTheirTypes)
+{
+    using Buffer = KtGrQtDoubleBufferImage;
+    EXPECT_TRUE((std::is_same_v<decltype(Buffer::m_pMemBits), unsigned char*>));
+    EXPECT_TRUE((std::is_same_v<decltype(Buffer::m_pMemPainter), KtQtPainterWrapper*>));
+    EXPECT_TRUE((std::is_same_v<decltype(Buffer::m_pMemImage), QImage*>));
+    EXPECT_TRUE((std::is_same_v<decltype(Buffer::m_pFrontPainter), KtQtPainterWrapper*>));
+    EXPECT_TRUE((std::is_same_v<decltype(Buffer::m_pFrontImage), QImage*>));
+    EXPECT_TRUE((std::is_same_v<decltype(Buffer::m_pBackupBits), unsigned char*>));
+    EXPECT_TRUE((std::is_same_v<decltype(Buffer::m_pDestWidget), QWidget*>));
+    EXPECT_TRUE((std::is_same_v<decltype(Buffer::m_pPalette), QPalette*>));
+    EXPECT_TRUE((std::is_same_v<decltype(Buffer::m_bCreated), bool>));
 }
 
 TEST_F(DoubleBuffer, AnswersTrueToSessionsAtAllTimes)

@@ -2,6 +2,7 @@
 #include "drawing/Twin.h"
 
 #include <memory>
+#include <type_traits>
 
 namespace {
 
@@ -35,17 +36,28 @@ TEST(Wrapper, TakesAnotherDeviceWithoutOtherEffect)
     EXPECT_FALSE(before->isActive());
 }
 
-TEST(Wrapper, HasItsFieldsInOrderAndNoVirtualTable)
+// Hosts are compiled against these places.
+TEST(Wrapper, HasItsFieldsAtTheirPlacesAndNoVirtualTable)
 {
     KtQtPainterWrapper painter;
     const auto place = [&painter](const void* field) {
         return reinterpret_cast<const char*>(field) - reinterpret_cast<const char*>(&painter);
     };
     EXPECT_EQ(place(&painter.m_pWrappedDevice), 0);
-    EXPECT_LT(place(&painter.m_pWrappedDevice), place(&painter.m_pPainter));
-    EXPECT_LT(place(&painter.m_pPainter), place(&painter.m_pPath));
-    EXPECT_LT(place(&painter.m_pPath), place(&painter.m_rClipRegion));
+    EXPECT_EQ(place(&painter.m_pPainter), 8);
+    EXPECT_EQ(place(&painter.m_pPath), 16);
+    EXPECT_EQ(place(&painter.m_rClipRegion), 24);
+    EXPECT_EQ(sizeof(KtQtPainterWrapper), 32u);
     EXPECT_FALSE(std::is_polymorphic<KtQtPainterWrapper>::value);
+}
+
+TEST(Wrapper, HasFieldsOfTheirTypes)
+{
+    using Wrapper = KtQtPainterWrapper;
+    EXPECT_TRUE((std::is_same_v<decltype(Wrapper::m_pWrappedDevice), QPaintDevice*>));
+    EXPECT_TRUE((std::is_same_v<decltype(Wrapper::m_pPainter), QPainter*>));
+    EXPECT_TRUE((std::is_same_v<decltype(Wrapper::m_pPath), QPainterPath*>));
+    EXPECT_TRUE((std::is_same_v<decltype(Wrapper::m_rClipRegion), QRegion>));
 }
 
 // Pointers to the painter and to the path stay valid after the wrapper. A smart pointer inside the
