@@ -1,10 +1,14 @@
 // SPDX-License-Identifier: MIT
 #include "drawing/Twin.h"
+#include "drawing/Warnings.h"
 
 #include <memory>
 #include <type_traits>
 
 namespace {
+
+POINT kSquare[] = {{10, 10}, {50, 10}, {50, 50}, {10, 50}};
+unsigned int kFour = 4;
 
 TEST(Wrapper, StartsIdleWithoutDevicePathOrClip)
 {
@@ -34,6 +38,31 @@ TEST(Wrapper, TakesAnotherDeviceWithoutOtherEffect)
     EXPECT_EQ(painter.wrappedDevice(), &image);
     EXPECT_EQ(painter.wrappedPainter(), before);
     EXPECT_FALSE(before->isActive());
+}
+
+TEST(Wrapper, InASessionTakesAnotherDeviceAndKeepsAllElse)
+{
+    QImage image = drawing::ground();
+    QImage other = drawing::ground();
+    KtQtPainterWrapper painter(&image);
+    painter.setClipRegion(kSquare, &kFour, 1);
+    painter.beginPath();
+    painter.beginDraw();
+    painter.setPen(PS_DOT, 5, 0x000000FF);
+    QPainterPath* const path = painter.getPainterPath();
+    const QPen pen = painter.getPen();
+    const QRegion clip = painter.m_rClipRegion;
+    for (QPaintDevice* const device : {static_cast<QPaintDevice*>(&other), {}, {&image}}) {
+        painter.setWrappedDevice(device);
+        EXPECT_EQ(painter.wrappedDevice(), device);
+        EXPECT_EQ(painter.wrappedPainter()->device(), &image);
+        EXPECT_EQ(painter.getPen(), pen);
+        EXPECT_EQ(painter.getPainterPath(), path);
+        EXPECT_EQ(painter.m_rClipRegion, clip);
+        EXPECT_EQ(painter.wrappedPainter()->clipRegion(), clip);
+    }
+    painter.endDraw();
+    painter.endPath();
 }
 
 // Hosts are compiled against these places.
@@ -124,6 +153,24 @@ TEST(BeginDraw, SetsASolidBlackCosmeticPenAndASolidBlackBrush)
     EXPECT_FALSE(painter.wrappedPainter()->isActive());
 }
 
+// What was saved is Qt's own state, which comes back where a host restores once more.
+TEST(BeginDraw, SavesBeforeItSetsTheDefaultsAndTheClip)
+{
+    QImage image = drawing::ground();
+    QImage other = drawing::ground();
+    const QPainter plain(&other);
+    KtQtPainterWrapper painter(&image);
+    painter.setClipRegion(kSquare, &kFour, 1);
+    painter.beginDraw();
+    EXPECT_TRUE(painter.wrappedPainter()->hasClipping());
+    painter.restore();
+    EXPECT_EQ(painter.getPen(), plain.pen());
+    EXPECT_EQ(painter.getBrush(), plain.brush());
+    EXPECT_FALSE(painter.wrappedPainter()->hasClipping());
+    painter.save();
+    painter.endDraw();
+}
+
 TEST(BeginDraw, KeepsThePenAtOnePixelUnderAScale)
 {
     EXPECT_TRUE(drawing::drawsLike(
@@ -187,6 +234,19 @@ TEST(EndDraw, TakesTheSettingsBackBeforeItEnds)
     EXPECT_EQ(painter.wrappedPainter()->opacity(), 0.5);
     EXPECT_TRUE(painter.endDraw());
     EXPECT_FALSE(painter.endDraw());
+}
+
+// Qt warns where a state is left behind, and where one is restored after the end.
+TEST(EndDraw, RestoresAsOftenAsBeginDrawSaved)
+{
+    QImage image = drawing::ground();
+    KtQtPainterWrapper painter(&image);
+    const drawing::Warnings warnings;
+    for (int i = 0; i < 2; ++i) {
+        EXPECT_TRUE(painter.beginDraw());
+        EXPECT_TRUE(painter.endDraw());
+    }
+    EXPECT_EQ(warnings.texts(), std::vector<std::string>());
 }
 
 TEST(EndDraw, WithoutADeviceIsFalseAndLeavesTheSessionOpen)
