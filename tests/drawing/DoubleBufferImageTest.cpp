@@ -2,6 +2,7 @@
 #include "drawing/Twin.h"
 
 #include <QtGui/QPalette>
+#include <QtWidgets/QApplication>
 #include <QtWidgets/QWidget>
 
 #include <algorithm>
@@ -81,6 +82,27 @@ TEST_F(DoubleBuffer, HasFieldsOfTheirTypes)
     EXPECT_TRUE((std::is_same_v<decltype(Buffer::m_bCreated), bool>));
 }
 
+QColor windowColour(const KtGrQtDoubleBufferImage& buffer)
+{
+    return buffer.getHPalette()->color(QPalette::Window);
+}
+
+// A palette has the colours that the application has when it is made.
+TEST_F(DoubleBuffer, MakesItsPaletteOnceWhenItIsBorn)
+{
+    const QPalette before = QApplication::palette();
+    const QPalette* const palette = buffer.m_pPalette;
+    QPalette red = before;
+    red.setColor(QPalette::Window, Qt::darkRed);
+    QApplication::setPalette(red);
+    const KtGrQtDoubleBufferImage later(&widget);
+    EXPECT_EQ(windowColour(later), QColor(Qt::darkRed));
+    buffer.createImages(100, 50, 4);
+    EXPECT_EQ(buffer.getHPalette(), palette);
+    EXPECT_EQ(windowColour(buffer), before.color(QPalette::Window));
+    QApplication::setPalette(before);
+}
+
 TEST_F(DoubleBuffer, AnswersTrueToSessionsAtAllTimes)
 {
     EXPECT_TRUE(buffer.beginDraw());
@@ -156,6 +178,24 @@ TEST_F(DoubleBuffer, MakesTheImagesAnewWhereTheWidgetHasAnotherSize)
     widget.resize(120, 60);
     buffer.createImages(120, 50, 4);
     EXPECT_EQ(buffer.memImage()->size(), QSize(120, 50));
+}
+
+TEST_F(DoubleBuffer, MakesATransparentFrontImageAnewEveryTime)
+{
+    buffer.createImages(100, 50, 4);
+    buffer.frontImage()->fill(Qt::green);
+    widget.resize(120, 50);
+    buffer.createImages(100, 50, 4);
+    EXPECT_TRUE(support::samePicture(transparent(100, 50), *buffer.frontImage()));
+}
+
+TEST_F(DoubleBuffer, MakesNoFrontImageWhenItIsRepaired)
+{
+    buffer.createImages(100, 50, 4);
+    const QImage* const front = buffer.frontImage();
+    buffer.repairFrontBuffer();
+    EXPECT_EQ(buffer.frontImage(), front);
+    EXPECT_EQ(buffer.frontPainter()->wrappedDevice(), front);
 }
 
 TEST_F(DoubleBuffer, DestroysItsImagesOnceAndKeepsItsWrappers)
@@ -237,6 +277,8 @@ TEST_F(DoubleBuffer, IsCreatedWithoutABackImageWhereThereCanBeNone)
         EXPECT_EQ(buffer.frontImage()->isNull(), row.width != 100 || row.height != 50);
         EXPECT_TRUE(buffer.memPainter()->beginDraw());
         EXPECT_FALSE(buffer.memPainter()->endDraw());
+        EXPECT_TRUE(buffer.frontPainter()->beginDraw());
+        EXPECT_EQ(buffer.frontPainter()->endDraw(), !buffer.frontImage()->isNull());
         buffer.repairFrontBuffer();
         buffer.destroyImages();
     }
