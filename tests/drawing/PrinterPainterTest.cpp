@@ -1,5 +1,6 @@
 // SPDX-License-Identifier: MIT
 #include "drawing/Twin.h"
+#include "drawing/Warnings.h"
 
 #include <QtCore/QBuffer>
 #include <QtGui/QPdfWriter>
@@ -31,6 +32,66 @@ TEST(PrinterPainter, PaintsFromItsBirthToItsDeath)
         EXPECT_TRUE(image.paintingActive());
     }
     EXPECT_FALSE(image.paintingActive());
+}
+
+TEST(PrinterPainter, EndsPaintingAlsoWhereItsDeviceWasReplaced)
+{
+    QImage image = drawing::ground();
+    QImage other = drawing::ground();
+    for (QPaintDevice* const device : {static_cast<QPaintDevice*>(&other), {}}) {
+        {
+            KtQtPrinterPainter painter(&image);
+            painter.setWrappedDevice(device);
+            EXPECT_TRUE(image.paintingActive());
+        }
+        EXPECT_FALSE(image.paintingActive());
+    }
+}
+
+TEST(PrinterPainter, EndsWhatTheHostBegan)
+{
+    QImage image = drawing::ground();
+    {
+        KtQtPrinterPainter painter(nullptr);
+        painter.wrappedPainter()->begin(&image);
+    }
+    EXPECT_FALSE(image.paintingActive());
+}
+
+TEST(PrinterPainter, DoesNotBeginInASessionWhatTheHostEnded)
+{
+    QImage image = drawing::ground();
+    KtQtPrinterPainter painter(&image);
+    painter.wrappedPainter()->end();
+    EXPECT_TRUE(painter.beginDraw());
+    EXPECT_FALSE(painter.wrappedPainter()->isActive());
+    EXPECT_TRUE(painter.endDraw());
+}
+
+// Qt warns of a second begin, of a state that is left behind and of one that was never saved.
+TEST(PrinterPainter, BeginsAndEndsOnceAndRestoresAsOftenAsItSaved)
+{
+    QImage image = drawing::ground();
+    const drawing::Warnings warnings;
+    {
+        KtQtPrinterPainter painter(&image);
+        for (int i = 0; i < 2; ++i) {
+            painter.beginDraw();
+            painter.endDraw();
+        }
+    }
+    EXPECT_EQ(warnings.texts(), std::vector<std::string>());
+}
+
+TEST(PrinterPainter, TakesTheClipOfASessionBack)
+{
+    QImage image = drawing::ground();
+    KtQtPrinterPainter painter(&image);
+    painter.beginDraw();
+    painter.setClipRect(QRect(0, 0, 5, 5), Qt::ReplaceClip);
+    EXPECT_TRUE(painter.wrappedPainter()->hasClipping());
+    painter.endDraw();
+    EXPECT_FALSE(painter.wrappedPainter()->hasClipping());
 }
 
 TEST(PrinterPainter, WithoutADeviceNeverPaints)
