@@ -198,6 +198,41 @@ TEST(FillPath, FillsWithTheBrushAndDrawsNoOutline)
         }));
 }
 
+struct RuleRow
+{
+    const char* name;
+    Qt::FillRule rule;
+    QRegion inside;
+};
+
+const QRegion kFirstSquare(10, 10, 40, 40);
+const QRegion kSecondSquare(30, 30, 40, 40);
+
+const RuleRow kRules[] = {
+    {"odd-even", Qt::OddEvenFill, kFirstSquare.xored(kSecondSquare)},
+    {"winding", Qt::WindingFill, kFirstSquare.united(kSecondSquare)},
+};
+
+TEST(FillPath, FollowsThePathsOwnRule)
+{
+    for (const RuleRow& row : kRules) {
+        QPainterPath path;
+        path.addRect(10, 10, 40, 40);
+        path.addRect(30, 30, 40, 40);
+        path.setFillRule(row.rule);
+        EXPECT_TRUE(drawsLike(
+            [&path](KtQtPainterWrapper& p) {
+                setColours(p);
+                p.fillPath(path);
+            },
+            [&row](QPainter& p) {
+                for (const QRect& rect : row.inside)
+                    p.fillRect(rect, Qt::blue);
+            }))
+            << row.name;
+    }
+}
+
 TEST(StrokePath, DrawsTheOutlineAndFillsNothing)
 {
     EXPECT_TRUE(drawsLike(
