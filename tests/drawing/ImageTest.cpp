@@ -114,6 +114,20 @@ TEST(DrawScaledImage, FillsTheInclusiveTarget)
     }
 }
 
+// All its pixels, and not the quarter that its size on the screen would name.
+TEST(DrawScaledImage, CountsTheSourceInPixelsAtEveryPixelRatio)
+{
+    QImage source = drawing::ground(QImage::Format_RGB32, QSize(24, 16));
+    source.setDevicePixelRatio(2);
+    for (const TargetRow& row : kTargets) {
+        QRect target = row.target;
+        EXPECT_TRUE(drawsLike(
+            [&](KtQtPainterWrapper& p) { p.drawImage(target, source); },
+            [&](QPainter& p) { p.drawImage(QRectF(target), source, QRectF(0, 0, 24, 16)); }))
+            << row.name;
+    }
+}
+
 TEST(DrawScaledImage, IsTurnedWithThePainter)
 {
     QImage source = drawing::ground(QImage::Format_RGB32, QSize(24, 16));
