@@ -16,7 +16,7 @@ namespace support {
 class AllocationCounter
 {
 public:
-    AllocationCounter() : m_start(total()), m_startBytes(totalBytes()) {}
+    AllocationCounter() : m_start(total()), m_startBytes(totalBytes()), m_startHeld(totalHeld()) {}
 
     // Calls of malloc, calloc and realloc since this object was made.
     long count() const { return total() - m_start; }
@@ -25,12 +25,18 @@ public:
     // once.
     long bytes() const { return totalBytes() - m_startBytes; }
 
+    // Blocks taken and not given back since this object was made. Blocks of a special alignment are
+    // not seen when they are taken: none may be given back meanwhile.
+    long held() const { return totalHeld() - m_startHeld; }
+
 private:
     static long total();
     static long totalBytes();
+    static long totalHeld();
 
     long m_start;
     long m_startBytes;
+    long m_startHeld;
 };
 
 } // namespace support

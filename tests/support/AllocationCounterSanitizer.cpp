@@ -13,16 +13,21 @@ namespace {
 
 std::atomic<long> allocations{0};
 std::atomic<long> allocatedBytes{0};
+std::atomic<long> heldBlocks{0};
 
 void count(const volatile void*, std::size_t size)
 {
     ++allocations;
     allocatedBytes += static_cast<long>(size);
+    ++heldBlocks;
 }
 
-void ignore(const volatile void*) {}
+void giveBack(const volatile void*)
+{
+    --heldBlocks;
+}
 
-const int kInstalled = __sanitizer_install_malloc_and_free_hooks(count, ignore);
+const int kInstalled = __sanitizer_install_malloc_and_free_hooks(count, giveBack);
 
 } // namespace
 
@@ -34,4 +39,9 @@ long support::AllocationCounter::total()
 long support::AllocationCounter::totalBytes()
 {
     return kInstalled > 0 ? allocatedBytes.load() : -1;
+}
+
+long support::AllocationCounter::totalHeld()
+{
+    return kInstalled > 0 ? heldBlocks.load() : -1;
 }
