@@ -214,7 +214,7 @@ public:
     //   path    in: made with new, since endPath deletes it; or null for none
     void setPainterPath(QPainterPath* path);
 
-    // Fills a path with the brush, strokes it with the pen, or does both.
+    // Fills a path with the brush by its own fill rule, strokes it with the pen, or does both.
     //   path    in: any path, often the open one; unchanged. Not null
     // Kept: the last takes a pointer, the others take a value. Part of the interface.
     // On Windows: all three use up the path of the device context.
@@ -272,7 +272,7 @@ public:
 
     // Draws a whole image, scaled to a rectangle.
     //   target    in: Qt's inclusive rectangle
-    //   image     in: the image
+    //   image     in: the image; its size is counted in pixels at every device pixel ratio
     void drawImage(QRect& target, QImage& image);
 
     // Fills a rectangle; pen and brush are not used and stay.

@@ -30,8 +30,8 @@ public:
     // If the device refuses, the painter is inactive, and Qt ignores what is drawn.
     explicit KtQtPrinterPainter(QPaintDevice* device);
 
-    // Ends painting, which finishes the document. An exception that Qt throws here ends the
-    // process.
+    // Ends painting, which finishes the document, also where another device has been set since. An
+    // exception that Qt throws here ends the process.
     ~KtQtPrinterPainter();
 
     // Saves the painter's state and sets a solid black pen of width 0 and a solid black brush.
