@@ -30,7 +30,12 @@ void* openModule(const char* fileName)
 
 void* findSymbol(void* module, const char* name)
 {
-    return isModule(module) ? dlsym(module, name) : nullptr;
+    if (!isModule(module))
+        return nullptr;
+    // For the handle -1 the loader looks behind the library that its return address lies in. A tail
+    // call would have it return to the host, so the result is stored first.
+    void* volatile symbol = dlsym(module, name);
+    return symbol;
 }
 
 int closeModule(void* module)

@@ -28,7 +28,8 @@ int mainScreenWidth();
 int mainScreenHeight();
 
 // The dynamic loader, with lazy binding. The handle null, and 1 for the main program, name no
-// module: no symbol is found in them, and closing them fails (non-zero). Closing -1 fails, too.
+// module: no symbol is found in them, and closing them fails (non-zero). In -1 the symbols of what
+// is loaded after this library are found; closing it fails, too.
 void* openModule(const char* fileName);
 void* findSymbol(void* module, const char* name);
 int closeModule(void* module);

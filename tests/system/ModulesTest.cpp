@@ -193,6 +193,18 @@ TEST(GetProcAddress, FindsNothingInHandlesThatNameNoModule)
     EXPECT_EQ(KtKernel32::GetProcAddress(nullptr, "loadstring"), nullptr);
 }
 
+// The library's own function lies before what comes after the library.
+TEST(GetProcAddress, LooksInWhatIsLoadedAfterThisLibraryForMinusOne)
+{
+    constexpr const char* kOwnFunction = "_Z12GetTickCountv";
+    const auto next = reinterpret_cast<HINSTANCE>(std::intptr_t{-1});
+    ASSERT_NE(dlsym(RTLD_NEXT, kOwnFunction), nullptr);
+    for (const auto find : {::GetProcAddress, KtKernel32::GetProcAddress}) {
+        EXPECT_EQ(find(next, kOwnFunction), nullptr);
+        EXPECT_NE(find(next, "malloc"), nullptr);
+    }
+}
+
 // ---- The twins ---------------------------------------------------------------------------------
 
 TEST(KtKernel32, LoadsAndReleasesModulesAsTheGlobalFunctionsDo)

@@ -7,7 +7,8 @@
 //     FreeLibrary(module);
 //
 // A module handle is the loader's own handle. Two values are special: null, and 1, which stands for
-// the main program. For GetProcAddress and FreeLibrary neither is a module.
+// the main program. For GetProcAddress and FreeLibrary neither is a module. They and LoadString do
+// not test other values: never pass them a handle that was released, or a number that is no handle.
 //
 // A module name is converted with the LC_CTYPE "UTF-8", which LoadLibrary and GetModuleHandle set
 // permanently for the whole process; other conversions of the library rely on it. Call both from
@@ -31,7 +32,9 @@
 //   L"foo.dll.bak"                   => libfoo.dll.bak.so
 //   L"dir/"                          => dir/lib.so
 //   L"dir\\foo.dll"                  => libdir\foo.so, since a backslash is no separator
-// On Windows: the name is used as it is, and an error code is set.
+//   L"foo.dll "                      => libfoo.dll .so, since a blank at the end counts
+// On Windows: only a missing ".dll" is added, a backslash separates folders, blanks at the end are
+// dropped, and an error code is set.
 KTQTBASE_EXPORT HINSTANCE LoadLibrary(const wchar_t* lpLibFileName);
 
 // Loads a module, as LoadLibrary does.
@@ -43,14 +46,16 @@ KTQTBASE_EXPORT HINSTANCE LoadLibraryEx(const wchar_t* lpLibFileName, void* hFil
 // Releases a reference to a module.
 // Result: false if it was released, true if that failed, as it does for null, 1 and -1.
 // Kept: false is success, like the loader's 0; a host that tests the result would see the opposite.
-// On Windows: non-zero means that the module was released.
+// On Windows: non-zero means that the module was released; a wrong handle gives 0.
 KTQTBASE_EXPORT bool FreeLibrary(HINSTANCE hLibModule);
 
 // Finds a function or an object in a module.
-//   hModule       in: a handle from LoadLibrary or GetModuleHandle
+//   hModule       in: a handle from LoadLibrary or GetModuleHandle, or -1
 //   lpProcName    in: its name; a pointer value below 0x10000 is an ordinal and finds nothing
-// Result: its address, or null. A null handle and the handle 1 find nothing.
-// On Windows: ordinals are looked up, and functions of the main program are found.
+// Result: its address, or null. A null handle and the handle 1 find nothing. The handle -1 looks in
+// the libraries that the loader searches after this one, and not in this library or the program.
+// On Windows: ordinals are looked up, functions of the main program are found, and a wrong handle
+// gives null.
 KTQTBASE_EXPORT void* GetProcAddress(HINSTANCE hModule, const char* lpProcName);
 
 // The handle of a module, which is loaded if it is not loaded yet.
