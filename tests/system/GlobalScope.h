@@ -12,6 +12,13 @@ namespace ktqtbase::test {
 extern std::string lastTemplate;
 extern bool mktempFails;
 
+// The flags of the loader's last dlopen.
+extern int lastLoaderFlags;
+
+// The format that the OS-base library's swprintf was last given, and the LC_CTYPE meanwhile.
+extern std::wstring lastFormat;
+extern std::string localeOfLastFormat;
+
 } // namespace ktqtbase::test
 
 #endif

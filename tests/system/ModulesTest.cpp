@@ -2,6 +2,7 @@
 //
 // Modules that exist: their handles, their references and their functions.
 #include "support/LocaleScope.h"
+#include "system/GlobalScope.h"
 #include "system/ModuleTestSupport.h"
 
 #include <gtest/gtest.h>
@@ -16,6 +17,7 @@ namespace {
 using ktqtbase::test::isLoaded;
 using ktqtbase::test::kMainProgram;
 using ktqtbase::test::kModules;
+using ktqtbase::test::lastLoaderFlags;
 using ktqtbase::test::LoadedModule;
 using ktqtbase::test::LocaleScope;
 using ktqtbase::test::TemporaryFolder;
@@ -68,6 +70,14 @@ TEST(LoadLibrary, BindsLazily)
     EXPECT_NE(module.handle(), nullptr);
 }
 
+TEST(LoadLibrary, GivesTheLoaderNoFlagButTheLazyOne)
+{
+    const LoadedModule module(kModules / "ktplain.dll");
+    EXPECT_EQ(lastLoaderFlags, RTLD_LAZY);
+    GetModuleHandle(L"ktnosuch.dll");
+    EXPECT_EQ(lastLoaderFlags, RTLD_LAZY);
+}
+
 TEST(LoadLibrary, KeepsTheModulesSymbolsOutOfTheGlobalScope)
 {
     const LoadedModule module(kModules / "ktplain.dll");
@@ -90,6 +100,15 @@ TEST(LoadLibraryEx, GivesTheHandleOfLoadLibraryAndIgnoresTheRest)
     const LoadedModule extended(LoadLibraryEx(name.c_str(), &file, 0xFFFFFFFF));
     EXPECT_NE(module.handle(), nullptr);
     EXPECT_EQ(extended.handle(), module.handle());
+}
+
+TEST(LoadLibrary, KeepsABlankAtTheEndOfTheName)
+{
+    const TemporaryFolder folder;
+    std::filesystem::copy_file(kPlainFile, folder / "libplain.dll .so");
+    const LoadedModule module(folder / "plain.dll ");
+    EXPECT_NE(module.handle(), nullptr);
+    EXPECT_EQ(LoadLibrary(wide(folder / "plain.dll").c_str()), nullptr);
 }
 
 // ---- References --------------------------------------------------------------------------------

@@ -16,7 +16,9 @@ namespace {
 
 namespace fs = std::filesystem;
 
+using ktqtbase::test::lastFormat;
 using ktqtbase::test::lastTemplate;
+using ktqtbase::test::localeOfLastFormat;
 using ktqtbase::test::LocaleScope;
 using ktqtbase::test::mktempFails;
 using ktqtbase::test::RowName;
@@ -132,6 +134,25 @@ TEST(GetTempFileName, LeavesTheLocaleOfUtf8)
     GetTempFileName(L"/tmp/", L"kt", 1, buffer.text);
     EXPECT_STREQ(std::setlocale(LC_CTYPE, nullptr), "C.UTF-8");
     EXPECT_STREQ(std::setlocale(LC_NUMERIC, nullptr), "C");
+}
+
+TEST(GetTempFileName, JoinsTheNameByTheOsBaseLibraryBeforeItSetsTheLocale)
+{
+    const LocaleScope scope("C");
+    Buffer buffer;
+    lastFormat.clear();
+    GetTempFileName(L"/tmp/", L"kt", 1, buffer.text);
+    EXPECT_EQ(lastFormat, L"%ls%ls");
+    EXPECT_EQ(localeOfLastFormat, "C");
+}
+
+TEST(GetTempFileName, NeedsNoFolder)
+{
+    const TemporaryFolder folder;
+    const std::wstring missing = wide(folder / "missing/");
+    Buffer buffer;
+    GetTempFileName(missing.c_str(), L"kt", 9, buffer.text);
+    EXPECT_EQ(buffer.text, missing + L"kt9.tmp");
 }
 
 TEST(GetTempFileName, WritesLongNamesWhole)
