@@ -6,7 +6,10 @@
 
 #include <gtest/gtest.h>
 
+#include <chrono>
 #include <string>
+
+#include <sys/stat.h>
 
 namespace {
 
@@ -14,6 +17,7 @@ namespace fs = std::filesystem;
 
 using ktqtbase::test::LocaleScope;
 using ktqtbase::test::readFile;
+using ktqtbase::test::setMode;
 using ktqtbase::test::TemporaryFolder;
 using ktqtbase::test::wide;
 using ktqtbase::test::writeFile;
@@ -91,6 +95,66 @@ TEST(CopyFile, TakesNamesOfMoreThan1024Bytes)
     writeFile(folder / "from", "content");
     EXPECT_TRUE(copyFile(detour + "/from", detour + "/to"));
     EXPECT_EQ(readFile(folder / "to"), "content");
+}
+
+TEST(CopyFile, GivesAMadeFileTheModeAndTimeOfANewOne)
+{
+    const TemporaryFolder folder;
+    writeFile(folder / "from", "content");
+    setMode(folder / "from", 0700);
+    const auto now = fs::file_time_type::clock::now();
+    fs::last_write_time(folder / "from", now - std::chrono::hours(24));
+    const mode_t before = umask(022);
+    copyFile(folder / "from", folder / "to");
+    umask(before);
+    EXPECT_EQ(fs::status(folder / "to").permissions(), fs::perms(0644));
+    EXPECT_GT(fs::last_write_time(folder / "to"), fs::last_write_time(folder / "from"));
+}
+
+TEST(CopyFile, LeavesTheModeOfAnExistingDestination)
+{
+    const TemporaryFolder folder;
+    writeFile(folder / "from", "content");
+    writeFile(folder / "to", "old");
+    setMode(folder / "from", 0755);
+    setMode(folder / "to", 0640);
+    EXPECT_TRUE(copyFile(folder / "from", folder / "to"));
+    EXPECT_EQ(readFile(folder / "to"), "content");
+    EXPECT_EQ(fs::status(folder / "to").permissions(), fs::perms(0640));
+}
+
+TEST(CopyFile, CopiesTheFileThatALinkLeadsTo)
+{
+    const TemporaryFolder folder;
+    writeFile(folder / "from", "content");
+    fs::create_symlink("from", folder / "link");
+    EXPECT_TRUE(copyFile(folder / "link", folder / "to"));
+    EXPECT_FALSE(fs::is_symlink(folder / "to"));
+    EXPECT_EQ(readFile(folder / "to"), "content");
+}
+
+TEST(CopyFile, WritesThroughALinkAndLeavesIt)
+{
+    const TemporaryFolder folder;
+    writeFile(folder / "from", "content");
+    writeFile(folder / "old", "old and longer");
+    fs::create_symlink("old", folder / "link");
+    fs::create_symlink("new", folder / "broken");
+    EXPECT_TRUE(copyFile(folder / "from", folder / "link"));
+    EXPECT_TRUE(copyFile(folder / "from", folder / "broken"));
+    EXPECT_TRUE(fs::is_symlink(folder / "link") && fs::is_symlink(folder / "broken"));
+    EXPECT_EQ(readFile(folder / "old"), "content");
+    EXPECT_EQ(readFile(folder / "new"), "content");
+}
+
+TEST(CopyFile, TakesABackslashAsPartOfTheName)
+{
+    const TemporaryFolder folder;
+    fs::create_directory(folder / "sub");
+    writeFile(folder / "from", "content");
+    EXPECT_TRUE(copyFile(folder / "from", folder / "sub\\to"));
+    EXPECT_EQ(readFile(folder / "sub\\to"), "content");
+    EXPECT_TRUE(fs::is_empty(folder / "sub"));
 }
 
 // ---- What is not reported ----------------------------------------------------------------------

@@ -7,9 +7,11 @@
 
 #include <KtQtBase/WindowsTypes.h>
 #include <KtQtBase/windows/Files.h>
+#include <KtQtBase/windows/SystemInformation.h>
 
 #include <gtest/gtest.h>
 
+#include <cerrno>
 #include <cwchar>
 #include <string>
 
@@ -82,6 +84,29 @@ TEST(GetFileAttributes, AreInvalidForAMissingName)
     EXPECT_EQ(attributes(std::string(5000, 'a')), 0xFFFFFFFFu);
     EXPECT_EQ(GetFileAttributes(L""), 0xFFFFFFFFu);
     EXPECT_EQ(GetFileAttributes(nullptr), 0xFFFFFFFFu);
+}
+
+TEST(GetFileAttributes, LeavesTheSystemsReasonForGetLastError)
+{
+    const TemporaryFolder folder;
+    writeFile(folder / "file", "");
+    for (const auto get : {&::GetFileAttributes, &KtKernel32::GetFileAttributesW}) {
+        errno = 0;
+        get(wide(folder / "missing").c_str());
+        EXPECT_EQ(GetLastError(), static_cast<unsigned int>(ENOENT));
+        get(wide(folder / "file/below").c_str());
+        EXPECT_EQ(GetLastError(), static_cast<unsigned int>(ENOTDIR));
+    }
+}
+
+TEST(GetFileAttributes, TakesABackslashAsPartOfTheName)
+{
+    const TemporaryFolder folder;
+    std::filesystem::create_directory(folder / "sub");
+    writeFile(folder / "sub/file", "");
+    EXPECT_EQ(attributes(folder / "sub\\file"), 0xFFFFFFFFu);
+    writeFile(folder / "sub\\file", "");
+    EXPECT_NE(attributes(folder / "sub\\file"), 0xFFFFFFFFu);
 }
 
 TEST(GetFileAttributes, TakesNamesOfMoreThan1024Bytes)
