@@ -9,7 +9,8 @@
 //
 // Names are converted with the process's LC_CTYPE. A name that is null or does not convert names no
 // file: the call ends as it does for a missing file, and no file of a shortened name is opened,
-// made or cut.
+// made or cut. Only a slash separates folders: a backslash is a character of the name, and CopyFile
+// to L"sub\\y.txt" makes a file of just that name. Links are followed.
 #ifndef KTQTBASE_WINDOWS_FILES_H
 #define KTQTBASE_WINDOWS_FILES_H
 
@@ -18,12 +19,12 @@
 // The mode of a file.
 //   lpFileName    in: its name
 // Result: the file's POSIX mode, 16 bits of file type and permissions, or INVALID_FILE_ATTRIBUTES
-// (0xFFFFFFFF) if there is no file of that name.
+// (0xFFFFFFFF) if there is no file of that name; GetLastError then gives the system's reason.
 //   L"/tmp"      => 0x43FF on most systems: a folder (0x4000) with its permissions
 //   L"/missing"  => 0xFFFFFFFF
 // Kept: the bits are POSIX's; path objects would report other types otherwise. They take bit 0x10,
 // the group's write permission, for the directory attribute.
-// On Windows: FILE_ATTRIBUTE flags.
+// On Windows: FILE_ATTRIBUTE flags, and a backslash separates folders.
 KTQTBASE_EXPORT unsigned int GetFileAttributes(const wchar_t* lpFileName);
 
 // Copies a file's bytes to another file, which is made, or emptied first.
@@ -32,14 +33,17 @@ KTQTBASE_EXPORT unsigned int GetFileAttributes(const wchar_t* lpFileName);
 //   bFailIfExists         ignored; an existing destination is always overwritten
 // Result: always true. A destination that cannot be written and an incomplete copy are not
 // reported. A missing source gives an empty destination; if both names are the same, the file
-// becomes empty.
+// becomes empty. A file that is made has the mode and the time of any new file; an existing one
+// keeps its mode.
 // Kept: the result is always true. Part of the interface.
-// On Windows: false if the copy fails, or if the destination exists and bFailIfExists is true.
+// On Windows: false if the copy fails, or if the destination exists and bFailIfExists is true; the
+// copy has the source's attributes and time of change, and a backslash separates folders.
 KTQTBASE_EXPORT bool CopyFile(const wchar_t* lpExistingFileName, const wchar_t* lpNewFileName,
                               bool bFailIfExists);
 
 // Makes a name for a temporary file; no file is made.
-//   lpPathName        in: the folder with its closing slash; null counts as empty
+//   lpPathName        in: the folder with its closing slash, since none is added; it need not
+//                     exist; null counts as empty
 //   lpPrefixString    in: what the name begins with; null counts as empty
 //   uUnique           in: the number to use, printed as a signed 32-bit one; 0 asks for six
 //                     characters that name no file in the process's working directory
@@ -47,12 +51,14 @@ KTQTBASE_EXPORT bool CopyFile(const wchar_t* lpExistingFileName, const wchar_t* 
 //                     enough room. Null gives 0 and nothing else happens.
 // Result: the length of the name.
 //   L"/tmp/", L"ktTmp", 42          => L"/tmp/ktTmp42.tmp", 16
+//   L"/tmp", L"kt", 1               => L"/tmpkt1.tmp", 11
 //   L"/tmp/", L"kt", 0xFFFFFFFF     => L"/tmp/kt-1.tmp", 13
 //   L"/tmp/", L"kt", 0              => for example L"/tmp/ktx3Yz9A.tmp", 17
 // If no six characters can be found, that part of the name is empty. Sets the process's LC_CTYPE to
 // UTF-8 permanently.
-// On Windows: at most three characters of the prefix are used, the number is hexadecimal, a file is
-// made if uUnique is 0, and the result is the number.
+// On Windows: a separator is added, the folder must exist, at most three characters of the prefix
+// are used, the number is hexadecimal, a file is made if uUnique is 0, and the result is the
+// number.
 KTQTBASE_EXPORT unsigned int GetTempFileName(const wchar_t* lpPathName,
                                              const wchar_t* lpPrefixString, unsigned int uUnique,
                                              wchar_t* lpTempFileName);
@@ -76,7 +82,10 @@ KTQTBASE_EXPORT int SetCurrentDirectoryW(const wchar_t* lpPathName);
 namespace KtKernel32 {
 
 KTQTBASE_EXPORT unsigned int GetFileAttributes(const wchar_t* lpFileName);
+
+// The same again. There is no global function of this name.
 KTQTBASE_EXPORT unsigned int GetFileAttributesW(const wchar_t* lpFileName);
+
 KTQTBASE_EXPORT unsigned int GetCurrentDirectoryW(unsigned int nBufferLength, wchar_t* lpBuffer);
 
 // Inert: returns 0; the working directory stays.
