@@ -18,15 +18,20 @@
 //     follows is ignored. A line of "[" without "]" is read as a key line.
 //   - "name = value" is a key. The name ends before the first "=", the value is the rest of the
 //     line; white space around both is ignored. A line without "=", and one without a name before
-//     it, is ignored. There are no comments: ";x=1" is a key named ";x".
+//     it ("=value"), is ignored. There are no comments: ";x=1" is a key named ";x".
 //   - Names are compared exactly; upper and lower case differ.
+//   - A byte-order mark is text: it hides the header behind it. UTF-16 is not read.
+//
+// A file name without a folder lies in the process's working directory. Only a slash separates
+// folders: L"sub\\y.ini" is a file of just that name.
 //
 // Kept: a section goes on to the end of the file, so that keys of later sections are found too; a
 // host would miss such keys otherwise.
 // Kept: a file that cannot be opened for update (reading and writing) counts as absent; a host
 // would see the values of a read-only file instead of its defaults.
-// On Windows: a section ends at the next header, ";" starts a comment, names are compared without
-// case, and a read-only file is read.
+// On Windows: a section ends at the next header, ";" starts a comment, "=value" is the value of the
+// empty key, names are compared without case, UTF-16 with its mark and read-only files are read, a
+// name without a folder lies in the Windows folder, and a backslash separates folders.
 #ifndef KTQTBASE_WINDOWS_PROFILES_H
 #define KTQTBASE_WINDOWS_PROFILES_H
 
@@ -85,7 +90,8 @@ KTQTBASE_EXPORT int read_profile_string(const char* section, char* key, char* de
 // A null section, key, default or file counts as the empty text, so that no list is ever given. A
 // section or key that does not convert, or has 1,024 bytes or more, is not found; such a default is
 // the empty text, and such a file is absent.
-// On Windows: null asks for a list of names, each zero-terminated; the result counts characters.
+// On Windows: null asks for a list of names, each zero-terminated; the result counts characters; an
+// nSize and a default above 1,024 are used as they are.
 KTQTBASE_EXPORT unsigned int GetPrivateProfileString(const wchar_t* lpAppName,
                                                      const wchar_t* lpKeyName,
                                                      const wchar_t* lpDefault,
