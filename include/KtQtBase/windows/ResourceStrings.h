@@ -15,7 +15,7 @@
 #include <KtQtBase/windows/Scalars.h>
 
 // Reads a string of a resource module.
-//   hInstance     in: the module
+//   hInstance     in: the module, which must be loaded still
 //   uID           in: the string's number, handed to the module's "loadstring"
 //   lpBuffer      out: the text, cut to nBufferMax - 1 characters, then zeros up to there. The last
 //                 position is never written, so the caller fills the buffer with zeros first.
@@ -26,7 +26,8 @@
 // below 1, gives 0 and writes nothing.
 //   L"abcdef", size 4, buffer of zeros  => L"abc", 3
 // Kept: the last position is never written. Part of the interface.
-// On Windows: the text is always terminated, and strings come from the program's resources.
+// On Windows: the text is always terminated, strings come from the program's resources, size 0 asks
+// for a pointer to the resource itself, and only the lower 16 bits of uID count.
 KTQTBASE_EXPORT int LoadString(HINSTANCE hInstance, unsigned int uID, wchar_t* lpBuffer,
                                int nBufferMax);
 
