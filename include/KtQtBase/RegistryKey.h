@@ -13,7 +13,9 @@
 // There is no registry: a key's path is a group, a value's name a key in it, and every value a
 // string of QSettings(QSettings::NativeFormat, QSettings::UserScope, "tarnex", "Marrowfield").
 // Hives, access rights, value types and security attributes are ignored. Paths and names reach
-// QSettings unchanged: a slash separates groups, a backslash is an ordinary character.
+// QSettings unchanged: a slash separates groups, a backslash is an ordinary character. Upper and
+// lower case differ in both. A value that the user's settings do not have is looked for in those of
+// the organisation and of the system, as QSettings does.
 //
 // One object belongs to one thread at a time. Different objects see each other's values.
 #ifndef KTQTBASE_REGISTRYKEY_H
@@ -49,7 +51,8 @@ public:
     // Result: 0.
     // Kept: the text is read at each use; a host that changes it works with another key from then
     // on.
-    // On Windows: the key is created or opened; if that fails, the result is an error.
+    // On Windows: the key is created or opened; if that fails, the result is an error. Upper and
+    // lower case do not differ.
     unsigned int Create(HKEY hKeyParent, const wchar_t* lpszKeyName, wchar_t* lpszClass = nullptr,
                         unsigned int dwOptions = 0, unsigned int samDesired = 0,
                         SECURITY_ATTRIBUTES* lpSecAttr = nullptr,
@@ -61,7 +64,8 @@ public:
     //   bMulti           ignored
     //   nValueLen        ignored: the text ends at its first NUL
     // Result: 0, even if the store cannot be written.
-    // On Windows: null names the key's default value, and bMulti stores a list of texts.
+    // On Windows: null names the key's default value, bMulti stores a list of texts, and upper and
+    // lower case of a name do not differ.
     unsigned int SetValue(const wchar_t* lpszValue, const wchar_t* lpszValueName = nullptr,
                           bool bMulti = false, int nValueLen = -1);
 
@@ -72,7 +76,7 @@ public:
     //   pnChars          in: the room, not updated; null is no room. It is compared with the text's
     //                    UTF-16 length, in which characters above U+FFFF count twice.
     // Result: 0; or 0xFFFFFFFF, with nothing written, if the text is longer than the room. A
-    // missing value is the empty text.
+    // missing value is the empty text. A zero inside a stored text is written like any character.
     //   "7", room 10                  => L"7", 0
     //   "12345678901", room 10        => untouched, 0xFFFFFFFF
     //   no such value                 => untouched, 0
@@ -80,7 +84,8 @@ public:
     // deeper after each such failure; values that were set so would not be found otherwise. Use a
     // new object after a failure.
     // On Windows: the text is terminated, *pnChars becomes its length, a missing value and a small
-    // buffer have errors of their own, and nothing is nested.
+    // buffer have errors of their own, nothing is nested, and upper and lower case of a name do not
+    // differ.
     unsigned int QueryValue(wchar_t* szValue, const wchar_t* lpszValueName, unsigned int* pnChars);
 
     // Inert: returns 0; the object stays in use.
