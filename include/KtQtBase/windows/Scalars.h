@@ -14,7 +14,7 @@ class QWidget;
 // ---- Scalar types ------------------------------------------------------------------------------
 
 // Objective-C has a BOOL of its own. No function of this library takes or returns BOOL: what
-// Windows declares as BOOL is int here, on every platform.
+// Windows declares as BOOL is int or bool here, as each declaration says, on every platform.
 #ifndef __OBJC__
 using BOOL = int;
 #endif
