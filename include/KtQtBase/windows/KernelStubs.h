@@ -176,8 +176,8 @@ KTQTBASE_EXPORT int GetNumberFormat(unsigned int Locale, unsigned int dwFlags,
 
 // ---- The second set ----------------------------------------------------------------------------
 
-// Some functions may also be called through this namespace. The global ones of the same name do the
-// same.
+// CloseHandle and GetFileSize are global, too, and do the same there. The other functions are in
+// this namespace only: a host writes KtKernel32::WaitForSingleObject.
 namespace KtKernel32 {
 
 // Closes a handle.

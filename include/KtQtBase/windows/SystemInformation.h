@@ -39,7 +39,8 @@ namespace KtKernel32 {
 KTQTBASE_EXPORT unsigned int GetTickCount();
 KTQTBASE_EXPORT unsigned int GetLastError();
 
-// Whether a byte begins a two-byte character. Result: what the OS-base library answers.
+// Whether a byte begins a two-byte character. Result: what the OS-base library answers, whose own
+// function is the global one.
 // On Windows: bytes of 0x81 and above begin one in the code pages of East Asia.
 KTQTBASE_EXPORT int IsDBCSLeadByte(unsigned char TestChar);
 

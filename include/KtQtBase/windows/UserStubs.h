@@ -54,6 +54,7 @@ KTQTBASE_EXPORT unsigned int RegisterClipboardFormatW(const wchar_t* lpszFormat)
 
 // ---- Cursor, focus and keys --------------------------------------------------------------------
 
+// These functions are in this namespace only: a host writes KtUser32::SetFocus.
 namespace KtUser32 {
 
 // The mouse pointer's shape.
