@@ -2,6 +2,7 @@
 //
 // Files that are missing, empty, protected or no files at all.
 #include "support/ScratchProfile.h"
+#include "support/TemporaryFolder.h"
 
 #include <gtest/gtest.h>
 
@@ -100,6 +101,39 @@ TEST(ProfileFile, OfOneLineFeedIsScanned)
     ScratchProfile profile("\n");
     EXPECT_EQ(profile.read({"S", "k", kQuoted, 64}).text, "none");
     EXPECT_EQ(profile.read({std::nullopt, "k", kQuoted, 64}).text, "");
+}
+
+TEST(ProfileFile, IsReadThroughALink)
+{
+    ScratchProfile profile("[S]\nk=5\n");
+    std::string link = profile.folder() + "/link.ini";
+    ASSERT_EQ(symlink("app.ini", link.c_str()), 0);
+    EXPECT_EQ(readProfile(link.data(), {"S", "k", kQuoted, 64}).text, "5");
+}
+
+TEST(ProfileFile, IsReadWholeAbove4MiB)
+{
+    const std::string line = "a=" + std::string(98, 'v') + "\n";
+    std::string bytes = "[S]\n";
+    while (bytes.size() < 5 * 1024 * 1024)
+        bytes += line;
+    ScratchProfile profile(bytes + "k=5\n");
+    EXPECT_EQ(profile.read({"S", "k", kQuoted, 64}).text, "5");
+}
+
+TEST(ProfileFile, IsLookedForInTheWorkingFolderUnderABareName)
+{
+    ScratchProfile profile("[S]\nk=5\n");
+    const ktqtbase::test::WorkingFolder working(profile.folder());
+    char name[] = "app.ini";
+    EXPECT_EQ(readProfile(name, {"S", "k", kQuoted, 64}).text, "5");
+}
+
+TEST(ProfileFile, IsNotInTheFolderBeforeABackslash)
+{
+    ScratchProfile profile("[S]\nk=5\n");
+    std::string name = profile.folder() + "\\app.ini";
+    expectUnstrippedDefault(name.data());
 }
 
 TEST(ProfileFile, IsLeftAsItWas)

@@ -144,7 +144,7 @@ std::string ProfileMaker::file()
 
 std::string ProfileMaker::noise()
 {
-    static const std::string bytes = "[]=\"\r\n\t ;Sk[]=Sk\n\0\xA0"s;
+    static const std::string bytes = "[]=\"\r\n\t ;Sk[]=Sk\n\0\x1A\x1F\xA0"s;
     std::string text = oneIn(2) ? "[S]\n" : "";
     for (unsigned int left = below(60); left > 0; --left)
         text += bytes[below(static_cast<unsigned int>(bytes.size()))];
@@ -160,7 +160,8 @@ std::optional<std::string> ProfileMaker::argument()
 
 int ProfileMaker::size()
 {
-    return oneIn(8) ? static_cast<int>(1023 + below(2)) : static_cast<int>(below(65));
+    static const std::vector<int> large = {1023, 1024, 2048, 2049, 5000};
+    return oneIn(8) ? large[below(5)] : static_cast<int>(below(65));
 }
 
 ProfileQuestion ProfileMaker::question()
@@ -218,4 +219,21 @@ TEST(ProfileReader, AgreesWithThePlainOneOnNoise)
 {
     ProfileMaker maker(20240502);
     EXPECT_TRUE(agreeOnFiles(maker, &ProfileMaker::noise, 4000));
+}
+
+TEST(ProfileReader, AgreesWithThePlainOneInAreasAboveAllBuffers)
+{
+    std::string bytes = "[S]\nk=" + std::string(6000, 'v') + "\n";
+    for (int name = 0; name < 1000; ++name)
+        bytes += "key" + std::to_string(name) + "=1\n";
+    for (int name = 0; name < 1000; ++name)
+        bytes += "[section" + std::to_string(name) + "]\n";
+    ScratchProfile profile(bytes);
+    const std::string longDefault(6000, 'd');
+    for (const int size : {2047, 2048, 2049, 2050, 4096, 4097, 6000, 6001, 6002, 20000}) {
+        EXPECT_TRUE(agree(profile, bytes, {"S", "k", longDefault, size}));
+        EXPECT_TRUE(agree(profile, bytes, {"S", "missing", longDefault, size}));
+        EXPECT_TRUE(agree(profile, bytes, {"S", std::nullopt, longDefault, size}));
+        EXPECT_TRUE(agree(profile, bytes, {std::nullopt, std::nullopt, longDefault, size}));
+    }
 }

@@ -98,6 +98,20 @@ TEST(ProfileValue, IsReadUpToTheFirstZeroByte)
         {"zero first", "\0[S]\nk=5\n"s, "S", "k", kDefault},
         {"LF behind the zero", "[S]\rk=5\rl=2\0\n"s, "S", "k", {1, "5"}},
         {"byte-order mark", "\xEF\xBB\xBF[S]\nk=5\n", "S", "k", kDefault},
+        {"UTF-16 mark before bytes", "\xFF\xFE[S]\nk=5\n", "S", "k", kDefault},
+        {"UTF-16", "\xFF\xFE[\0S\0]\0\n\0k\0=\0005\0\n\0"s, "S", "k", kDefault},
+    });
+}
+
+TEST(ProfileValue, TakesControlBytesForOrdinaryOnes)
+{
+    expectValues({
+        {"0x1F is no white space", "[S]\nk=\x1F 5 \x1F\n", "S", "k", {5, "\x1F 5 \x1F"}},
+        {"0x1F after the key", "[S]\nk\x1F=5\n", "S", "k", kDefault},
+        {"0x1F in the argument", "[S]\nk\x1F=5\n", "S", "k\x1F", {1, "5"}},
+        {"0x1F around the header", "\x1F[S]\nk=5\n", "S", "k", kDefault},
+        {"Ctrl-Z does not end the file", "[S]\nj=\x1A\n\x1A\nk=5\n", "S", "k", {1, "5"}},
+        {"Ctrl-Z in the value", "[S]\nk=5\x1A\n", "S", "k", {2, "5\x1A"}},
     });
 }
 
@@ -226,6 +240,7 @@ TEST(ProfileDefault, LosesSpacesAtItsEndButNotItsFirstCharacter)
         {"quotes and spaces", "\"a\"  ", 64, {3, "a"}},
         {"cut", "abcdef", 4, {3, "abc"}},
         {"exact", "abc", 4, {3, "abc"}},
+        {"cut after spaces", "a    b", 4, {3, "a  "}},
     };
     ScratchProfile profile("[S]\nk=5\n");
     for (const auto& row : rows) {

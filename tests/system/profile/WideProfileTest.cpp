@@ -159,6 +159,27 @@ TEST(GetPrivateProfileString, FindsNothingUnderANameOf1024Bytes)
     EXPECT_EQ(read(wideLongest.c_str(), wideLongest.c_str(), L"x", 64, file.c_str()).text, L"3");
 }
 
+TEST(GetPrivateProfileString, FindsNoFileUnderANameOf1024Bytes)
+{
+    ScratchProfile profile("[S]\nk=5\n");
+    const std::string folder = profile.folder();
+    const std::wstring start(folder.begin(), folder.end());
+    const std::wstring end = L"app.ini";
+    for (const std::size_t length : {1023u, 1024u, 1025u}) {
+        const std::wstring slashes(length - start.size() - end.size(), L'/');
+        const WideAnswer answer = read(L"S", L"k", L"\"x\"", 64, (start + slashes + end).c_str());
+        EXPECT_EQ(answer.text, length < 1024 ? L"5" : L"\"x\"") << length;
+    }
+}
+
+TEST(GetPrivateProfileString, CountsTheQuotesOfAValueThatHoldsNothingElse)
+{
+    ScratchProfile profile("[S]\nk=\"\"\"\"\n");
+    const WideAnswer answer = read(L"S", L"k", L"x", 64, profile.wideName().c_str());
+    EXPECT_EQ(answer.text, L"");
+    EXPECT_EQ(answer.count, 4u);
+}
+
 TEST(GetPrivateProfileString, TakesADefaultUpTo1023Bytes)
 {
     ScratchProfile profile("[S]\n");
