@@ -23,6 +23,8 @@ struct PrivateStore
     PrivateStore()
     {
         QSettings::setPath(QSettings::NativeFormat, QSettings::UserScope, folder.path());
+        QSettings::setPath(QSettings::NativeFormat, QSettings::SystemScope,
+                           folder.filePath("system"));
     }
 
     QTemporaryDir folder;
@@ -137,6 +139,40 @@ TEST_F(RegistryKey, ReadsWhatOthersStored)
     store("Software\\App\\Options/Number", 12);
     EXPECT_EQ(Query(m_key, L"Text", 10).text(), L"abc");
     EXPECT_EQ(Query(m_key, L"Number", 10).text(), L"12");
+}
+
+// QSettings looks for a value that the user has not stored in the files of the organisation and of
+// the system, too.
+TEST_F(RegistryKey, FallsBackToTheOrganisationAndTheSystem)
+{
+    const QString name = "Software\\App\\Options/";
+    QSettings("tarnex", "").setValue(name + "Organisation", "abc");
+    QSettings(m_store.folder.filePath("system/tarnex/Marrowfield.conf"), QSettings::NativeFormat)
+        .setValue(name + "System", "def");
+    CRegKey key;
+    key.Create(HKEY_CURRENT_USER, kPath);
+    EXPECT_EQ(Query(key, L"Organisation", 10).text(), L"abc");
+    EXPECT_EQ(Query(key, L"System", 10).text(), L"def");
+    key.SetValue(L"own", L"System");
+    EXPECT_EQ(Query(key, L"System", 10).text(), L"own");
+}
+
+TEST_F(RegistryKey, ReadsAStoredTextPastItsZeros)
+{
+    store("Software\\App\\Options/Text", QString::fromLatin1("a\0b", 3));
+    const Query query(m_key, L"Text", 3);
+    EXPECT_EQ(query.result, 0u);
+    EXPECT_EQ(query.text(), std::wstring(L"a\0b", 3));
+    EXPECT_EQ(Query(m_key, L"Text", 2).result, kTooLong);
+}
+
+TEST_F(RegistryKey, TellsUpperFromLowerCase)
+{
+    m_key.SetValue(L"7", L"Count");
+    EXPECT_EQ(Query(m_key, L"count", 10).end(), 0u);
+    CRegKey key;
+    key.Create(HKEY_CURRENT_USER, L"software\\app\\options");
+    EXPECT_EQ(Query(key, L"Count", 10).end(), 0u);
 }
 
 TEST_F(RegistryKey, SeesTheValuesOfAnotherObject)
