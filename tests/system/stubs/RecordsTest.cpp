@@ -10,59 +10,6 @@
 #include <string>
 #include <type_traits>
 
-namespace {
-
-unsigned long long bitsOf(const void* pointer)
-{
-    return reinterpret_cast<unsigned long long>(pointer);
-}
-
-const struct
-{
-    const char* name;
-    long long value;
-    long long published;
-} kConstants[] = {
-    {"INVALID_FILE_ATTRIBUTES", INVALID_FILE_ATTRIBUTES, 4294967295},
-    {"MAX_PATH", MAX_PATH, 260},
-    {"SM_CXFULLSCREEN", SM_CXFULLSCREEN, 16},
-    {"SM_CYFULLSCREEN", SM_CYFULLSCREEN, 17},
-    {"MB_YESNO", MB_YESNO, 4},
-    {"MB_ICONERROR", MB_ICONERROR, 16},
-    {"MB_ICONINFORMATION", MB_ICONINFORMATION, 64},
-    {"MB_DEFBUTTON2", MB_DEFBUTTON2, 256},
-    {"IDOK", IDOK, 1},
-    {"IDYES", IDYES, 6},
-    {"IDNO", IDNO, 7},
-    {"IDCONTINUE", IDCONTINUE, 11},
-    {"PS_NULL", PS_NULL, 5},
-    {"PS_ALTERNATE", PS_ALTERNATE, 8},
-    {"PS_ENDCAP_FLAT", PS_ENDCAP_FLAT, 512},
-    {"PS_JOIN_MITER", PS_JOIN_MITER, 8192},
-    {"PS_GEOMETRIC", PS_GEOMETRIC, 65536},
-    {"TRANSPARENT", TRANSPARENT, 1},
-    {"OPAQUE", OPAQUE, 2},
-    {"OFN_ALLOWMULTISELECT", OFN_ALLOWMULTISELECT, 512},
-    {"OFN_EXPLORER", OFN_EXPLORER, 524288},
-    {"FW_NORMAL", FW_NORMAL, 400},
-    {"FIXED_PITCH", FIXED_PITCH, 1},
-    {"FF_MODERN", FF_MODERN, 48},
-    {"ERROR_MORE_DATA", ERROR_MORE_DATA, 234},
-    {"ERROR_NO_MORE_ITEMS", ERROR_NO_MORE_ITEMS, 259},
-    {"KEY_READ", KEY_READ, 131097},
-    {"KEY_ALL_ACCESS", KEY_ALL_ACCESS, 983103},
-    {"WM_USER", WM_USER, 1024},
-    {"WM_APP", WM_APP, 32768},
-    {"VK_SHIFT", VK_SHIFT, 16},
-    {"GENERIC_READ", GENERIC_READ, 2147483648},
-    {"CSTR_EQUAL", CSTR_EQUAL, 2},
-    {"LOGPIXELSY", LOGPIXELSY, 90},
-    {"CSIDL_LOCAL_APPDATA", CSIDL_LOCAL_APPDATA, 28},
-    {"WAIT_TIMEOUT", WAIT_TIMEOUT, 258},
-};
-
-} // namespace
-
 TEST(CRect, IsAllZeroByDefault)
 {
     alignas(CRect) unsigned char memory[sizeof(CRect)];
@@ -140,22 +87,20 @@ TEST(OpenFileName, IsFilledByAHost)
     EXPECT_EQ(block.lpfnHook(nullptr, 0, 9, 0), 9u);
 }
 
+TEST(NumberFormat, HasItsFieldsInThePublishedOrder)
+{
+    wchar_t decimal[] = L".";
+    wchar_t thousand[] = L",";
+    const NUMBERFMTW format = {1, 2, 3, decimal, thousand, 4};
+    EXPECT_EQ(format.NumDigits, 1u);
+    EXPECT_EQ(format.LeadingZero, 2u);
+    EXPECT_EQ(format.Grouping, 3u);
+    EXPECT_EQ(format.lpDecimalSep, decimal);
+    EXPECT_EQ(format.lpThousandSep, thousand);
+    EXPECT_EQ(format.NegativeOrder, 4u);
+}
+
 TEST(CriticalSection, HasItsShortName)
 {
     EXPECT_TRUE((std::is_same_v<CRITICAL_SECTION, RTL_CRITICAL_SECTION>));
-}
-
-TEST(Constants, HaveThePublishedNumbers)
-{
-    for (const auto& row : kConstants)
-        EXPECT_EQ(row.value, row.published) << row.name;
-}
-
-TEST(Constants, ExtendTheSignOfPredefinedHandles)
-{
-    EXPECT_EQ(bitsOf(INVALID_HANDLE_VALUE), 0xFFFFFFFFFFFFFFFFULL);
-    EXPECT_EQ(bitsOf(HKEY_CLASSES_ROOT), 0xFFFFFFFF80000000ULL);
-    EXPECT_EQ(bitsOf(HKEY_CURRENT_USER), 0xFFFFFFFF80000001ULL);
-    EXPECT_EQ(bitsOf(HKEY_LOCAL_MACHINE), 0xFFFFFFFF80000002ULL);
-    EXPECT_EQ(bitsOf(HKEY_USERS), 0xFFFFFFFF80000003ULL);
 }
