@@ -24,7 +24,6 @@
 #include <KtQtBase/windows/Records.h>
 #include <KtQtBase/windows/Scalars.h>
 
-#include <QtCore/QPointer>
 #include <QtCore/QString>
 #include <QtCore/QStringList>
 #include <QtWidgets/QFileDialog>
@@ -127,7 +126,7 @@ public:
     // On Windows: a null pos is an error.
     CStdStr<wchar_t> GetNextPathName(POSITION& pos) const;
 
-    QPointer<QFileDialog> m_pDialog; // of the last run; null when its parent deleted it
+    QFileDialog* m_pDialog = nullptr; // of the last run, owned; null when its parent deleted it
     CWnd* m_pParentWnd;
     QString m_strCaption;
     QString m_strDirectory;

@@ -6,10 +6,50 @@
 
 #include <QtCore/QFileInfo>
 
+#include <utility>
+
 namespace {
 
 using ktqtbase::toQt;
 using ktqtbase::toWide;
+
+// Clears an object's field when the dialog in it dies first, since the field has room for a plain
+// pointer only. It is a child of the dialog and is found by its name: a look at the children's
+// types would need type information, which a host may be compiled without.
+class DialogWatch : public QObject
+{
+public:
+    DialogWatch(KtQtFileDialog& owner, QFileDialog* dialog)
+        : QObject(dialog), m_owner(&owner), m_dialog(dialog)
+    {
+        setObjectName(name());
+        // Before the host's own slots run, in which the object may die or start another run.
+        connect(dialog, &QObject::destroyed, this, [this] { clearField(); });
+    }
+
+    // The host may have disconnected the dialog.
+    ~DialogWatch() override { clearField(); }
+
+    static QString name() { return QStringLiteral("KtQtFileDialog"); }
+
+private:
+    void clearField()
+    {
+        KtQtFileDialog* const owner = std::exchange(m_owner, nullptr);
+        if (owner && owner->m_pDialog == m_dialog)
+            owner->m_pDialog = nullptr;
+    }
+
+    KtQtFileDialog* m_owner;
+    QFileDialog* m_dialog;
+};
+
+// A dialog that outlives its object must not know it any more.
+void stopWatching(const QFileDialog* dialog)
+{
+    if (dialog)
+        delete dialog->findChild<QObject*>(DialogWatch::name(), Qt::FindDirectChildrenOnly);
+}
 
 void readBlock(KtQtFileDialog& self)
 {
@@ -59,7 +99,9 @@ KtQtFileDialog::KtQtFileDialog(bool bOpenFileDialog, const wchar_t* lpszDefExt,
 
 KtQtFileDialog::~KtQtFileDialog()
 {
-    delete m_pDialog;
+    QFileDialog* const dialog = m_pDialog;
+    stopWatching(dialog);
+    delete dialog;
 }
 
 OPENFILENAMEW& KtQtFileDialog::GetOFN()
@@ -74,7 +116,9 @@ int KtQtFileDialog::DoModal()
         return IDCANCEL;
     // The run's own pointer, since a host's handler may start another run meanwhile.
     auto* const dialog = new QFileDialog(m_pParentWnd, m_strCaption, m_strDirectory, m_strFilter);
+    stopWatching(m_pDialog);
     m_pDialog = dialog;
+    new DialogWatch(*this, dialog);
     setUp(*dialog, m_attri);
     // Kept: a dialog that is visible before exec() does not block the host's other windows. The
     // folder is set last, so that it replaces the selected file's.

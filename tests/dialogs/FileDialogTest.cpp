@@ -7,7 +7,6 @@
 #include <QtWidgets/QMessageBox>
 
 #include <cstring>
-#include <memory>
 
 namespace {
 
@@ -212,47 +211,6 @@ TEST_F(DoModal, HandsTheParentOn)
     });
     EXPECT_EQ(dialog.DoModal(), IDCANCEL);
     EXPECT_NE(dialog.m_pDialog, nullptr);
-}
-
-TEST_F(DoModal, CancelsWhenTheParentDiesMeanwhile)
-{
-    auto* const parent = new QWidget;
-    KtQtFileDialog dialog(true, nullptr, nullptr, 0, nullptr, parent);
-    fill(dialog);
-    const User<QFileDialog> user([parent](QFileDialog&) { delete parent; });
-    EXPECT_EQ(dialog.DoModal(), IDCANCEL);
-    EXPECT_EQ(dialog.m_pDialog, nullptr);
-}
-
-TEST_F(DoModal, LeavesADialogThatItsParentDeletedAlone)
-{
-    auto parent = std::make_unique<QWidget>();
-    KtQtFileDialog dialog(true, nullptr, nullptr, 0, nullptr, parent.get());
-    fill(dialog);
-    const User<QFileDialog> user(
-        [](QFileDialog& shown) { typeNameAndReturn(shown, QStringLiteral("may.txt")); });
-    EXPECT_EQ(dialog.DoModal(), IDOK);
-    parent.reset();
-    EXPECT_EQ(dialog.m_pDialog, nullptr);
-    EXPECT_EQ(dialog.GetFileName(), L"may.txt");
-}
-
-TEST_F(DoModal, DeletesOnlyTheDialogOfTheLastRun)
-{
-    auto dialog = std::make_unique<KtQtFileDialog>(true);
-    fill(*dialog);
-    QPointer<QFileDialog> runs[2];
-    for (QPointer<QFileDialog>& run : runs) {
-        const User<QFileDialog> user([&run](QFileDialog& shown) {
-            run = &shown;
-            press(shown, QDialogButtonBox::Cancel);
-        });
-        EXPECT_EQ(dialog->DoModal(), IDCANCEL);
-    }
-    dialog.reset();
-    EXPECT_TRUE(runs[1].isNull());
-    ASSERT_FALSE(runs[0].isNull());
-    delete runs[0];
 }
 
 TEST_F(DoModal, ReflectsTheLastAcceptedRun)
