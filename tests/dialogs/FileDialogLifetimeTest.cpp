@@ -6,7 +6,6 @@
 #include <cstring>
 #include <memory>
 #include <new>
-#include <type_traits>
 
 namespace {
 
@@ -255,13 +254,6 @@ TEST_F(RunningFileDialog, CancelsWhenTheObjectDiesMeanwhile)
     auto dialog = std::make_unique<KtQtFileDialog>(true);
     const User<QFileDialog> user([&dialog](QFileDialog&) { dialog.reset(); });
     EXPECT_EQ(dialog->DoModal(), IDCANCEL);
-}
-
-// ---- The field ---------------------------------------------------------------------------------
-
-TEST(FileDialogField, IsAPlainPointer)
-{
-    EXPECT_TRUE((std::is_same_v<decltype(KtQtFileDialog::m_pDialog), QFileDialog*>));
 }
 
 } // namespace

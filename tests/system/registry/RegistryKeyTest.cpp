@@ -8,6 +8,7 @@
 
 #include <gtest/gtest.h>
 
+#include <cstddef>
 #include <type_traits>
 #include <vector>
 
@@ -360,6 +361,13 @@ TEST_F(RegistryKey, StaysInUseAfterClose)
     EXPECT_EQ(m_key.SetValue(L"7", L"Count"), 0u);
     EXPECT_EQ(m_key.Close(), 0u);
     EXPECT_EQ(Query(m_key, L"Count", 10).text(), L"7");
+}
+
+TEST(RegistryKeyType, HasTheSettingsBeforeTheKeysName)
+{
+    static_assert(std::is_standard_layout_v<CRegKey>);
+    EXPECT_EQ(offsetof(CRegKey, m_pSettings), 0u);
+    EXPECT_EQ(offsetof(CRegKey, m_pKeyName), sizeof(void*));
 }
 
 TEST(RegistryKeyType, HoldsTwoPointersAndIsNotCopied)
