@@ -9,9 +9,10 @@
 //         return QWidget::event(event);
 //     }
 //
+//     int answer = 0;
 //     HWND window = reinterpret_cast<HWND>(panel->winId());
 //     PostMessage(window, WM_USER + 1, 0, 0);
-//     if (AfxMessageBox(L"Save the changes?") == IDYES)
+//     if (AfxMessageBox(L"Save the changes?", MB_YESNO) == IDYES)
 //         SendMessage(window, WM_USER + 2, 0, reinterpret_cast<LPARAM>(&answer));
 //
 // Cursor, focus and keys, which a Windows program uses along with its messages, are in
@@ -103,11 +104,12 @@ KTQTBASE_EXPORT bool PostMessage(HWND hWnd, UINT Msg, WPARAM wParam, LPARAM lPar
 //   lpszText    in: the text, UTF-32, zero-terminated; null is the empty text
 //   nType       not used: every box is the same
 //   nIDHelp     not used
-// Result by the button that closed the box: Ok IDOK, Cancel IDCANCEL, Retry IDRETRY, Ignore
-// IDIGNORE, Yes IDYES, No IDNO, any other or none IDABORT. Escape and the window's close button
-// count as No. A box that is ended by done(-1) counts as cancelled, one ended by done(0) gives
-// IDABORT. Without a QApplication no box appears, and the result is IDABORT.
-// Kept: nType changes nothing; a host that passes MB_OK would see IDOK instead of IDYES or IDNO.
+// Result: IDYES or IDNO, by the button; Escape and the window's close button count as No. If the
+// host's own code adds a button or ends the box, the result is, by the button that closed the box:
+// Ok IDOK, Cancel IDCANCEL, Retry IDRETRY, Ignore IDIGNORE, Yes IDYES, No IDNO, any other or none
+// IDABORT. A box that is ended by done(-1) counts as cancelled, one ended by done(0) gives IDABORT.
+// Without a QApplication no box appears, and the result is IDABORT.
+// Kept: nType changes nothing; a host that passes MB_OK sees IDYES or IDNO, never IDOK.
 // On Windows: nType chooses the buttons and the icon, the title is the application's name.
 KTQTBASE_EXPORT int AfxMessageBox(const wchar_t* lpszText, unsigned int nType = 0,
                                   unsigned int nIDHelp = 0);

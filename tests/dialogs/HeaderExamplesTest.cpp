@@ -48,13 +48,26 @@ private:
 TEST(MessagesExample, PostsAsksAndSends)
 {
     const auto panel = std::make_unique<Panel>();
-    int answer = -1;
+    const User<QMessageBox> user([](QMessageBox& box) { QTest::keyClick(&box, Qt::Key_Return); });
+    int answer = 0;
     HWND window = reinterpret_cast<HWND>(panel->winId());
     PostMessage(window, WM_USER + 1, 0, 0);
-    const User<QMessageBox> user([](QMessageBox& box) { QTest::keyClick(&box, Qt::Key_Return); });
-    if (AfxMessageBox(L"Save the changes?") == IDYES)
+    if (AfxMessageBox(L"Save the changes?", MB_YESNO) == IDYES)
         SendMessage(window, WM_USER + 2, 0, reinterpret_cast<LPARAM>(&answer));
     EXPECT_EQ(answer, 5);
+}
+
+// The handler's body, and what follows the handler.
+TEST(MessagesHeader, ShowsTheExampleThatIsCompiledHere)
+{
+    const QByteArray example = linesFrom(MESSAGES_HEADER, "//     ");
+    const QByteArray compiled = linesFrom(HEADER_EXAMPLES, "    ");
+    const int body = example.indexOf("{\n");
+    const int end = example.indexOf("}\n");
+    ASSERT_TRUE(0 < body && body < end) << example.toStdString();
+    EXPECT_TRUE(compiled.contains(example.mid(body, end - body)));
+    EXPECT_TRUE(compiled.contains("\n" + example.mid(end + 2))) << example.toStdString();
+    EXPECT_TRUE(example.endsWith("(&answer));\n"));
 }
 
 using FileDialogExample = FileDialogFixture;
