@@ -94,7 +94,16 @@ public:
 };
 
 // The same two under their Windows names.
+
+// Delivers a message and waits; the same as QKtMessageCenter::sendMessage.
+// Result: always 0, whatever the receiver returns.
+// On Windows: the result is the receiver's answer. A host that reads it passes the address of a
+// variable in a parameter instead, and the receiver writes there.
 KTQTBASE_EXPORT LRESULT SendMessage(HWND hWnd, UINT Msg, WPARAM wParam, LPARAM lParam);
+
+// Queues a message; the same as QKtMessageCenter::postMessage.
+// Result: always true.
+// On Windows: false for a handle that names no window.
 KTQTBASE_EXPORT bool PostMessage(HWND hWnd, UINT Msg, WPARAM wParam, LPARAM lParam);
 
 // ---- Message boxes -----------------------------------------------------------------------------
