@@ -34,6 +34,46 @@ TEST(AfxMessageBox, ShowsTheTextAsACriticalErrorWithoutTitle)
     EXPECT_EQ(AfxMessageBox(L"Disk \u00e4 \U0001F600 full"), IDYES);
 }
 
+struct TextRow
+{
+    const char* name;
+    const wchar_t* text;
+};
+
+class AfxMessageBoxText : public testing::TestWithParam<TextRow>
+{};
+
+TEST_P(AfxMessageBoxText, ReachesTheBoxUnchanged)
+{
+    const User<QMessageBox> user([](QMessageBox& box) {
+        EXPECT_EQ(box.text(), QString::fromStdWString(GetParam().text));
+        EXPECT_EQ(box.textFormat(), Qt::AutoText);
+        EXPECT_EQ(box.informativeText() + box.detailedText(), QString());
+        press(box, QMessageBox::Yes);
+    });
+    EXPECT_EQ(AfxMessageBox(GetParam().text), IDYES);
+}
+
+INSTANTIATE_TEST_SUITE_P(Rows, AfxMessageBoxText,
+                         testing::Values(TextRow{"Tag", L"a <b>bold</b> word"},
+                                         TextRow{"Ampersand", L"Fish & chips && more"},
+                                         TextRow{"Entity", L"&lt;b&gt; &amp;"},
+                                         TextRow{"Lines", L" first\r\n\tsecond \\n"}),
+                         RowName());
+
+TEST(AfxMessageBox, HasNoParentWhileAnotherWindowIsActive)
+{
+    QWidget other;
+    other.show();
+    other.activateWindow();
+    ASSERT_TRUE(QTest::qWaitForWindowActive(&other));
+    const User<QMessageBox> user([](QMessageBox& box) {
+        EXPECT_EQ(box.parent(), nullptr);
+        press(box, QMessageBox::Yes);
+    });
+    EXPECT_EQ(AfxMessageBox(L"text"), IDYES);
+}
+
 struct TypeRow
 {
     const char* name;

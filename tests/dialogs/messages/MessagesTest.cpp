@@ -7,10 +7,12 @@
 #include <QtCore/QCoreApplication>
 #include <QtWidgets/QWidget>
 
+#include <cstddef>
 #include <limits>
 #include <memory>
 #include <thread>
 #include <tuple>
+#include <utility>
 #include <vector>
 
 #include <gtest/gtest.h>
@@ -120,6 +122,13 @@ protected:
     }
 };
 
+// Where a field lies in an object.
+template<class Object, class Field>
+std::ptrdiff_t distance(const Object& object, const Field& field)
+{
+    return reinterpret_cast<const char*>(&field) - reinterpret_cast<const char*>(&object);
+}
+
 HWND staleHandle()
 {
     return Receiver().handle();
@@ -159,6 +168,58 @@ TEST(QKtMsgEvent, IsKnownByDynamicCast)
     EXPECT_EQ(dynamic_cast<QKtMsgEvent*>(other.get()), nullptr);
 }
 
+// The fields in the order that hosts are compiled against, as the compiler lays them out.
+struct MessageTwin : QEvent
+{
+    MessageTwin() : QEvent(QEvent::None) {}
+
+    unsigned int message = 1;
+    unsigned long long wParam = 2;
+    long long lParam = 3;
+};
+
+TEST(QKtMsgEvent, HasItsFieldsInTheirOrder)
+{
+    const QKtMsgEvent event(1, 2, 3);
+    const MessageTwin twin;
+    EXPECT_EQ(distance(event, event.m_nMessage), distance(twin, twin.message));
+    EXPECT_EQ(distance(event, event.m_wParam), distance(twin, twin.wParam));
+    EXPECT_EQ(distance(event, event.m_lParam), distance(twin, twin.lParam));
+    EXPECT_EQ(sizeof event, sizeof twin);
+}
+
+TEST(QKtMsgEvent, HasTheNextTypeThatQtChooses)
+{
+    const int former = std::exchange(QKtMsgEvent::iKtMsgEventType, -1);
+    const int before = QEvent::registerEventType();
+    const int type = QKtMsgEvent::eventType();
+    const int after = QEvent::registerEventType();
+    QKtMsgEvent::iKtMsgEventType = former;
+    EXPECT_EQ(type, before - 1);
+    EXPECT_EQ(type, after + 1);
+}
+
+TEST(QKtMsgEvent, RegistersATypeInPlaceOfAnyNegativeNumber)
+{
+    const int former = QKtMsgEvent::iKtMsgEventType;
+    for (const int unset : {-2, -1000, std::numeric_limits<int>::min()}) {
+        QKtMsgEvent::iKtMsgEventType = unset;
+        EXPECT_GE(QKtMsgEvent::eventType(), QEvent::User) << unset;
+    }
+    QKtMsgEvent::iKtMsgEventType = former;
+}
+
+TEST(QKtMsgEvent, TakesAnyOtherNumberForARegisteredType)
+{
+    const int former = QKtMsgEvent::iKtMsgEventType;
+    for (const int set : {0, 1, 999, 1000}) {
+        QKtMsgEvent::iKtMsgEventType = set;
+        EXPECT_EQ(QKtMsgEvent::eventType(), set);
+        EXPECT_EQ(QKtMsgEvent(1, 2, 3).type(), set);
+    }
+    QKtMsgEvent::iKtMsgEventType = former;
+}
+
 TEST(SendMessage, IsDeliveredBeforeItReturns)
 {
     Receiver receiver;
@@ -184,6 +245,14 @@ TEST(SendMessage, BringsTheAnswerBackThroughMemory)
     int answer = -1;
     EXPECT_EQ(SendMessage(receiver.handle(), WM_USER, 0, reinterpret_cast<LPARAM>(&answer)), 0);
     EXPECT_EQ(answer, 42);
+}
+
+TEST(SendMessage, ReachesADisabledWidget)
+{
+    Receiver receiver;
+    receiver.setEnabled(false);
+    EXPECT_EQ(SendMessage(receiver.handle(), WM_USER + 1, 2, 3), 0);
+    EXPECT_EQ(receiver.messages, (std::vector<Values>{{WM_USER + 1, 2, 3}}));
 }
 
 TEST(SendMessage, PassesTheFiltersOfItsReceiver)
@@ -215,6 +284,25 @@ TEST(PostMessage, IsDeliveredByTheEventLoopInOrder)
     EXPECT_TRUE(receiver.messages.empty());
     QCoreApplication::sendPostedEvents(&receiver);
     EXPECT_EQ(receiver.messages, (std::vector<Values>{{WM_USER + 1, 2, 3}, {WM_USER + 2, 4, 5}}));
+}
+
+TEST(PostMessage, ReachesADisabledWidget)
+{
+    Receiver receiver;
+    receiver.setEnabled(false);
+    EXPECT_TRUE(PostMessage(receiver.handle(), WM_USER + 1, 2, 3));
+    QCoreApplication::sendPostedEvents(&receiver);
+    EXPECT_EQ(receiver.messages, (std::vector<Values>{{WM_USER + 1, 2, 3}}));
+}
+
+TEST(PostMessage, DeliversEveryOneOfEqualMessages)
+{
+    Receiver receiver;
+    const Values same(WM_USER + 1, 2, 3);
+    for (int count = 0; count < 3; ++count)
+        EXPECT_TRUE(PostMessage(receiver.handle(), WM_USER + 1, 2, 3));
+    QCoreApplication::sendPostedEvents(&receiver);
+    EXPECT_EQ(receiver.messages, (std::vector<Values>{same, same, same}));
 }
 
 TEST(PostMessage, WaitsBehindEventsThatWerePostedBefore)
