@@ -65,7 +65,8 @@ public:
     // Null texts are empty. None of the arguments reaches the block. The object must die before the
     // QApplication does, and a parent must live through every DoModal.
     // On Windows: the arguments fill the block, and the flags decide whether several files may be
-    // selected.
+    // selected. lpszDefExt is added to a name that is typed without an extension; here such a name
+    // stays as it was typed, and a host that wants the extension adds it to GetPathName().
     explicit KtQtFileDialog(bool bOpenFileDialog, const wchar_t* lpszDefExt = nullptr,
                             const wchar_t* lpszFileName = nullptr,
                             unsigned int dwFlags = OFN_HIDEREADONLY | OFN_OVERWRITEPROMPT,
@@ -109,8 +110,12 @@ public:
     // Kept: the spelling of the name is part of the interface.
     void PraseFileInfo();
 
-    // The full path of the first selected file, its part after the last slash, and the part of that
+    // The path of the first selected file, its part after the last slash, and the part of that
     // after the last dot. Empty until a file was selected.
+    // With a relative lpstrInitialDir the path of a new file is relative to the current folder,
+    // too; that of an existing file is full.
+    //   folder L"Reports", the user types new.txt  => L"Reports/new.txt"
+    // On Windows: always the full path.
     CStdStr<wchar_t> GetPathName() const;
     CStdStr<wchar_t> GetFileName() const;
     CStdStr<wchar_t> GetFileExt() const;
@@ -121,8 +126,9 @@ public:
 
     // The next selected file, in the dialog's order.
     //   pos    in/out: the position, moved to the next file; null after the last one
-    // Result: the file's full path. If pos is null or nothing was selected: empty, and pos stays. A
-    // position from a longer selection gives empty names until it reaches this one.
+    // Result: the file's path, as GetPathName has it. If pos is null or nothing was selected:
+    // empty, and pos stays. A position from a longer selection gives empty names until it reaches
+    // this one.
     // On Windows: a null pos is an error.
     CStdStr<wchar_t> GetNextPathName(POSITION& pos) const;
 

@@ -177,6 +177,90 @@ TEST_F(FileDialogBlock, ReplacesTheConstructorsFilter)
     });
 }
 
+TEST_F(FileDialogBlock, KeepsBackslashesInTheFileName)
+{
+    KtQtFileDialog dialog(false);
+    fill(dialog);
+    wchar_t name[] = L"new\\july.txt";
+    dialog.GetOFN().lpstrFile = name;
+    look(dialog, [](QFileDialog& shown) {
+        EXPECT_EQ(nameEdit(shown)->text(), QStringLiteral("new\\july.txt"));
+    });
+    EXPECT_EQ(dialog.m_attri.m_strSelectFile, QStringLiteral("new\\july.txt"));
+}
+
+TEST_F(FileDialogBlock, ShowsATitleInAnyScript)
+{
+    KtQtFileDialog dialog(true);
+    fill(dialog);
+    dialog.GetOFN().lpstrTitle = L"\u00e4 \u4e2d \U0001F600";
+    const QString title = QString::fromUtf8("\xC3\xA4 \xE4\xB8\xAD \xF0\x9F\x98\x80");
+    look(dialog, [&title](QFileDialog& shown) { EXPECT_EQ(shown.windowTitle(), title); });
+    EXPECT_EQ(dialog.m_strCaption, title);
+}
+
+TEST_F(FileDialogBlock, KeepsBlanksInTheFilters)
+{
+    KtQtFileDialog dialog(true);
+    fill(dialog);
+    dialog.GetOFN().lpstrFilter = L" Text  (*.txt) ;; All files (*) ";
+    look(dialog, [](QFileDialog& shown) {
+        EXPECT_EQ(shown.nameFilters(),
+                  (QStringList{QStringLiteral("Text (*.txt)"), QStringLiteral("All files (*)")}));
+        EXPECT_EQ(shown.selectedNameFilter(), QStringLiteral("Text (*.txt)"));
+    });
+    EXPECT_EQ(dialog.m_attri.m_strNameFilter, QStringLiteral(" Text  (*.txt) ;; All files (*) "));
+    EXPECT_EQ(dialog.m_attri.m_listNameFilter,
+              (QStringList{QStringLiteral(" Text  (*.txt) "), QStringLiteral(" All files (*) ")}));
+    EXPECT_EQ(dialog.m_attri.m_strInitNameFilter, QStringLiteral(" All files (*) "));
+}
+
+struct RelativeRow
+{
+    const char* name;
+    bool open;
+    void (*act)(QFileDialog& shown);
+    const char* file;
+    bool isRelative;
+};
+
+class FileDialogRelativeFolder : public FileDialogFixture,
+                                 public testing::WithParamInterface<RelativeRow>
+{};
+
+TEST_P(FileDialogRelativeFolder, GivesTheNameThatTheDialogMakes)
+{
+    const CurrentFolder current(path(QStringLiteral("..")));
+    KtQtFileDialog dialog(GetParam().open);
+    fill(dialog);
+    dialog.GetOFN().lpstrInitialDir = L"Reports";
+    const User<QFileDialog> user(GetParam().act);
+    EXPECT_EQ(dialog.DoModal(), IDOK);
+    const std::wstring relative = L"Reports/" + QString::fromUtf8(GetParam().file).toStdWString();
+    const std::wstring name = GetParam().isRelative ? relative : widePath(GetParam().file);
+    EXPECT_EQ(QString::fromStdWString(dialog.GetPathName()), QString::fromStdWString(name));
+    POSITION pos = dialog.GetStartPosition();
+    EXPECT_EQ(dialog.GetNextPathName(pos), name);
+}
+
+INSTANTIATE_TEST_SUITE_P(
+    Rows, FileDialogRelativeFolder,
+    testing::Values(
+        RelativeRow{"TypedExisting", true,
+                    [](QFileDialog& shown) { typeNameAndReturn(shown, QStringLiteral("may.txt")); },
+                    "may.txt", false},
+        RelativeRow{"TypedNew", false,
+                    [](QFileDialog& shown) { typeNameAndReturn(shown, QStringLiteral("july")); },
+                    "july", true},
+        RelativeRow{"Clicked", true,
+                    [](QFileDialog& shown) {
+                        listedFiles(shown, kFiles);
+                        clickFile(shown, QStringLiteral("noext"));
+                        press(shown, QDialogButtonBox::Open);
+                    },
+                    "noext", false}),
+    RowName());
+
 struct IndexRow
 {
     const char* name;

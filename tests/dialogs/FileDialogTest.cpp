@@ -163,6 +163,7 @@ TEST_P(DoModalEnd, CancelsAndKeepsTheFormerSelection)
     dialog.m_nSelectedCount = 1;
     dialog.PraseFileInfo();
     dialog.GetOFN().nFilterIndex = 2;
+    dialog.m_strSelectedNameFilter = QStringLiteral("Former (*)");
     const User<QFileDialog> user([](QFileDialog& shown) {
         typeName(shown, QStringLiteral("may.txt"));
         GetParam().end(shown);
@@ -171,6 +172,7 @@ TEST_P(DoModalEnd, CancelsAndKeepsTheFormerSelection)
     EXPECT_EQ(dialog.GetPathName(), L"/x/former.dat");
     EXPECT_EQ(walk(dialog), std::vector<std::wstring>{L"/x/former.dat"});
     EXPECT_EQ(dialog.GetOFN().nFilterIndex, 2u);
+    EXPECT_EQ(dialog.m_strSelectedNameFilter, QStringLiteral("Former (*)"));
 }
 
 INSTANTIATE_TEST_SUITE_P(
@@ -249,6 +251,36 @@ TEST_F(DoModal, NumbersTheEmptyFilterOfAnEmptyListFirst)
     const User<QFileDialog> user(
         [](QFileDialog& shown) { typeNameAndReturn(shown, QStringLiteral("may.txt")); });
     EXPECT_EQ(dialog.DoModal(), IDOK);
+    EXPECT_EQ(dialog.GetOFN().nFilterIndex, 1u);
+}
+
+TEST_F(DoModal, NumbersNoFilterWhoseBlanksQtTookAway)
+{
+    KtQtFileDialog dialog(true);
+    fill(dialog);
+    dialog.GetOFN().lpstrFilter = L"Text (*.txt) ;; All files (*)";
+    const User<QFileDialog> user(
+        [](QFileDialog& shown) { typeNameAndReturn(shown, QStringLiteral("may.txt")); });
+    EXPECT_EQ(dialog.DoModal(), IDOK);
+    EXPECT_EQ(dialog.m_strSelectedNameFilter, QStringLiteral("Text (*.txt)"));
+    EXPECT_EQ(dialog.GetOFN().nFilterIndex, 0u);
+}
+
+TEST_F(DoModal, KeepsTheNamesWhenARunIsAcceptedWithoutFiles)
+{
+    KtQtFileDialog dialog(true);
+    fill(dialog);
+    dialog.m_listSelectedFiles = QStringList{QStringLiteral("/x/former.dat")};
+    dialog.m_nSelectedCount = 1;
+    dialog.PraseFileInfo();
+    dialog.GetOFN().nFilterIndex = 1;
+    const User<QFileDialog> user([](QFileDialog& shown) { static_cast<QDialog&>(shown).done(1); });
+    EXPECT_EQ(dialog.DoModal(), IDOK);
+    EXPECT_EQ(dialog.GetStartPosition(), nullptr);
+    EXPECT_EQ(dialog.m_listSelectedFiles, QStringList());
+    EXPECT_EQ(dialog.m_strSelectedNameFilter, QStringLiteral("Text (*.txt)"));
+    EXPECT_EQ(dialog.GetPathName(), L"/x/former.dat");
+    EXPECT_EQ(dialog.GetFileName() + dialog.GetFileExt(), L"former.datdat");
     EXPECT_EQ(dialog.GetOFN().nFilterIndex, 1u);
 }
 
