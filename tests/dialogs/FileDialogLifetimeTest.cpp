@@ -101,6 +101,16 @@ TEST_F(FileDialogLifetime, LosesADialogThatTheHostDisconnected)
     EXPECT_EQ(dialog.m_pDialog, nullptr);
 }
 
+TEST_F(FileDialogLifetime, LeavesAFieldAloneThatTheHostSet)
+{
+    KtQtFileDialog dialog(true);
+    const QPointer<QFileDialog> first = cancelledRun(dialog);
+    auto* const other = new QFileDialog;
+    dialog.m_pDialog = other;
+    delete first;
+    EXPECT_EQ(dialog.m_pDialog, other);
+}
+
 // ---- Several runs ------------------------------------------------------------------------------
 
 TEST_F(FileDialogLifetime, DeletesOnlyTheDialogOfTheLastRun)
