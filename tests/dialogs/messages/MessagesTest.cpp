@@ -12,7 +12,6 @@
 #include <memory>
 #include <thread>
 #include <tuple>
-#include <utility>
 #include <vector>
 
 #include <gtest/gtest.h>
@@ -22,6 +21,10 @@ namespace {
 using ktqtbase::test::RowName;
 
 const int typeAtLoad = QKtMsgEvent::iKtMsgEventType;
+
+// Before any test: a number that the library asked Qt for would be free only the first time.
+const int firstTypes[] = {QEvent::registerEventType(), QKtMsgEvent::eventType(),
+                          QEvent::registerEventType()};
 
 using Values = std::tuple<UINT, WPARAM, LPARAM>;
 
@@ -190,13 +193,8 @@ TEST(QKtMsgEvent, HasItsFieldsInTheirOrder)
 
 TEST(QKtMsgEvent, HasTheNextTypeThatQtChooses)
 {
-    const int former = std::exchange(QKtMsgEvent::iKtMsgEventType, -1);
-    const int before = QEvent::registerEventType();
-    const int type = QKtMsgEvent::eventType();
-    const int after = QEvent::registerEventType();
-    QKtMsgEvent::iKtMsgEventType = former;
-    EXPECT_EQ(type, before - 1);
-    EXPECT_EQ(type, after + 1);
+    EXPECT_EQ(firstTypes[1], firstTypes[0] - 1);
+    EXPECT_EQ(firstTypes[2], firstTypes[1] - 1);
 }
 
 TEST(QKtMsgEvent, RegistersATypeInPlaceOfAnyNegativeNumber)
