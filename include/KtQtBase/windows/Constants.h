@@ -116,6 +116,12 @@ inline const HKEY HKEY_CLASSES_ROOT = reinterpret_cast<HKEY>(0xFFFFFFFF80000000U
 inline const HKEY HKEY_CURRENT_USER = reinterpret_cast<HKEY>(0xFFFFFFFF80000001ULL);
 inline const HKEY HKEY_LOCAL_MACHINE = reinterpret_cast<HKEY>(0xFFFFFFFF80000002ULL);
 inline const HKEY HKEY_USERS = reinterpret_cast<HKEY>(0xFFFFFFFF80000003ULL);
+inline const HKEY HKEY_PERFORMANCE_DATA = reinterpret_cast<HKEY>(0xFFFFFFFF80000004ULL);
+inline const HKEY HKEY_CURRENT_CONFIG = reinterpret_cast<HKEY>(0xFFFFFFFF80000005ULL);
+inline const HKEY HKEY_DYN_DATA = reinterpret_cast<HKEY>(0xFFFFFFFF80000006ULL);
+inline const HKEY HKEY_CURRENT_USER_LOCAL_SETTINGS = reinterpret_cast<HKEY>(0xFFFFFFFF80000007ULL);
+inline const HKEY HKEY_PERFORMANCE_TEXT = reinterpret_cast<HKEY>(0xFFFFFFFF80000050ULL);
+inline const HKEY HKEY_PERFORMANCE_NLSTEXT = reinterpret_cast<HKEY>(0xFFFFFFFF80000060ULL);
 
 constexpr DWORD KEY_READ = 0x00020019;
 constexpr DWORD KEY_WRITE = 0x00020006;
@@ -149,6 +155,7 @@ constexpr UINT MB_ICONEXCLAMATION = 0x00000030;
 constexpr UINT MB_ICONWARNING = MB_ICONEXCLAMATION;
 constexpr UINT MB_ICONASTERISK = 0x00000040;
 constexpr UINT MB_ICONINFORMATION = MB_ICONASTERISK;
+constexpr UINT MB_USERICON = 0x00000080;
 
 constexpr UINT MB_DEFBUTTON1 = 0x00000000;
 constexpr UINT MB_DEFBUTTON2 = 0x00000100;
@@ -158,8 +165,21 @@ constexpr UINT MB_DEFBUTTON4 = 0x00000300;
 constexpr UINT MB_APPLMODAL = 0x00000000;
 constexpr UINT MB_SYSTEMMODAL = 0x00001000;
 constexpr UINT MB_TASKMODAL = 0x00002000;
+constexpr UINT MB_HELP = 0x00004000;
+constexpr UINT MB_NOFOCUS = 0x00008000;
 constexpr UINT MB_SETFOREGROUND = 0x00010000;
+constexpr UINT MB_DEFAULT_DESKTOP_ONLY = 0x00020000;
 constexpr UINT MB_TOPMOST = 0x00040000;
+constexpr UINT MB_SERVICE_NOTIFICATION_NT3X = 0x00040000;
+constexpr UINT MB_RIGHT = 0x00080000;
+constexpr UINT MB_RTLREADING = 0x00100000;
+constexpr UINT MB_SERVICE_NOTIFICATION = 0x00200000;
+
+constexpr UINT MB_TYPEMASK = 0x0000000F;
+constexpr UINT MB_ICONMASK = 0x000000F0;
+constexpr UINT MB_DEFMASK = 0x00000F00;
+constexpr UINT MB_MODEMASK = 0x00003000;
+constexpr UINT MB_MISCMASK = 0x0000C000;
 
 constexpr int IDOK = 1;
 constexpr int IDCANCEL = 2;
@@ -172,6 +192,8 @@ constexpr int IDCLOSE = 8;
 constexpr int IDHELP = 9;
 constexpr int IDTRYAGAIN = 10;
 constexpr int IDCONTINUE = 11;
+constexpr int IDTIMEOUT = 32000;
+constexpr int IDASYNC = 32001;
 
 // ---- Messages, keys and screen metrics ---------------------------------------------------------
 
@@ -269,6 +291,11 @@ constexpr DWORD OFN_ENABLESIZING = 0x00800000;
 constexpr DWORD OFN_DONTADDTORECENT = 0x02000000;
 constexpr DWORD OFN_FORCESHOWHIDDEN = 0x10000000;
 
+constexpr DWORD OFN_EX_NOPLACESBAR = 0x00000001;
+constexpr UINT OFN_SHAREWARN = 0;
+constexpr UINT OFN_SHARENOWARN = 1;
+constexpr UINT OFN_SHAREFALLTHROUGH = 2;
+
 // ---- Pens and backgrounds ----------------------------------------------------------------------
 
 constexpr int PS_SOLID = 0;
@@ -302,13 +329,18 @@ constexpr int OPAQUE = 2;
 constexpr int FW_DONTCARE = 0;
 constexpr int FW_THIN = 100;
 constexpr int FW_EXTRALIGHT = 200;
+constexpr int FW_ULTRALIGHT = FW_EXTRALIGHT;
 constexpr int FW_LIGHT = 300;
 constexpr int FW_NORMAL = 400;
+constexpr int FW_REGULAR = FW_NORMAL;
 constexpr int FW_MEDIUM = 500;
 constexpr int FW_SEMIBOLD = 600;
+constexpr int FW_DEMIBOLD = FW_SEMIBOLD;
 constexpr int FW_BOLD = 700;
 constexpr int FW_EXTRABOLD = 800;
+constexpr int FW_ULTRABOLD = FW_EXTRABOLD;
 constexpr int FW_HEAVY = 900;
+constexpr int FW_BLACK = FW_HEAVY;
 
 constexpr BYTE DEFAULT_PITCH = 0;
 constexpr BYTE FIXED_PITCH = 1;
