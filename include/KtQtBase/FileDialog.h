@@ -28,6 +28,8 @@
 #include <QtCore/QStringList>
 #include <QtWidgets/QFileDialog>
 
+#include <KtQtBase/windows/HostMacros.h> // sets aside the host's macros of the names used below
+
 #include <cstdint>
 
 // What the dialog hands to its QFileDialog.
@@ -146,5 +148,7 @@ public:
     QString m_strSelectedNameFilter;
     OPENFILENAMEW m_ofn = {};
 };
+
+#include <KtQtBase/windows/HostMacros.h> // gives them back
 
 #endif

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 //
-// Everything of the library in one include.
+// Everything of the library in one include, except two headers of short names that many hosts have
+// too: windows/Packing.h and windows/MessageNumbers.h.
 //
 //     #include <KtQtBase/KtQtBase.h>
 #ifndef KTQTBASE_KTQTBASE_H

@@ -2,6 +2,8 @@
 //
 // Windows-style messages to widgets, message boxes, and the module that resource strings come from.
 //
+//     #include <KtQtBase/windows/MessageNumbers.h>
+//
 //     bool Panel::event(QEvent* event)
 //     {
 //         if (auto* message = dynamic_cast<QKtMsgEvent*>(event))

@@ -4,6 +4,7 @@
 #include "dialogs/FileDialogFixture.h"
 
 #include <KtQtBase/Messages.h>
+#include <KtQtBase/windows/MessageNumbers.h>
 
 #include <QtWidgets/QMessageBox>
 

@@ -6,6 +6,8 @@
 
 #include "SketchMessages.h"
 
+#include <KtQtBase/windows/Packing.h>
+
 enum CommandId : unsigned int
 {
     ID_FILE_NEW = 0xE100,

@@ -3,6 +3,7 @@
 #define SKETCHPAD_SHAPE_H
 
 #include <KtQtBase/WindowsTypes.h>
+#include <KtQtBase/windows/Packing.h>
 
 #include <string>
 #include <vector>

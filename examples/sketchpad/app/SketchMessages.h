@@ -6,6 +6,7 @@
 #define SKETCHPAD_SKETCHMESSAGES_H
 
 #include <KtQtBase/WindowsTypes.h>
+#include <KtQtBase/windows/MessageNumbers.h>
 
 constexpr UINT WM_SKETCH_ADDSHAPE = WM_USER + 1;  // lParam: const CShape*
 constexpr UINT WM_SKETCH_PREVIEW = WM_USER + 2;   // lParam: const CShape*, or 0 to end it

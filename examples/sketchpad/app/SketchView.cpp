@@ -2,6 +2,8 @@
 #include "SketchView.h"
 
 #include <KtQtBase/Messages.h>
+#include <KtQtBase/windows/MessageNumbers.h>
+#include <KtQtBase/windows/Packing.h>
 
 #include <algorithm>
 

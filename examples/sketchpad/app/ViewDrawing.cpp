@@ -4,6 +4,7 @@
 #include "SketchView.h"
 
 #include <KtQtBase/PainterWrapper.h>
+#include <KtQtBase/windows/Packing.h>
 
 #include <algorithm>
 #include <cwchar>

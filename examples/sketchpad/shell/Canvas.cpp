@@ -4,6 +4,8 @@
 #include "app/SketchView.h"
 
 #include <KtQtBase/Messages.h>
+#include <KtQtBase/windows/MessageNumbers.h>
+#include <KtQtBase/windows/Packing.h>
 
 #include <QtGui/QKeyEvent>
 #include <QtGui/QPainter>

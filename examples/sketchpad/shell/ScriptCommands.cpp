@@ -8,6 +8,9 @@
 #include "app/Narrow.h"
 #include "app/ShapeText.h"
 
+#include <KtQtBase/windows/MessageNumbers.h>
+#include <KtQtBase/windows/Packing.h>
+
 #include <algorithm>
 #include <iterator>
 #include <map>

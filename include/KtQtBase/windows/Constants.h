@@ -5,13 +5,16 @@
 //     if (GetFileAttributes(L"/tmp/report.txt") == INVALID_FILE_ATTRIBUTES) { ... }
 //     painter.setPen(PS_DASH, 1, 0x000000FF);
 //
-// Each has the value that Windows publishes. They are objects, not macros. Raster operations (R2_)
-// and brush styles (BS_, HS_) are left out on purpose: such integers reach Qt unchanged, so pass
-// values of QPainter::CompositionMode and Qt::BrushStyle instead.
+// Each has the value that Windows publishes. They are objects, not macros, and a macro of the host
+// with such a name stays what it is, defined before or after. Raster operations (R2_) and brush
+// styles (BS_, HS_) are left out on purpose: such integers reach Qt unchanged, so pass values of
+// QPainter::CompositionMode and Qt::BrushStyle instead. Message numbers: windows/MessageNumbers.h.
 #ifndef KTQTBASE_WINDOWS_CONSTANTS_H
 #define KTQTBASE_WINDOWS_CONSTANTS_H
 
 #include <KtQtBase/windows/Scalars.h>
+
+#include <KtQtBase/windows/HostMacros.h> // sets the host's macros aside
 
 // ---- Lengths in records and buffers (characters) -----------------------------------------------
 
@@ -195,34 +198,7 @@ constexpr int IDCONTINUE = 11;
 constexpr int IDTIMEOUT = 32000;
 constexpr int IDASYNC = 32001;
 
-// ---- Messages, keys and screen metrics ---------------------------------------------------------
-
-// The library itself sends none of these; a host's windows use them to pass on Qt's events.
-constexpr UINT WM_SIZE = 0x0005;
-constexpr UINT WM_PAINT = 0x000F;
-constexpr UINT WM_CLOSE = 0x0010;
-constexpr UINT WM_KEYDOWN = 0x0100;
-constexpr UINT WM_KEYUP = 0x0101;
-constexpr UINT WM_CHAR = 0x0102;
-constexpr UINT WM_COMMAND = 0x0111;
-constexpr UINT WM_TIMER = 0x0113;
-constexpr UINT WM_MOUSEMOVE = 0x0200;
-constexpr UINT WM_LBUTTONDOWN = 0x0201;
-constexpr UINT WM_LBUTTONUP = 0x0202;
-constexpr UINT WM_LBUTTONDBLCLK = 0x0203;
-constexpr UINT WM_RBUTTONDOWN = 0x0204;
-constexpr UINT WM_RBUTTONUP = 0x0205;
-
-// The buttons and keys that are down during a mouse message, in its wParam.
-constexpr WPARAM MK_LBUTTON = 0x0001;
-constexpr WPARAM MK_RBUTTON = 0x0002;
-constexpr WPARAM MK_SHIFT = 0x0004;
-constexpr WPARAM MK_CONTROL = 0x0008;
-constexpr WPARAM MK_MBUTTON = 0x0010;
-
-// The first free numbers for a window class's own messages and for an application's.
-constexpr UINT WM_USER = 0x0400;
-constexpr UINT WM_APP = 0x8000;
+// ---- Keys and screen metrics -------------------------------------------------------------------
 
 constexpr int VK_BACK = 0x08;
 constexpr int VK_TAB = 0x09;
@@ -415,5 +391,7 @@ constexpr int CSIDL_WINDOWS = 0x0024;
 constexpr int CSIDL_SYSTEM = 0x0025;
 constexpr int CSIDL_PROGRAM_FILES = 0x0026;
 constexpr int CSIDL_FLAG_CREATE = 0x8000;
+
+#include <KtQtBase/windows/HostMacros.h> // gives them back
 
 #endif

@@ -13,9 +13,11 @@ class QWidget;
 
 // ---- Scalar types ------------------------------------------------------------------------------
 
-// Objective-C has a BOOL of its own. No function of this library takes or returns BOOL: what
-// Windows declares as BOOL is int or bool here, as each declaration says, on every platform.
-#ifndef __OBJC__
+// Objective-C has a BOOL of its own, and plain C++ gets it by <objc/objc.h>, too: the last two are
+// the macros by which Apple's and GNU's tell of it. No function of this library takes or returns
+// BOOL: what Windows declares as BOOL is int or bool here, as each declaration says.
+#if !defined(__OBJC__) && !defined(BOOL) && !defined(OBJC_BOOL_DEFINED) &&                         \
+    !defined(__objc_INCLUDE_GNU)
 using BOOL = int;
 #endif
 

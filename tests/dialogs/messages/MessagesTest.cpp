@@ -3,6 +3,7 @@
 
 #include <KtQtBase/Messages.h>
 #include <KtQtBase/windows/Constants.h>
+#include <KtQtBase/windows/MessageNumbers.h>
 
 #include <QtCore/QCoreApplication>
 #include <QtWidgets/QWidget>

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-#include <KtQtBase/WindowsTypes.h>
+#include <KtQtBase/windows/Packing.h>
 
 #include <gtest/gtest.h>
 

@@ -1,5 +1,6 @@
 // SPDX-License-Identifier: MIT
 #include <KtQtBase/WindowsTypes.h>
+#include <KtQtBase/windows/MessageNumbers.h>
 
 #include <gtest/gtest.h>
 
