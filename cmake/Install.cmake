@@ -15,7 +15,8 @@ else()
 endif()
 
 install(TARGETS KtQtBase EXPORT KtQtBaseTargets)
-install(DIRECTORY include/KtQtBase DESTINATION ${CMAKE_INSTALL_INCLUDEDIR})
+install(DIRECTORY include/KtQtBase ${KTQTBASE_GENERATED_INCLUDE}/KtQtBase
+    DESTINATION ${CMAKE_INSTALL_INCLUDEDIR})
 install(EXPORT KtQtBaseTargets NAMESPACE KtQtBase:: DESTINATION ${KTQTBASE_CMAKE_DIR})
 
 # A host's own OS-base library is not installed; the package only names its place.
