@@ -30,6 +30,13 @@ else()
     install(EXPORT KtOsBaseTargets NAMESPACE KtOsBase:: DESTINATION ${KTQTBASE_CMAKE_DIR})
 endif()
 
+# The build folder is a package, too.
+export(EXPORT KtQtBaseTargets NAMESPACE KtQtBase:: FILE ${PROJECT_BINARY_DIR}/KtQtBaseTargets.cmake)
+if(NOT KTQTBASE_HOST_OSBASE)
+    export(EXPORT KtOsBaseTargets NAMESPACE KtOsBase::
+        FILE ${PROJECT_BINARY_DIR}/KtOsBaseTargets.cmake)
+endif()
+
 configure_package_config_file(cmake/KtQtBaseConfig.cmake.in
     ${PROJECT_BINARY_DIR}/KtQtBaseConfig.cmake
     INSTALL_DESTINATION ${KTQTBASE_CMAKE_DIR})

@@ -1,6 +1,17 @@
 # SPDX-License-Identifier: MIT
 # The options of a build, and the compile settings that all targets of this project share.
 
+if(DEFINED BUILD_SHARED_LIBS AND NOT BUILD_SHARED_LIBS)
+    message(FATAL_ERROR "KtQtBase can only be a shared library, since its hosts find names in it when "
+        "they run: leave BUILD_SHARED_LIBS out, or set it to ON before this project is added.")
+endif()
+
+# Without a preset the build is the one that is shipped; a host that adds this project chooses its own.
+get_property(KTQTBASE_MULTI_CONFIG GLOBAL PROPERTY GENERATOR_IS_MULTI_CONFIG)
+if(PROJECT_IS_TOP_LEVEL AND NOT KTQTBASE_MULTI_CONFIG AND NOT CMAKE_BUILD_TYPE)
+    set(CMAKE_BUILD_TYPE Release CACHE STRING "The kind of build" FORCE)
+endif()
+
 option(KTQTBASE_BUILD_TESTS "Build the tests" ${PROJECT_IS_TOP_LEVEL})
 option(KTQTBASE_BUILD_EXAMPLES "Build the example programs" ${PROJECT_IS_TOP_LEVEL})
 option(KTQTBASE_BUILD_FUZZERS "Build the fuzzers, which need clang++" OFF)

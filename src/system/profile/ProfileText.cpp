@@ -40,7 +40,7 @@ public:
     {
         std::size_t done = 0;
         while (done < length) {
-            const ssize_t count = read(m_descriptor, area + done, length - done);
+            const ssize_t count = ::read(m_descriptor, area + done, length - done);
             if (count == 0 || (count < 0 && errno != EINTR))
                 break;
             done += count > 0 ? static_cast<std::size_t>(count) : 0;
