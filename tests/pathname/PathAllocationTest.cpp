@@ -239,6 +239,7 @@ TEST_F(PathAllocation, EmptiesTheParentOfABareNameWhosePrefixCannotBeCopied)
 
 TEST_F(PathAllocation, EmptiesThePrefixWhereItCannotBeSet)
 {
+    const ktqtbase::test::LocaleScope utf8("C.UTF-8", LC_CTYPE);
     // Parsed, but without room for any folder that this program may be in.
     const auto parseShortPrefix = [] {
         EXPECT_EQ(g_CurrentDirPrefix.ParseRelative(L"/no", nullptr, false), 0);

@@ -2,6 +2,7 @@
 //
 // Parses against the executable's folder.
 #include "pathname/PathTestSupport.h"
+#include "support/LocaleScope.h"
 #include "support/WhereAmI.h"
 
 #include <KtQtBase/PathName.h>
@@ -24,10 +25,17 @@ std::wstring executableFolder()
     return wide(std::filesystem::read_symlink("/proc/self/exe").parent_path());
 }
 
+// The folder of this program may have any letters, which convert in such a locale.
+struct AnyFolder
+{
+    const ktqtbase::test::LocaleScope utf8{"C.UTF-8", LC_CTYPE};
+};
+
 // ---- This executable ---------------------------------------------------------------------------
 
 TEST(Parse, TakesARelativeNameAsLyingInTheExecutablesFolder)
 {
+    const AnyFolder folder;
     const WorkingFolder working("/");
     CRbUiPathname name;
     ASSERT_EQ(name.Parse(L" \"a\\b\" ", false), 0);
@@ -39,6 +47,7 @@ TEST(Parse, TakesARelativeNameAsLyingInTheExecutablesFolder)
 
 TEST(Parse, FindsAFileOfTheExecutablesFolder)
 {
+    const AnyFolder folder;
     const WorkingFolder working("/");
     CRbUiPathname name;
     ASSERT_EQ(name.Parse(L"pathname-tests", true), 0);
@@ -49,6 +58,7 @@ TEST(Parse, FindsAFileOfTheExecutablesFolder)
 
 TEST(Parse, TakesRootedAndDriveNamesAsTheyAre)
 {
+    const AnyFolder folder;
     CRbUiPathname name;
     ASSERT_EQ(name.Parse(L"/a", false), 0);
     EXPECT_STREQ(chars(name.m_pRelPath), L"");
@@ -59,6 +69,7 @@ TEST(Parse, TakesRootedAndDriveNamesAsTheyAre)
 
 TEST(Parse, Is1ForABadNameAndLeavesTheNameUnparsed)
 {
+    const AnyFolder folder;
     CRbUiPathname name;
     ASSERT_EQ(name.Parse(L"/a", false), 0);
     EXPECT_EQ(name.Parse(L"\\\\srv\\share", false), 1);
@@ -68,6 +79,7 @@ TEST(Parse, Is1ForABadNameAndLeavesTheNameUnparsed)
 
 TEST(Parse, Is1ForNullAndLeavesTheNameAlone)
 {
+    const AnyFolder folder;
     CRbUiPathname name;
     ASSERT_EQ(name.Parse(L"/a", false), 0);
     EXPECT_EQ(name.Parse(nullptr, false), 1);
@@ -76,6 +88,7 @@ TEST(Parse, Is1ForNullAndLeavesTheNameAlone)
 
 TEST(Parse, TakesANameOutOfItsOwnStrings)
 {
+    const AnyFolder folder;
     CRbUiPathname name;
     ASSERT_EQ(name.Parse(L"/first/second/a/name/that/takes/memory/of/its/own", false), 0);
     ASSERT_EQ(name.Parse(name.GetPathString() + 7, false), 0);
