@@ -2,6 +2,7 @@
 //
 // Every named value and the number that Windows publishes for it.
 #include <KtQtBase/windows/Constants.h>
+#include <KtQtBase/windows/MessageNumbers.h>
 
 #include <gtest/gtest.h>
 
@@ -123,6 +124,21 @@ const struct
     {"MB_TASKMODAL", MB_TASKMODAL, 0x2000},
     {"MB_SETFOREGROUND", MB_SETFOREGROUND, 0x10000},
     {"MB_TOPMOST", MB_TOPMOST, 0x40000},
+    {"MB_USERICON", MB_USERICON, 0x80},
+    {"MB_HELP", MB_HELP, 0x4000},
+    {"MB_NOFOCUS", MB_NOFOCUS, 0x8000},
+    {"MB_DEFAULT_DESKTOP_ONLY", MB_DEFAULT_DESKTOP_ONLY, 0x20000},
+    {"MB_SERVICE_NOTIFICATION_NT3X", MB_SERVICE_NOTIFICATION_NT3X, 0x40000},
+    {"MB_RIGHT", MB_RIGHT, 0x80000},
+    {"MB_RTLREADING", MB_RTLREADING, 0x100000},
+    {"MB_SERVICE_NOTIFICATION", MB_SERVICE_NOTIFICATION, 0x200000},
+    {"MB_TYPEMASK", MB_TYPEMASK, 0xF},
+    {"MB_ICONMASK", MB_ICONMASK, 0xF0},
+    {"MB_DEFMASK", MB_DEFMASK, 0xF00},
+    {"MB_MODEMASK", MB_MODEMASK, 0x3000},
+    {"MB_MISCMASK", MB_MISCMASK, 0xC000},
+    {"IDTIMEOUT", IDTIMEOUT, 32000},
+    {"IDASYNC", IDASYNC, 32001},
     {"IDOK", IDOK, 1},
     {"IDCANCEL", IDCANCEL, 2},
     {"IDABORT", IDABORT, 3},
@@ -209,6 +225,10 @@ const struct
     {"OFN_NOTESTFILECREATE", OFN_NOTESTFILECREATE, 0x10000},
     {"OFN_NONETWORKBUTTON", OFN_NONETWORKBUTTON, 0x20000},
     {"OFN_NOLONGNAMES", OFN_NOLONGNAMES, 0x40000},
+    {"OFN_EX_NOPLACESBAR", OFN_EX_NOPLACESBAR, 1},
+    {"OFN_SHAREWARN", OFN_SHAREWARN, 0},
+    {"OFN_SHARENOWARN", OFN_SHARENOWARN, 1},
+    {"OFN_SHAREFALLTHROUGH", OFN_SHAREFALLTHROUGH, 2},
     {"OFN_EXPLORER", OFN_EXPLORER, 0x80000},
     {"OFN_NODEREFERENCELINKS", OFN_NODEREFERENCELINKS, 0x100000},
     {"OFN_LONGNAMES", OFN_LONGNAMES, 0x200000},
@@ -246,6 +266,11 @@ const struct
     {"FW_NORMAL", FW_NORMAL, 400},
     {"FW_MEDIUM", FW_MEDIUM, 500},
     {"FW_SEMIBOLD", FW_SEMIBOLD, 600},
+    {"FW_ULTRALIGHT", FW_ULTRALIGHT, 200},
+    {"FW_REGULAR", FW_REGULAR, 400},
+    {"FW_DEMIBOLD", FW_DEMIBOLD, 600},
+    {"FW_ULTRABOLD", FW_ULTRABOLD, 800},
+    {"FW_BLACK", FW_BLACK, 900},
     {"FW_BOLD", FW_BOLD, 700},
     {"FW_EXTRABOLD", FW_EXTRABOLD, 800},
     {"FW_HEAVY", FW_HEAVY, 900},
@@ -316,15 +341,17 @@ unsigned long long bitsOf(const void* pointer)
 }
 
 // The names of the constants that the header's text defines.
-std::set<std::string> namesInHeader()
+std::set<std::string> namesInHeaders()
 {
     static const std::regex definition(R"(^(?:inline )?constexpr \w+ (\w+) =)");
     std::set<std::string> names;
-    std::ifstream header(KTQTBASE_CONSTANTS_HEADER);
-    std::smatch match;
-    for (std::string line; std::getline(header, line);) {
-        if (std::regex_search(line, match, definition))
-            names.insert(match[1]);
+    for (const char* name : {"Constants.h", "MessageNumbers.h"}) {
+        std::ifstream header(std::string(KTQTBASE_WINDOWS_HEADERS) + name);
+        std::smatch match;
+        for (std::string line; std::getline(header, line);) {
+            if (std::regex_search(line, match, definition))
+                names.insert(match[1]);
+        }
     }
     return names;
 }
@@ -342,7 +369,7 @@ TEST(Constants, AreAllInTheTable)
     std::set<std::string> names;
     for (const auto& row : kConstants)
         names.insert(row.name);
-    EXPECT_EQ(names, namesInHeader());
+    EXPECT_EQ(names, namesInHeaders());
 }
 
 TEST(Constants, ExtendTheSignOfPredefinedHandles)
