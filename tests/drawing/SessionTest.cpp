@@ -5,6 +5,8 @@
 #include <memory>
 #include <type_traits>
 
+#include <initializer_list>
+
 namespace {
 
 POINT kSquare[] = {{10, 10}, {50, 10}, {50, 50}, {10, 50}};
@@ -52,7 +54,8 @@ TEST(Wrapper, InASessionTakesAnotherDeviceAndKeepsAllElse)
     QPainterPath* const path = painter.getPainterPath();
     const QPen pen = painter.getPen();
     const QRegion clip = painter.m_rClipRegion;
-    for (QPaintDevice* const device : {static_cast<QPaintDevice*>(&other), {}, {&image}}) {
+    for (QPaintDevice* const device :
+         std::initializer_list<QPaintDevice*>{&other, nullptr, &image}) {
         painter.setWrappedDevice(device);
         EXPECT_EQ(painter.wrappedDevice(), device);
         EXPECT_EQ(painter.wrappedPainter()->device(), &image);
