@@ -2,10 +2,9 @@
 #include "drawing/Twin.h"
 #include "drawing/Warnings.h"
 
+#include <initializer_list>
 #include <memory>
 #include <type_traits>
-
-#include <initializer_list>
 
 namespace {
 
