@@ -6,8 +6,9 @@
 
 #include <gtest/gtest.h>
 
+#include <QRegularExpression>
+
 #include <fstream>
-#include <regex>
 #include <set>
 #include <string>
 
@@ -343,14 +344,14 @@ unsigned long long bitsOf(const void* pointer)
 // The names of the constants that the header's text defines.
 std::set<std::string> namesInHeaders()
 {
-    static const std::regex definition(R"(^(?:inline )?constexpr \w+ (\w+) =)");
+    static const QRegularExpression definition(R"(^(?:inline )?constexpr \w+ (\w+) =)");
     std::set<std::string> names;
     for (const char* name : {"Constants.h", "MessageNumbers.h"}) {
         std::ifstream header(std::string(KTQTBASE_WINDOWS_HEADERS) + name);
-        std::smatch match;
         for (std::string line; std::getline(header, line);) {
-            if (std::regex_search(line, match, definition))
-                names.insert(match[1]);
+            const auto match = definition.match(QString::fromStdString(line));
+            if (match.hasMatch())
+                names.insert(match.captured(1).toStdString());
         }
     }
     return names;
