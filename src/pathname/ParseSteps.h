@@ -38,7 +38,7 @@ inline bool holdsSeveralColons(std::wstring_view text)
 
 inline void putSeparators(CStdStr<wchar_t>& text, wchar_t separator)
 {
-    if (text.find(kBackslash) == text.npos)
+    if (!holds(text, kBackslash))
         return;
     for (wchar_t& ch : text)
         ch = ch == kBackslash ? separator : ch;
@@ -83,7 +83,7 @@ inline bool classifyName(wchar_t first, wchar_t second, wchar_t separator, path_
 {
     if (classify(first, second, separator, category, text))
         return true;
-    if (text.find(kColon) != text.npos)
+    if (holds(text, kColon))
         return false;
     return category != PC_RELATIVE || (base && isParsed(base->m_type));
 }
@@ -98,11 +98,11 @@ inline OwnedText prefixOf(path_category category, std::wstring_view ofRooted,
     if (category != PC_RELATIVE && category != PC_ROOTED)
         return nullptr;
     OwnedText prefix = former ? std::move(former) : std::make_unique<CStdStr<wchar_t>>();
+    prefix->clear();
     if (category == PC_ROOTED) {
-        prefix->assign(ofRooted);
+        prefix->append(ofRooted);
         return prefix;
     }
-    prefix->clear();
     if (base)
         base->GetFullPath(*prefix);
     return prefix->empty() ? nullptr : std::move(prefix);

@@ -8,10 +8,16 @@
 
 #include <functional>
 #include <memory>
+#include <string_view>
 
 namespace ktqtbase {
 
 using OwnedText = std::unique_ptr<CStdStr<wchar_t>>;
+
+inline bool holds(std::wstring_view text, wchar_t ch)
+{
+    return text.find(ch) != text.npos;
+}
 
 // Attributes of Windows. In the POSIX mode that GetFileAttributes gives, the same bits are the
 // group's write permission and the others' execute permission.

@@ -81,7 +81,7 @@ int CRbUiPathname::ParseRelative(const wchar_t* name, const CRbUiPathname* base,
     m_type = PT_NONE;
     // The name given is read before the former strings are filled, in which it may lie.
     const std::wstring_view given(name);
-    const bool isQualified = m_bQualified || given.find(kColon) != given.npos;
+    const bool isQualified = m_bQualified || ktqtbase::holds(given, kColon);
     OwnedText formerPrefix(std::exchange(m_pRelPath, nullptr));
     OwnedText work = workString(given, OwnedText(std::exchange(m_pWork, nullptr)));
     if (!normaliseName(*this, *work, base))
@@ -96,7 +96,7 @@ int CRbUiPathname::ParseRelative(const wchar_t* name, const CRbUiPathname* base,
     m_pWork = work.release();
     ktqtbase::workOutType(*this, m_pWork, m_pRelPath, m_type);
     emptied.dismiss();
-    m_bQualified = isQualified || m_pWork->find(m_separator) != m_pWork->npos;
+    m_bQualified = isQualified || ktqtbase::holds(*m_pWork, m_separator);
     return kDone;
 }
 

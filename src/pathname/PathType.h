@@ -4,6 +4,9 @@
 #ifndef KTQTBASE_PATHNAME_PATHTYPE_H
 #define KTQTBASE_PATHNAME_PATHTYPE_H
 
+#include <KtQtBase/windows/Constants.h>
+#include <KtQtBase/windows/Files.h>
+
 #include "pathname/PathInternals.h"
 
 #include <string_view>
@@ -13,12 +16,23 @@ namespace ktqtbase {
 // Whether a text holds an asterisk or a question mark.
 inline bool holdsWildcard(std::wstring_view text)
 {
-    return text.find(kAsterisk) != text.npos || text.find(kQuestionmark) != text.npos;
+    return holds(text, kAsterisk) || holds(text, kQuestionmark);
 }
+
+// The attributes of a work string in its prefix. A slash is put between them also if the prefix ends
+// with one, or is the empty prefix of a rooted name.
+unsigned int attributesInPrefix(const CStdStr<wchar_t>& work, const CStdStr<wchar_t>& prefix);
 
 // What the file system has under a work string in its prefix.
 //   prefix    in: may be null
-path_type typeOnDisk(const CStdStr<wchar_t>& work, const CStdStr<wchar_t>* prefix);
+inline path_type typeOnDisk(const CStdStr<wchar_t>& work, const CStdStr<wchar_t>* prefix)
+{
+    const unsigned int attributes =
+        prefix ? attributesInPrefix(work, *prefix) : GetFileAttributes(work.c_str());
+    if (attributes == INVALID_FILE_ATTRIBUTES)
+        return PT_NOT_FOUND;
+    return attributes & kDirectoryAttribute ? PT_DIRECTORY : PT_FILE;
+}
 
 // Whether a path object holds a pattern: a wildcard in its last component.
 inline bool isPattern(const CRbUiPathname& path)
