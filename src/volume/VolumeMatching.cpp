@@ -8,7 +8,7 @@ bool CRbUiVolumeDescriptor::VolMatch(const wchar_t* a, const CStdStr<wchar_t>* b
     if (!a || !b)
         return false;
     if (IsCaseSensitive())
-        return b->compare(a) == 0;
+        return *b == a;
     return ktqtbase::equalFolded(a, b->c_str());
 }
 
