@@ -1,0 +1,27 @@
+#!/usr/bin/env bash
+# SPDX-License-Identifier: MIT
+# Runs clang-tidy over the library's sources, by the checks of .clang-tidy, on every core.
+#
+#     tools/check-tidy.sh BUILD_DIR [SOURCE...]    the build folder has the compile commands
+set -euo pipefail
+commands=$(cd "$1" && pwd)/compile_commands.json
+shift
+cd "$(dirname "$0")/.."
+scratch=$(mktemp -d)
+trap 'rm -rf "$scratch"' EXIT
+
+sources() {
+    if [ $# -gt 0 ]; then
+        printf '%s\0' "$@"
+    else
+        git ls-files -z 'src/*.cpp'
+    fi
+}
+
+# An option of g++ that clang does not know.
+sed 's/ -fno-lifetime-dse\b//' "$commands" >"$scratch/compile_commands.json"
+
+# What clang-tidy counts on standard error are the warnings that it does not show.
+sources "$@" |
+    xargs -0 -n 1 -P "$(getconf _NPROCESSORS_ONLN)" clang-tidy-14 -p "$scratch" --quiet \
+        2> >(grep -vE '^[0-9]+ warnings? generated\.$' >&2)
