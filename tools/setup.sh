@@ -20,8 +20,10 @@ packages() {
         # invisible display.
         apt:build) echo build-essential cmake ninja-build pkg-config qtbase5-dev libgtest-dev \
             libgmock-dev poppler-utils xvfb xauth openbox xdotool fonts-dejavu-core ;;
-        # The formatter's version is fixed, since each version formats some lines differently.
-        apt:check) echo git clang clang-format-14 clang-tidy-14 libgnustep-gui-dev python3 reuse unixodbc-dev ;;
+        # The formatter's version is fixed, since each version formats some lines differently; so is
+        # that of clang-tidy, since each version finds something new.
+        apt:check) echo git clang clang-format-14 clang-tidy-14 libgnustep-gui-dev python3 reuse \
+            unixodbc-dev ;;
         brew:build) echo cmake ninja pkg-config qt@5 googletest poppler ;;
         apt:bench) echo libbenchmark-dev libboost-filesystem-dev libglib2.0-dev libinih-dev \
             libsimpleini-dev python3 ;;
