@@ -111,7 +111,7 @@ inline bool isOwn(const CRbUiPathname& path, const CStdStr<wchar_t>& out)
 // overwrites.
 inline bool liesIn(const CStdStr<wchar_t>& s, const wchar_t* text)
 {
-    const std::less_equal<const wchar_t*> notAfter;
+    const std::less_equal<> notAfter;
     return notAfter(s.data(), text) && notAfter(text, s.data() + s.size());
 }
 

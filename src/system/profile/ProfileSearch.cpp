@@ -21,8 +21,8 @@ bool mayBeginAmong(const char* places, std::size_t count, std::string_view key)
     const char last = key.back();
     char found = 0;
     for (std::size_t i = 0; i < count; ++i)
-        found |= static_cast<char>((places[i] == first) & (lasts[i] == last) &
-                                   mayFollowKey(lasts[i + 1]));
+        found = static_cast<char>(
+            found | ((places[i] == first) & (lasts[i] == last) & mayFollowKey(lasts[i + 1])));
     return found;
 }
 
@@ -31,7 +31,7 @@ std::size_t findKey(std::string_view text, std::string_view key, std::size_t fro
 {
     constexpr std::size_t kPlacesAtOnce = 128;
     const std::size_t end = text.size() > key.size() ? text.size() - key.size() : 0;
-    for (std::size_t count; from < end; from += count) {
+    for (std::size_t count = 0; from < end; from += count) {
         count = std::min(kPlacesAtOnce, end - from);
         if (!mayBeginAmong(text.data() + from, count, key))
             continue;
