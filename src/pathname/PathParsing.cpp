@@ -48,6 +48,7 @@ bool normaliseName(CRbUiPathname& path, Text& work, const CRbUiPathname* base)
 const CRbUiVolumeDescriptor* listedVolume(std::wstring_view name)
 {
     // By index, since a host's GetLocalName may append to the list.
+    // NOLINTNEXTLINE(modernize-loop-convert)
     for (int i = 0; i < volumeList.size(); ++i) {
         const CRbUiVolumeDescriptor* volume = volumeList.at(i);
         const Text* localName = volume ? volume->GetLocalName() : nullptr;
