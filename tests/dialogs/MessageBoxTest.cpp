@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "dialogs/User.h"
 #include "support/RowName.h"
+#include "support/TemporaryFolder.h"
 
 #include <KtQtBase/Messages.h>
 #include <KtQtBase/windows/Constants.h>
@@ -14,6 +15,7 @@
 namespace {
 
 using ktqtbase::test::RowName;
+using ktqtbase::test::wide;
 
 void press(QMessageBox& box, QMessageBox::StandardButton button)
 {
@@ -172,8 +174,7 @@ class AfxMessageBoxPrompt : public testing::TestWithParam<PromptRow>
 
 TEST_P(AfxMessageBoxPrompt, ShowsTheModulesText)
 {
-    const std::string path = RESOURCE_MODULES "texts.dll";
-    const HINSTANCE module = LoadLibrary(std::wstring(path.begin(), path.end()).c_str());
+    const HINSTANCE module = LoadLibrary(wide(RESOURCE_MODULES "texts.dll").c_str());
     AfxSetResourceHandle(module);
     const User<QMessageBox> user([](QMessageBox& box) {
         EXPECT_EQ(box.text(), QString::fromUtf8(GetParam().text));

@@ -16,6 +16,7 @@
 
 #include <gtest/gtest.h>
 
+#include <algorithm>
 #include <fstream>
 #include <string>
 
@@ -52,7 +53,7 @@ constexpr long kEmptyString = 1;
 constexpr long kScratch = 1;
 constexpr long kNarrowBuffer = 1;
 
-// Names of at most 1,023 characters, prefix included, need neither of the last two.
+// Names of at most 1,023 characters of ASCII, prefix included, need neither of the last two.
 struct ParseCase
 {
     const char* row;
@@ -111,16 +112,25 @@ TEST_F(ParseMemory, IsNotTakenAnewForTheNextNameOfAnObject)
     }
 }
 
+// Whether the folder of this program, and so the base of Parse, has letters beyond ASCII.
+bool isBaseBeyondAscii()
+{
+    const QString folder = QCoreApplication::applicationDirPath();
+    return std::any_of(folder.begin(), folder.end(), [](QChar ch) { return ch.unicode() > 127; });
+}
+
 // The base is a rooted name.
 TEST_F(ParseMemory, OfParseIsTheStringsOfItsBaseBesides)
 {
+    // What one byte a character is too small for is converted into a larger buffer.
+    const long larger = isBaseBeyondAscii() ? kNarrowBuffer : 0;
     for (const ParseCase& test : kParseCases) {
         SCOPED_TRACE(test.row);
         const auto parse = [&] {
             CRbUiPathname path;
             path.Parse(test.name.c_str(), false);
         };
-        EXPECT_LE(allocationsOf(parse), test.kept + test.passing + kString + kEmptyString);
+        EXPECT_LE(allocationsOf(parse), test.kept + test.passing + larger + kString + kEmptyString);
     }
 }
 

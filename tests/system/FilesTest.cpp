@@ -165,6 +165,7 @@ struct DirectoryFunctions
 class CurrentDirectory : public testing::TestWithParam<DirectoryFunctions>
 {
 protected:
+    const LocaleScope anyName{"C.UTF-8"};
     const std::wstring executableFolder =
         wide(std::filesystem::read_symlink("/proc/self/exe").parent_path());
 };

@@ -36,16 +36,17 @@ Name nameOf(HINSTANCE module, std::size_t size, Function function = GetModuleFil
     return name;
 }
 
-std::wstring executable()
-{
-    return wide(std::filesystem::read_symlink("/proc/self/exe"));
-}
-
 // ---- The main program --------------------------------------------------------------------------
 
-TEST(GetModuleFileName, Is0ForTheMainProgramAndGivesItsPath)
+class ModuleFileNameOfTheMainProgram : public testing::Test
 {
-    const std::wstring path = executable();
+protected:
+    const LocaleScope anyName{"C.UTF-8"};
+    const std::wstring path = wide(std::filesystem::read_symlink("/proc/self/exe"));
+};
+
+TEST_F(ModuleFileNameOfTheMainProgram, Is0AndGivesItsPath)
+{
     for (const HINSTANCE module : {HINSTANCE(nullptr), kMainProgram}) {
         const Name name = nameOf(module, path.size() + 2);
         EXPECT_EQ(name.result, 0u);
@@ -53,9 +54,8 @@ TEST(GetModuleFileName, Is0ForTheMainProgramAndGivesItsPath)
     }
 }
 
-TEST(GetModuleFileName, CutsTheMainProgramsPathAtTheSizeWithoutATerminator)
+TEST_F(ModuleFileNameOfTheMainProgram, CutsItsPathAtTheSizeWithoutATerminator)
 {
-    const std::wstring path = executable();
     for (const std::size_t size : {std::size_t(0), std::size_t(1), path.size() - 1, path.size()}) {
         const Name name = nameOf(nullptr, size);
         EXPECT_EQ(name.result, 0u) << size;
@@ -63,9 +63,8 @@ TEST(GetModuleFileName, CutsTheMainProgramsPathAtTheSizeWithoutATerminator)
     }
 }
 
-TEST(GetModuleFileName, TerminatesAPathThatHasOneCharacterToSpare)
+TEST_F(ModuleFileNameOfTheMainProgram, TerminatesAPathThatHasOneCharacterToSpare)
 {
-    const std::wstring path = executable();
     EXPECT_EQ(nameOf(kMainProgram, path.size() + 1).buffer, path + L'\0' + L'#');
 }
 
@@ -144,7 +143,6 @@ TEST(GetModuleFileName, TakesEveryValueAbove1ForAnAddress)
 TEST(KtKernel32, NamesTheFilesOfModulesAsTheGlobalFunctionDoes)
 {
     const LoadedModule module(kModules / "ktplain.dll");
-    const std::wstring path = executable();
     EXPECT_EQ(nameOf(nullptr, path.size(), KtKernel32::GetModuleFileName).buffer, path + L'#');
     EXPECT_EQ(nameOf(addressIn(module), 300, KtKernel32::GetModuleFileName).buffer,
               nameOf(addressIn(module), 300).buffer);

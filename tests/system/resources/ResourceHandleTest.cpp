@@ -1,5 +1,6 @@
 // SPDX-License-Identifier: MIT
 #include "support/RowName.h"
+#include "support/TemporaryFolder.h"
 
 #include <KtQtBase/Messages.h>
 #include <KtQtBase/WideString.h>
@@ -13,6 +14,7 @@
 namespace {
 
 using ktqtbase::test::RowName;
+using ktqtbase::test::wide;
 
 const HINSTANCE handleAtLoad = m_hCurrentResourceHandle;
 
@@ -21,7 +23,7 @@ class LoadedModule
 {
 public:
     explicit LoadedModule(const std::wstring& name)
-        : m_handle(LoadLibrary((folder() + name).c_str()))
+        : m_handle(LoadLibrary((wide(RESOURCE_MODULES) + name).c_str()))
     {
         AfxSetResourceHandle(m_handle);
     }
@@ -38,12 +40,6 @@ public:
     HINSTANCE handle() const { return m_handle; }
 
 private:
-    static std::wstring folder()
-    {
-        const std::string path = RESOURCE_MODULES;
-        return std::wstring(path.begin(), path.end());
-    }
-
     HINSTANCE m_handle;
 };
 
