@@ -140,7 +140,7 @@ TEST(GetModuleFileName, TakesEveryValueAbove1ForAnAddress)
     EXPECT_EQ(name.buffer, L"#########");
 }
 
-TEST(KtKernel32, NamesTheFilesOfModulesAsTheGlobalFunctionDoes)
+TEST_F(ModuleFileNameOfTheMainProgram, AndOfModulesIsTheSameFromKtKernel32)
 {
     const LoadedModule module(kModules / "ktplain.dll");
     EXPECT_EQ(nameOf(nullptr, path.size(), KtKernel32::GetModuleFileName).buffer, path + L'#');
