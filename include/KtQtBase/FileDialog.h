@@ -88,9 +88,13 @@ public:
     //   lpstrFilter        in: the filters, in Qt's form up to the first NUL
     //   nFilterIndex       in: the number of the active filter, from 1; a number outside the list
     //                      chooses none. out, after an accepted run with a selection: the number of
-    //                      the filter that was active at the end, 0 if none is equal to it
-    //   lpstrFile          in: the file that is selected, with slashes. Only its last component is
-    //                      used; if lpstrInitialDir is empty, it is a file of the top folder
+    //                      the filter that was active at the end, 0 if none is equal to it. Qt
+    //                      shows a filter without blanks at its ends and without double ones, so
+    //                      that one which has them is never chosen or found
+    //   lpstrFile          in: the file that is selected, with slashes; best a bare name. Of a full
+    //                      name in a folder that exists only the last component is used; of other
+    //                      names the folders stay, and are looked for in lpstrInitialDir. If that
+    //                      is empty, it is the top folder
     // Null texts are empty. The texts stay the caller's and are read by DoModal.
     // On Windows: the path chosen is written to lpstrFile; here it is only read. Without
     // lpstrInitialDir the folder of lpstrFile or the current one is shown.

@@ -86,11 +86,13 @@ public:
     //   id    in: the string's number
     // Result: whether the module has such a string and it is not empty.
     // The text is cut to 1,023 characters. Afterwards the string has at least 1,024 characters,
-    // whatever the result: a shorter one is filled up with NULs, a longer one keeps its length, so
-    // read the text with c_str(). If the module does not have the string, the former characters
-    // stay.
+    // whatever the result: a shorter one is filled up with NULs, a longer one keeps its length and
+    // what it holds from place 1,023 on. So load into an empty string and read it with c_str().
+    // If the module's "loadstring" has no such string, the former characters stay; without a
+    // module, or in one without "loadstring", the first 1,023 become NULs.
     //   L"", the module has L"Ready"  => true, L"Ready" and 1,019 NULs
     //   L"ab", no such string         => false, L"ab" and 1,022 NULs
+    //   L"ab", no module              => false, 1,024 NULs
     // Kept: the length is not cut to the text; a host that reads it would see another number.
     // On Windows: the string gets the text's own length, and is emptied on failure.
     bool LoadString(unsigned int id);

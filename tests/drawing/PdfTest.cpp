@@ -111,7 +111,7 @@ TEST_F(Pdf, SecondPageLooksLikeTheScreen)
 TEST_F(Pdf, HasTwoPagesThatDiffer)
 {
     EXPECT_TRUE(page(3).isNull());
-    EXPECT_FALSE(support::similarPicture(onScreen(drawShapes), page(2), kTolerance));
+    EXPECT_FALSE(support::areSimilar(onScreen(drawShapes), page(2), kTolerance));
 }
 
 } // namespace

@@ -75,6 +75,14 @@ QImage overWhite(const QImage& image)
     return result;
 }
 
+// Differences of two pictures over white, none where they are within a tolerance.
+Differences beyond(support::Tolerance tolerance, const QImage& a, const QImage& b)
+{
+    const Differences found = findDifferences(a, b, tolerance.part);
+    return found.count > static_cast<int>(tolerance.share * a.width() * a.height()) ? found
+                                                                                    : Differences();
+}
+
 } // namespace
 
 AssertionResult support::samePicture(const QImage& expected, const QImage& actual)
@@ -93,7 +101,11 @@ AssertionResult support::similarPicture(const QImage& expected, const QImage& ac
         return describeShapes(expected, actual);
     const QImage a = overWhite(expected);
     const QImage b = overWhite(actual);
-    const Differences found = findDifferences(a, b, tolerance.part);
-    const int allowed = static_cast<int>(tolerance.share * a.width() * a.height());
-    return found.count <= allowed ? AssertionSuccess() : describe(found, a, b);
+    const Differences found = beyond(tolerance, a, b);
+    return found.count == 0 ? AssertionSuccess() : describe(found, a, b);
+}
+
+bool support::areSimilar(const QImage& a, const QImage& b, Tolerance tolerance)
+{
+    return a.size() == b.size() && beyond(tolerance, overWhite(a), overWhite(b)).count == 0;
 }

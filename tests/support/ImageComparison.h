@@ -31,6 +31,9 @@ struct Tolerance
 ::testing::AssertionResult similarPicture(const QImage& expected, const QImage& actual,
                                           Tolerance tolerance);
 
+// The same as a plain answer, for pictures that shall differ: none is left anywhere.
+bool areSimilar(const QImage& a, const QImage& b, Tolerance tolerance);
+
 } // namespace support
 
 #endif

@@ -15,8 +15,8 @@
 // enumeration.
 //
 // Settings and drawing work while the painter paints, that is between beginDraw and endDraw. At
-// other times Qt does nothing, mostly with a warning; setClipRegion, beginPath and endPath always
-// work. Nothing is checked for null, except where a function says so. Points and text belong to the
+// other times Qt does nothing, mostly with a warning. setClipRegion, the functions of a path, and
+// drawing into an open path need no session; beginPath and endPath need a device. Nothing is checked for null, except where a function says so. Points and text belong to the
 // caller and are read during the call.
 #ifndef KTQTBASE_DRAWING_PAINTER_H
 #define KTQTBASE_DRAWING_PAINTER_H
@@ -70,8 +70,10 @@ public:
     // Starts painting: a solid black pen of width 0 (one pixel under any transformation), a solid
     // black brush, the stored clip, and Qt's defaults for everything else.
     // Result: false without a device, and nothing happens; else true.
-    // Kept: true even if the device refuses to be painted on (a null image, one that is already
-    // painted on); Qt then ignores what is drawn. Part of the interface.
+    // Kept: true even if the device refuses to be painted on (a null image, one that another
+    // painter paints on); Qt then ignores what is drawn. Part of the interface.
+    // Called again before endDraw it goes on with the session, with the pen, the brush and the clip
+    // set anew; one endDraw then ends it.
     // Kept: the brush fills; a host's figures would be empty otherwise. Set Qt::NoBrush for an
     // outline.
     // On Windows: the default brush is white, and only private contexts keep their settings.

@@ -36,8 +36,9 @@ public:
 
     // Saves the painter's state and sets a solid black pen of width 0 and a solid black brush.
     // Result: false without a device, else true.
-    // Kept: the stored clip is not applied here. setClipRegion applies it at once, since the
-    // painter is always active.
+    // Kept: the stored clip is not applied here. setClipRegion applies it at once, since painting
+    // began with the constructor. What is set between beginDraw and endDraw ends with endDraw: a
+    // host sets the clip again for each page.
     bool beginDraw();
 
     // Restores the state from before beginDraw. Painting goes on.

@@ -69,7 +69,8 @@ extern KTQTBASE_EXPORT CRnUiPathname g_CurrentDirPrefix;
 
 // Makes g_CurrentDirPrefix the executable's folder, as GetCurrentDirectoryW gives it, with a
 // closing separator.
-// Result: whether there is such a folder; if not, g_CurrentDirPrefix is unparsed.
+// Result: whether its name could be parsed; if not, g_CurrentDirPrefix is unparsed. It cannot if it
+// holds a colon, or characters that LC_CTYPE does not know: set a UTF-8 LC_CTYPE first.
 // On Windows: the working directory.
 KTQTBASE_EXPORT bool ktuiSetCurrentDirPrefix();
 

@@ -25,7 +25,8 @@
 //
 // Results of type int, unless a function says otherwise: 0 done, 1 bad name or argument, 2 nothing
 // parsed, 3 refused at the root, 4 cannot be done. Type 5, which only a host sets, counts as parsed
-// for questions, which then leave the prefix out, and as not parsed for edits.
+// for questions, which then leave the prefix out, and as not parsed for edits; but GetDisplayName
+// and GetParent take it as not parsed, and RemoveSpaces, BaseToLower and BaseToUpper edit it.
 class KTQTBASE_EXPORT CRbUiPathname
 {
 public:
@@ -44,7 +45,7 @@ public:
     //   flag    not used
     // Result: 0 done; 1 a bad name, as the rows of ParseRelative have them, and the object is
     // unparsed; 1 also for null, and 4 if the executable's folder could not be parsed: the object
-    // then stays as it was.
+    // then stays as it was, whatever the name.
     // On Windows: relative names lie in the working directory.
     virtual int Parse(const wchar_t* name, bool flag);
 
@@ -207,8 +208,10 @@ public:
     // ---- Extensions ----
     //
     // A list holds extensions without dots, separated by semicolons; its items are compared whole,
-    // and null counts as an empty list. An empty item matches nothing but an empty extension.
-    // Results: 0 done; 1 a null extension; 2 nothing parsed. An extension may point into this
+    // and null counts as an empty list. In a list that is not empty, an empty item matches
+    // nothing.
+    // Results: 0 done; 1 a null extension; 2 nothing parsed, but an IfNoMatch with an empty list
+    // then gives 0, since an unparsed object has no extension. An extension may point into this
     // object's own strings. A dot in a folder's name begins no extension. A function that does its
     // work sets m_type to PT_NOT_FOUND, even if the work string stays the same; an IfNoMatch that
     // matches changes nothing.
@@ -298,8 +301,10 @@ public:
 
     // Makes a name in the same folder that does not exist.
     //   result    out: a copy of this object, if force is false and the name is free or a pattern;
-    //             else the stem (or ktTmp), five digits of rand(), and the extension. Filled
-    //             through its virtual AssignCopy; it may be this object.
+    //             else the stem, five digits of rand(), and the extension. The stem is ktTmp
+    //             for a pattern, for .profile, and behind a closing separator, where the name is
+    //             made in that folder. A long stem is cut, so that the whole has at most 1,023
+    //             characters. Filled through its virtual AssignCopy; it may be this object.
     //   force     in: whether to make a new name in any case
     // Result: false if nothing is parsed (result untouched) or the folder's name leaves no room
     // (result unparsed); else true. After 200 names that exist, result is unparsed and the function
@@ -343,13 +348,17 @@ public:
 
     // ---- Fields ----
 
-    path_type m_type;                       // PT_NONE until a parse succeeds
-    const CRbUiVolumeDescriptor* m_pVolume; // not owned; null if it is not known
-    CStdStr<wchar_t>* m_pWork;              // owned: the work string, with its drive
+    path_type m_type; // PT_NONE until a parse succeeds
+    // Not owned. A drive's is looked up in volumeList, a relative name has its base's, and a rooted
+    // one has none; null also for a drive that is not in the list.
+    const CRbUiVolumeDescriptor* m_pVolume;
+    CStdStr<wchar_t>* m_pWork;    // owned: the work string, with its drive
     CStdStr<wchar_t>* m_pRelPath; // owned: the prefix; empty for a rooted name, null for a drive
-    path_category m_category;     // set by a parse, also by one that refuses the name
-    wchar_t m_separator;          // slash
-    // Set by a parse of a name with a separator or a colon.
+    // Set by a parse, also by one that refuses the name, unless that is null, empty or has several
+    // colons.
+    path_category m_category;
+    wchar_t m_separator; // slash
+    // Set by a parse that accepts a name with a separator or a colon.
     // Kept: no later parse clears it. Part of the interface.
     bool m_bQualified;
 };

@@ -19,7 +19,8 @@
 // The mode of a file.
 //   lpFileName    in: its name
 // Result: the file's POSIX mode, 16 bits of file type and permissions, or INVALID_FILE_ATTRIBUTES
-// (0xFFFFFFFF) if there is no file of that name; GetLastError then gives the system's reason.
+// (0xFFFFFFFF) if there is no file of that name; GetLastError then gives the system's reason,
+// but not for a null name.
 //   L"/tmp"      => 0x43FF on most systems: a folder (0x4000) with its permissions
 //   L"/missing"  => 0xFFFFFFFF
 // Kept: the bits are POSIX's; path objects would report other types otherwise. They take bit 0x10,

@@ -10,7 +10,7 @@
 // the main program. For GetProcAddress and FreeLibrary neither is a module. They and LoadString do
 // not test other values: never pass them a handle that was released, or a number that is no handle.
 //
-// A module name is converted with the LC_CTYPE "UTF-8", which LoadLibrary and GetModuleHandle set
+// A module name is converted with the LC_CTYPE "UTF-8", which LoadLibrary and GetModuleHandle (not of a null name) set
 // permanently for the whole process; other conversions of the library rely on it. Call both from
 // one thread. The suffix of a shared library is .dylib on macOS and .so on Linux, as in the rows.
 #ifndef KTQTBASE_WINDOWS_MODULES_H

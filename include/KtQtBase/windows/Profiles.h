@@ -126,10 +126,10 @@ KTQTBASE_EXPORT unsigned int GetPrivateProfileSectionNames(wchar_t* lpszReturnBu
 
 // Writes a key's value.
 //   lpAppName, lpKeyName, lpString, lpFileName    ignored
-// Inert: returns true; no file is made or changed.
+// Inert: returns 1; no file is made or changed.
 // Kept: the result says success; a host that tests it would see a failure otherwise.
 // On Windows: the key is written, or removed if lpString is null.
-KTQTBASE_EXPORT bool WritePrivateProfileString(const wchar_t* lpAppName, const wchar_t* lpKeyName,
-                                               const wchar_t* lpString, const wchar_t* lpFileName);
+KTQTBASE_EXPORT int WritePrivateProfileString(const wchar_t* lpAppName, const wchar_t* lpKeyName,
+                                              const wchar_t* lpString, const wchar_t* lpFileName);
 
 #endif

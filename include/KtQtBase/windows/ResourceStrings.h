@@ -22,7 +22,8 @@
 //   nBufferMax    in: the buffer's size in characters
 // Result: the number of characters in the buffer before its first zero, at most nBufferMax. A
 // string that the module does not have gives 0 and leaves the buffer untouched. A module without
-// "loadstring", and the handles null and 1, give the empty string and 0. A null buffer, or a size
+// "loadstring", and the handles null and 1, give the empty string and 0 (a
+// size of 1 writes nothing: the result then counts what the buffer held). A null buffer, or a size
 // below 1, gives 0 and writes nothing.
 //   L"abcdef", size 4, buffer of zeros  => L"abc", 3
 // Kept: the last position is never written. Part of the interface.

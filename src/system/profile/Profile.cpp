@@ -71,7 +71,7 @@ unsigned int GetPrivateProfileSectionNames(wchar_t*, unsigned int, const wchar_t
     return 0;
 }
 
-bool WritePrivateProfileString(const wchar_t*, const wchar_t*, const wchar_t*, const wchar_t*)
+int WritePrivateProfileString(const wchar_t*, const wchar_t*, const wchar_t*, const wchar_t*)
 {
-    return true;
+    return 1;
 }

@@ -236,7 +236,7 @@ TEST(WritePrivateProfileString, SaysSuccessAndLeavesTheFile)
     const std::string bytes = "[S]\nk=5\n";
     ScratchProfile profile(bytes);
     const std::wstring file = profile.wideName();
-    EXPECT_TRUE(WritePrivateProfileString(L"S", L"k", L"6", file.c_str()));
+    EXPECT_EQ(WritePrivateProfileString(L"S", L"k", L"6", file.c_str()), 1);
     EXPECT_TRUE(WritePrivateProfileString(nullptr, nullptr, nullptr, nullptr));
     EXPECT_EQ(profile.bytes(), bytes);
 }
