@@ -26,7 +26,7 @@ system/stubs      <windows>
 dialogs           dialogs string <FileDialog.h> <Messages.h> <WideString.h> <windows>
                   <QtCore> <QtWidgets>
 dialogs/messages  <Messages.h> <QtCore> <QtWidgets>
-drawing           drawing <drawing> <QtCore> <QtGui> <QtWidgets>
+drawing           drawing platform <drawing> <QtCore> <QtGui> <QtWidgets>
 END
 }
 
@@ -36,6 +36,7 @@ header_only="
     drawing/ColorRef.h
     pathname/ParseSteps.h
     pathname/PathInternals.h
+    platform/QtVersion.h
     string/CaseFolding.h
     string/TextRoom.h
     string/WhiteSpace.h

@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "NameSource.h"
 
-#include <QtCore/QTextCodec>
+#include <QtCore/QString>
 
 #include <cerrno>
 #include <cstring>
@@ -12,11 +12,12 @@ bool decodeUtf8(const std::string& bytes, std::wstring& text)
 {
     if (bytes.find('\0') != bytes.npos)
         return false;
-    QTextCodec::ConverterState state(QTextCodec::IgnoreHeader);
-    const QTextCodec* codec = QTextCodec::codecForName("UTF-8");
-    const QString decoded = codec->toUnicode(bytes.data(), static_cast<int>(bytes.size()), &state);
-    text = decoded.toStdWString();
-    return state.invalidChars == 0 && state.remainingChars == 0;
+    // What is not UTF-8 is decoded to other characters. The one in front keeps Qt from dropping a
+    // byte order mark.
+    const std::string guarded = '.' + bytes;
+    const QString decoded = QString::fromStdString(guarded);
+    text = decoded.mid(1).toStdWString();
+    return decoded.toStdString() == guarded;
 }
 
 void NameSource::add(const std::string& bytes, const std::string& place)

@@ -30,7 +30,7 @@ Shown show(const std::optional<std::wstring>& text)
         const QString visible = cells < 0 ? QStringLiteral("\\x%1").arg(int(ch), 2, 16, QChar('0'))
                                           : QString::fromWCharArray(&ch, 1);
         shown.bytes += visible.toStdString();
-        shown.cells += cells < 0 ? visible.size() : cells;
+        shown.cells += cells < 0 ? static_cast<int>(visible.size()) : cells;
     }
     return shown;
 }

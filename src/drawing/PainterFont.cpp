@@ -3,6 +3,8 @@
 // Fonts from their Windows description.
 #include <KtQtBase/drawing/Painter.h>
 
+#include "platform/QtVersion.h"
+
 #include <QtGui/QFont>
 #include <QtGui/QPainter>
 
@@ -34,7 +36,7 @@ void KtQtPainterWrapper::setFontIndirect(const LOGFONTW* lf)
     QFont font(familyOf(*lf), -1, -1, false);
     font.setStyle(lf->lfItalic ? QFont::StyleItalic : QFont::StyleNormal);
     if (lf->lfWeight != 0)
-        font.setWeight(lf->lfWeight / 10);
+        ktqtbase::platform::setFontWeight(font, lf->lfWeight / 10);
     font.setPixelSize(pixelSizeOf(*lf, m_pWrappedDevice->depth()));
     font.setFixedPitch(lf->lfPitchAndFamily == FIXED_PITCH);
     m_pPainter->setFont(font);

@@ -10,8 +10,9 @@ function(configure source build)
     execute_process(COMMAND ${CMAKE_COMMAND} -S ${source} -B ${build} -G ${GENERATOR}
         -DCMAKE_BUILD_TYPE=Debug
         -DCMAKE_CXX_COMPILER=${COMPILER}
-        -DCMAKE_CXX_FLAGS=-g0
-        -DQt5_DIR=${Qt5_DIR}
+        "-DCMAKE_CXX_FLAGS=${BUILDERS_FLAGS} -g0"
+        -DKTQTBASE_QT_MAJOR=${QT_MAJOR}
+        -DQt${QT_MAJOR}_DIR=${QT_DIR}
         ${ARGN} COMMAND_ERROR_IS_FATAL ANY)
 endfunction()
 

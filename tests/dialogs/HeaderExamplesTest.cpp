@@ -63,8 +63,8 @@ TEST(MessagesHeader, ShowsTheExampleThatIsCompiledHere)
 {
     const QByteArray example = linesFrom(MESSAGES_HEADER, "//     ");
     const QByteArray compiled = linesFrom(HEADER_EXAMPLES, "    ");
-    const int body = example.indexOf("{\n");
-    const int end = example.indexOf("}\n");
+    const auto body = example.indexOf("{\n");
+    const auto end = example.indexOf("}\n");
     ASSERT_TRUE(0 < body && body < end) << example.toStdString();
     EXPECT_TRUE(compiled.contains(example.mid(body, end - body)));
     EXPECT_TRUE(compiled.contains("\n" + example.mid(end + 2))) << example.toStdString();

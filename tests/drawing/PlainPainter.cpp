@@ -2,6 +2,7 @@
 #include "drawing/PlainPainter.h"
 
 #include "drawing/Twin.h"
+#include "platform/QtVersion.h"
 
 #include <utility>
 
@@ -65,7 +66,7 @@ void PlainPainter::setFontIndirect(const LOGFONTW* lf)
     QFont font(QString::fromWCharArray(lf->lfFaceName));
     font.setItalic(lf->lfItalic != 0);
     if (lf->lfWeight != 0)
-        font.setWeight(lf->lfWeight / 10);
+        ktqtbase::platform::setFontWeight(font, lf->lfWeight / 10);
     font.setPixelSize(m_image->depth() * (lf->lfHeight > 0 ? lf->lfHeight : lf->lfWeight) / 36);
     font.setFixedPitch(lf->lfPitchAndFamily == 1);
     m_painter.setFont(font);

@@ -14,7 +14,7 @@ namespace {
 
 LPARAM placeOf(const QMouseEvent* event)
 {
-    return MAKELPARAM(event->x(), event->y());
+    return MAKELPARAM(event->pos().x(), event->pos().y());
 }
 
 } // namespace

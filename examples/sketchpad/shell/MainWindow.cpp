@@ -11,7 +11,7 @@
 #include <KtQtBase/WindowsFunctions.h>
 
 #include <QtGui/QCloseEvent>
-#include <QtWidgets/QActionGroup>
+#include <QActionGroup>
 #include <QtWidgets/QLabel>
 #include <QtWidgets/QMenuBar>
 #include <QtWidgets/QStatusBar>

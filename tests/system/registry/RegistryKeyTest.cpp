@@ -112,7 +112,7 @@ TEST_F(RegistryKey, KeepsAStringInTheGroupOfItsPath)
 {
     m_key.SetValue(L"7", L"Count");
     EXPECT_EQ(stored("Software\\App\\Options/Count"), QVariant(QString("7")));
-    EXPECT_EQ(stored("Software\\App\\Options/Count").type(), QVariant::String);
+    EXPECT_EQ(stored("Software\\App\\Options/Count").userType(), QMetaType::QString);
 }
 
 TEST_F(RegistryKey, PartsGroupsAtSlashes)
