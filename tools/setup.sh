@@ -3,39 +3,81 @@
 # The packages that the scripts of this project need, and how each platform's package manager finds
 # and installs them. Sourced, never run. Uses only what the bash 3.2 of macOS knows.
 
+# dnf comes after zypper, since openSUSE has both.
 package_manager() {
+    local manager known="apt-get zypper dnf pacman"
     if [ "$(uname -s)" = Darwin ]; then
-        echo brew
-    elif command -v apt-get >/dev/null; then
-        echo apt
-    else
-        echo none
+        known=brew
     fi
+    for manager in $known; do
+        if command -v "$manager" >/dev/null; then
+            echo "${manager%-get}"
+            return
+        fi
+    done
+    echo none
 }
 
-# The packages of one group (build, check or bench) under the names of this platform.
-packages() {
-    case "$(package_manager):$1" in
+# The packages of one group (build, check, bench, qt5 or qt6) under a package manager's names.
+named_packages() {
+    case "$1:$2" in
         # poppler-utils reads printed pages; the packages after it show the tests' windows on an
         # invisible display.
-        apt:build) echo build-essential cmake ninja-build pkg-config qtbase5-dev libgtest-dev \
-            libgmock-dev poppler-utils xvfb xauth openbox xdotool fonts-dejavu-core ;;
+        apt:build) echo build-essential cmake ninja-build pkg-config libgtest-dev libgmock-dev \
+            poppler-utils xvfb xauth openbox xdotool fonts-dejavu-core ;;
+        brew:build) echo cmake ninja pkg-config googletest poppler ;;
+        dnf:build) echo gcc-c++ cmake ninja-build pkgconf-pkg-config gtest-devel gmock-devel \
+            poppler-utils xorg-x11-server-Xvfb openbox xdotool dejavu-sans-fonts ;;
+        pacman:build) echo gcc cmake ninja pkgconf gtest poppler xorg-server-xvfb xorg-xauth \
+            openbox xdotool ttf-dejavu ;;
+        zypper:build) echo gcc-c++ cmake ninja pkg-config gtest gmock poppler-tools \
+            xorg-x11-server-Xvfb xauth openbox xdotool dejavu-fonts ;;
+        apt:qt5) echo qtbase5-dev ;;
+        brew:qt5) echo qt@5 ;;
+        dnf:qt5) echo qt5-qtbase-devel ;;
+        pacman:qt5) echo qt5-base ;;
+        zypper:qt5) echo libqt5-qtbase-devel ;;
+        apt:qt6) echo qt6-base-dev ;;
+        brew:qt6) echo qt ;;
+        dnf:qt6) echo qt6-qtbase-devel ;;
+        pacman:qt6) echo qt6-base ;;
+        zypper:qt6) echo qt6-base-devel ;;
         # The formatter's version is fixed, since each version formats some lines differently; so is
         # that of clang-tidy, since each version finds something new.
         apt:check) echo git clang clang-format-14 clang-tidy-14 libgnustep-gui-dev python3 reuse \
             unixodbc-dev ;;
-        brew:build) echo cmake ninja pkg-config qt@5 googletest poppler ;;
         apt:bench) echo libbenchmark-dev libboost-filesystem-dev libglib2.0-dev libinih-dev \
             libsimpleini-dev python3 ;;
         brew:bench) echo google-benchmark boost glib inih simpleini python3 ;;
     esac
 }
 
+qt_group() {
+    echo "qt${KTQTBASE_QT_MAJOR:-5}"
+}
+
+# The packages of one group; to build takes Qt, too.
+packages() {
+    named_packages "$1" "$2"
+    if [ "$2" = build ]; then
+        named_packages "$1" "$(qt_group)"
+    fi
+}
+
 is_installed() {
-    case "$(package_manager)" in
-        apt) dpkg-query -W -f '${Status}' "$1" 2>/dev/null | grep -q '^install ok installed' ;;
-        brew) brew list --versions "$1" >/dev/null 2>&1 ;;
+    case "$1" in
+        apt) dpkg-query -W -f '${Status}' "$2" 2>/dev/null | grep -q '^install ok installed' ;;
+        brew) brew list --versions "$2" >/dev/null 2>&1 ;;
+        dnf | zypper) rpm -q --whatprovides "$2" >/dev/null 2>&1 ;;
+        pacman) pacman -T "$2" >/dev/null 2>&1 ;;
+        none) false ;;
     esac
+}
+
+# sudo may ask for a password where there is a terminal to ask at.
+can_become_root() {
+    [ "$(id -u)" -eq 0 ] ||
+        { command -v sudo >/dev/null && { sudo -n true 2>/dev/null || tty -s; }; }
 }
 
 as_root() {
@@ -47,39 +89,106 @@ as_root() {
 }
 
 install_packages() {
-    case "$(package_manager)" in
+    local manager=$1
+    shift
+    echo "Installing: $*"
+    case "$manager" in
         apt)
-            as_root apt-get update
-            as_root env DEBIAN_FRONTEND=noninteractive \
-                apt-get install -y --no-install-recommends "$@"
+            as_root apt-get update &&
+                as_root env DEBIAN_FRONTEND=noninteractive \
+                    apt-get install -y --no-install-recommends "$@"
             ;;
         brew) brew install "$@" ;;
+    esac
+}
+
+# The command that installs packages, for the user to copy.
+install_command() {
+    local manager=$1 sudo=
+    shift
+    if [ "$(id -u)" -ne 0 ] && command -v sudo >/dev/null; then
+        sudo="sudo "
+    fi
+    case "$manager" in
+        apt) echo "${sudo}apt-get update && ${sudo}apt-get install --no-install-recommends $*" ;;
+        dnf) echo "${sudo}dnf install $*" ;;
+        pacman) echo "${sudo}pacman -S --needed $*" ;;
+        zypper) echo "${sudo}zypper install $*" ;;
+    esac
+}
+
+tell_what_is_missing() {
+    if [ "$1" = none ]; then
+        shift
+        echo "Needed here, with the names that Debian has for it:"
+        echo "    $*"
+    else
+        echo "Packages are missing, and only root can install them. As root, run:"
+        echo "    $(install_command "$@")"
+    fi >&2
+}
+
+has_one_of() {
+    local name
+    for name in "$@"; do
+        if command -v "$name" >/dev/null; then
+            return
+        fi
+    done
+    echo "Nothing can be built here without $1." >&2
+    return 1
+}
+
+# What no build can do without; CMake tells what else it misses.
+has_essentials() {
+    has_one_of "${CXX:-c++}" g++ clang++ && has_one_of cmake &&
+        has_one_of ninja ninja-build && has_one_of pkg-config pkgconf
+}
+
+# Installs packages where that is known to work, and else says what the user has to install.
+supply() {
+    case "$1" in
+        brew) install_packages "$@" ;;
+        apt)
+            if can_become_root; then
+                install_packages "$@"
+            else
+                tell_what_is_missing "$@"
+                return 1
+            fi
+            ;;
+        *)
+            tell_what_is_missing "$@"
+            has_essentials
+            ;;
     esac
 }
 
 # Homebrew installs Qt 5 outside the folders that CMake and pkg-config search by default.
 find_homebrew_qt() {
     local qt
-    qt=$(brew --prefix qt@5)
+    qt=$(brew --prefix "$(named_packages brew "$(qt_group)")")
     export CMAKE_PREFIX_PATH="$qt${CMAKE_PREFIX_PATH:+:$CMAKE_PREFIX_PATH}"
     export PKG_CONFIG_PATH="$qt/lib/pkgconfig${PKG_CONFIG_PATH:+:$PKG_CONFIG_PATH}"
 }
 
-# Installs the packages of one group that are not installed yet.
+# Sees to the packages of one group (build, check or bench) that are not installed yet. The build
+# group has Qt 5, or Qt 6 where KTQTBASE_QT_MAJOR is 6.
 setup() {
-    local package missing=()
-    if [ "$(package_manager)" = none ]; then
-        echo "No apt-get here: a compiler, CMake, Ninja, Qt 5.15 and GoogleTest must be there." >&2
-        return
+    local manager names package missing=()
+    manager=$(package_manager)
+    names=$(packages "$manager" "$1")
+    if [ -z "$names" ]; then
+        manager=none
+        names=$(packages apt "$1")
     fi
-    for package in $(packages "$1"); do
-        is_installed "$package" || missing+=("$package")
+    for package in $names; do
+        is_installed "$manager" "$package" || missing+=("$package")
     done
     if [ "${#missing[@]}" -gt 0 ]; then
-        echo "Installing: ${missing[*]}"
-        install_packages "${missing[@]}"
+        supply "$manager" "${missing[@]}" || return
     fi
-    if [ "$(package_manager)" = brew ]; then
+    if [ "$manager" = brew ]; then
         find_homebrew_qt
     fi
 }
