@@ -1,0 +1,387 @@
+#!/usr/bin/env bash
+# SPDX-License-Identifier: MIT
+# Checks what ./run does on a machine that is not like this one. Besides a few tools, every command
+# there is a fake one; those that would change something, or build, write down how they were called.
+#
+#     tests/tools/check-setup.sh CASE      CASE is one of the functions with a capital
+# shellcheck disable=SC2016 # the fake commands expand it
+set -euo pipefail
+project=$(cd "$(dirname "$0")/../.." && pwd)
+work=$(mktemp -d)
+trap 'rm -r "$work"' EXIT
+built="cmake --preset release
+cmake --build --preset release --parallel 2
+ctest --preset release --parallel 2"
+
+fake() {
+    printf '#!/bin/sh\n%s\n' "${2:-}" >"$work/bin/$1"
+    chmod +x "$work/bin/$1"
+}
+
+# A fake command that writes down how it was called.
+recorded() {
+    fake "$1" 'echo "${0##*/}${*:+ $*}" >>"$calls"
+'"${2:-}"
+}
+
+without() {
+    rm "$work/bin/$1"
+}
+
+# The packages that are not installed.
+lacks() {
+    printf '%s\n' "$@" >"$work/lacking"
+}
+
+# A machine with a compiler, CMake, Ninja and pkg-config, and somebody who is not root and has no
+# sudo.
+lay_out_machine() {
+    local tool
+    mkdir "$work/bin" "$work/project" "$work/project/tools"
+    cp "$project/run" "$work/project"
+    cp "$project/tools/setup.sh" "$work/project/tools"
+    for tool in bash cat chmod dirname env grep ls mkdir rm; do
+        ln -s "$(type -P "$tool")" "$work/bin/$tool"
+    done
+    for tool in c++ ninja pkg-config; do
+        fake "$tool"
+    done
+    recorded cmake
+    recorded ctest
+    fake getconf "echo 2"
+    fake id "echo 1000"
+    fake tty "exit 1"
+    fake uname "echo Linux"
+    lacks
+}
+
+# Runs a command line in the project, with no other environment than the variables in front of it.
+play() {
+    status=0
+    : >"$work/calls"
+    (cd "$work/project" && env -i PATH="$work/bin" HOME="$work/home" calls="$work/calls" \
+        lacking="$work/lacking" "$@") </dev/null >"$work/output" 2>&1 || status=$?
+}
+
+expect() {
+    if [ "$2" != "$3" ]; then
+        printf '%s is\n%s\nand should be\n%s\n' "$1" "$2" "$3" >&2
+        exit 1
+    fi
+}
+
+# What the last command line printed, what it called and how it ended.
+expect_end() {
+    expect "The output" "$(cat "$work/output")" "$1"
+    expect "What was called" "$(cat "$work/calls")" "$2"
+    expect "The exit status" "$status" "$3"
+}
+
+# Debian
+
+lay_out_debian() {
+    lay_out_machine
+    recorded apt-get
+    fake dpkg-query 'grep -qxF "$4" "$lacking" || echo "install ok installed"'
+}
+
+apt_message() {
+    echo "Packages are missing, and only root can install them. As root, run:
+    $1apt-get update && $1apt-get install --no-install-recommends $2"
+}
+
+InstallsWhatRootLacks() {
+    lay_out_debian
+    fake id "echo 0"
+    lacks xdotool qtbase5-dev
+    play ./run test
+    expect_end "Installing: xdotool qtbase5-dev" "apt-get update
+apt-get install -y --no-install-recommends xdotool qtbase5-dev
+$built" 0
+}
+
+InstallsThroughSudoWithoutAPassword() {
+    lay_out_debian
+    fake sudo '[ "$1" != -n ] || shift
+"$@"'
+    lacks cmake
+    play ./run test
+    expect_end "Installing: cmake" "apt-get update
+apt-get install -y --no-install-recommends cmake
+$built" 0
+}
+
+LetsSudoAskAtATerminal() {
+    lay_out_debian
+    fake sudo '[ "$1" != -n ] && "$@"'
+    fake tty
+    lacks cmake
+    play ./run test
+    expect_end "Installing: cmake" "apt-get update
+apt-get install -y --no-install-recommends cmake
+$built" 0
+}
+
+TellsWhatRootHasToInstall() {
+    lay_out_debian
+    fake tty
+    lacks xdotool qtbase5-dev
+    play ./run test
+    expect_end "$(apt_message "" "xdotool qtbase5-dev")" "" 1
+}
+
+TellsWhatSudoHasToInstallWithoutATerminal() {
+    lay_out_debian
+    fake sudo "echo 'sudo: a password is required' >&2; exit 1"
+    lacks cmake
+    play ./run demo
+    expect_end "$(apt_message "sudo " cmake)" "" 1
+}
+
+AsksForNothingWhereAllIsInstalled() {
+    lay_out_debian
+    recorded sudo
+    play ./run test
+    expect_end "" "$built" 0
+}
+
+StopsWhereThePackagesCannotBeFetched() {
+    lay_out_debian
+    fake id "echo 0"
+    recorded apt-get "exit 100"
+    lacks cmake
+    play ./run test
+    expect_end "Installing: cmake" "apt-get update" 100
+}
+
+InstallsQt6InPlaceOfQt5() {
+    lay_out_debian
+    fake id "echo 0"
+    lacks qtbase5-dev qt6-base-dev
+    play ./run test qt6
+    expect_end "Installing: qt6-base-dev" "apt-get update
+apt-get install -y --no-install-recommends qt6-base-dev
+${built//release/qt6}" 0
+}
+
+# Other distributions
+
+lay_out_distribution() {
+    lay_out_machine
+    recorded "$1"
+    fake rpm '! grep -qxF "$3" "$lacking"'
+    fake sudo "exit 1"
+}
+
+message() {
+    echo "Packages are missing, and only root can install them. As root, run:
+    $1"
+}
+
+NamesFedorasPackages() {
+    lay_out_distribution dnf
+    lacks gcc-c++ gmock-devel qt5-qtbase-devel
+    play ./run test
+    expect_end "$(message "sudo dnf install gcc-c++ gmock-devel qt5-qtbase-devel")" "$built" 0
+    lacks qt5-qtbase-devel qt6-qtbase-devel
+    play ./run test qt6
+    expect_end "$(message "sudo dnf install qt6-qtbase-devel")" "${built//release/qt6}" 0
+}
+
+NamesOpenSusesPackages() {
+    lay_out_distribution zypper
+    recorded dnf
+    lacks gmock libqt5-qtbase-devel
+    play ./run test
+    expect_end "$(message "sudo zypper install gmock libqt5-qtbase-devel")" "$built" 0
+    lacks libqt5-qtbase-devel qt6-base-devel
+    play ./run test qt6
+    expect_end "$(message "sudo zypper install qt6-base-devel")" "${built//release/qt6}" 0
+}
+
+NamesArchsPackages() {
+    lay_out_distribution pacman
+    fake pacman '[ "$1" = -T ] && ! grep -qxF "$2" "$lacking"'
+    lacks gtest qt5-base
+    play ./run test
+    expect_end "$(message "sudo pacman -S --needed gtest qt5-base")" "$built" 0
+    lacks qt5-base qt6-base
+    play ./run test qt6
+    expect_end "$(message "sudo pacman -S --needed qt6-base")" "${built//release/qt6}" 0
+}
+
+LeavesOutSudoWhereThereIsNone() {
+    lay_out_distribution dnf
+    without sudo
+    lacks openbox
+    play ./run test
+    expect_end "$(message "dnf install openbox")" "$built" 0
+}
+
+SaysNothingWhereTheDistributionHasAll() {
+    lay_out_distribution dnf
+    play ./run test
+    expect_end "" "$built" 0
+}
+
+StopsWithoutWhatEveryBuildNeeds() {
+    local name
+    lay_out_distribution dnf
+    lacks cmake
+    for name in c++ cmake ninja pkg-config; do
+        mv "$work/bin/$name" "$work/kept"
+        play ./run test
+        expect_end "$(message "sudo dnf install cmake")
+Nothing can be built here without $name." "" 1
+        mv "$work/kept" "$work/bin/$name"
+    done
+}
+
+KnowsTheOtherNamesOfWhatABuildNeeds() {
+    local name
+    lay_out_distribution dnf
+    lacks openbox
+    for name in c++:g++ c++:clang++ ninja:ninja-build pkg-config:pkgconf; do
+        mv "$work/bin/${name%:*}" "$work/bin/${name#*:}"
+        play ./run test
+        expect_end "$(message "sudo dnf install openbox")" "$built" 0
+        mv "$work/bin/${name#*:}" "$work/bin/${name%:*}"
+    done
+}
+
+expect_names_of_debian() {
+    expect "What was called" "$(cat "$work/calls")" "$2"
+    expect "The exit status" "$status" 0
+    expect "The output" "$(sed 's/^    .*/the names/' "$work/output")" \
+        "Needed here, with the names that Debian has for it:
+the names"
+    grep -qE "^    $1\$" "$work/output"
+}
+
+NamesDebiansPackagesToUnknownSystems() {
+    lay_out_machine
+    play KTQTBASE_QT_MAJOR=6 ./run test
+    expect_names_of_debian "build-essential cmake .* qt6-base-dev" "$built"
+}
+
+NamesDebiansPackagesForTheBenchmarks() {
+    lay_out_distribution dnf
+    printf '#!/bin/sh\n' >"$work/project/tools/bench.py"
+    chmod +x "$work/project/tools/bench.py"
+    play ./run bench
+    expect_names_of_debian "libbenchmark-dev .* python3" "cmake --preset bench
+cmake --build --preset bench --parallel 2"
+}
+
+# macOS
+
+lay_out_macos() {
+    lay_out_machine
+    fake uname "echo Darwin"
+    fake brew 'case "$1" in
+    list) ! grep -qxF "$3" "$lacking" ;;
+    --prefix) echo "/brew/$2" ;;
+    *) echo "brew $*" >>"$calls" ;;
+esac'
+    recorded cmake 'echo "$CMAKE_PREFIX_PATH $PKG_CONFIG_PATH" >>"$calls"; exit 1'
+}
+
+InstallsByHomebrewAndFindsItsQt() {
+    lay_out_macos
+    lacks ninja qt@5 qt
+    play ./run test
+    expect_end "Installing: ninja qt@5" "brew install ninja qt@5
+cmake --preset release
+/brew/qt@5 /brew/qt@5/lib/pkgconfig" 1
+}
+
+FindsHomebrewsQt6() {
+    lay_out_macos
+    lacks qt@5 qt
+    play CMAKE_PREFIX_PATH=/mine PKG_CONFIG_PATH=/mine/pc ./run test qt6
+    expect_end "Installing: qt" "brew install qt
+cmake --preset qt6
+/brew/qt:/mine /brew/qt/lib/pkgconfig:/mine/pc" 1
+}
+
+GoesOnWithoutHomebrew() {
+    lay_out_macos
+    without brew
+    recorded cmake
+    play ./run test
+    expect_names_of_debian "build-essential cmake .* qtbase5-dev" "$built"
+}
+
+# The display
+
+lay_out_demo() {
+    local examples="$work/project/build/release/examples"
+    lay_out_debian
+    fake timeout 'shift
+"$@"'
+    fake cmake
+    mkdir -p "$examples/nameinfo" "$examples/gallery" "$examples/sketchpad"
+    recorded sketchpad ': >session.png
+echo "platform: ${QT_QPA_PLATFORM:-from Qt}, key: $XAUTHORITY" >>"$calls"'
+    mv "$work/bin/sketchpad" "$examples/sketchpad"
+    cp "$work/bin/cmake" "$examples/nameinfo/nameinfo"
+    cp "$work/bin/cmake" "$examples/gallery/gallery"
+}
+
+# What a session on the platform calls; the key is in the home of the user, not of the program.
+session() {
+    echo "sketchpad --script ../../examples/sketchpad/session.script
+platform: $1, key: ${2:-$work/home/.Xauthority}"
+}
+
+expect_session() {
+    expect "What was called" "$(cat "$work/calls")" "$(session "$@")"
+    expect "The exit status" "$status" 0
+}
+
+PlaysTheSessionOffscreenOnADeadDisplay() {
+    lay_out_demo
+    play DISPLAY=:987654.0 ./run demo
+    expect_session offscreen
+    fake xdotool "exit 1"
+    play DISPLAY=:987654 ./run demo
+    expect_session offscreen
+    fake xdotool
+    fake xdpyinfo "exit 1"
+    play DISPLAY=:987654 ./run demo
+    expect_session offscreen
+}
+
+PlaysTheSessionOffscreenWithoutADisplay() {
+    lay_out_demo
+    fake xdotool
+    play ./run demo
+    expect_session offscreen
+}
+
+PlaysTheSessionOnADisplayThatAnswers() {
+    lay_out_demo
+    fake xdotool
+    play DISPLAY=:987654 ./run demo
+    expect_session "from Qt"
+    fake xdpyinfo
+    play DISPLAY=:987654 XAUTHORITY=/a/key ./run demo
+    expect_session "from Qt" /a/key
+}
+
+OpensNoWindowOnADeadDisplay() {
+    lay_out_demo
+    fake xdotool "exit 1"
+    play DISPLAY=:987654 ./run demo --window
+    expect_end "No display answers here; ./run demo plays a session without one." "" 1
+}
+
+OpensAWindowOnADisplayThatAnswers() {
+    lay_out_demo
+    fake xdotool
+    play DISPLAY=:987654 ./run demo --window
+    expect_end "" "sketchpad
+platform: from Qt, key: $work/home/.Xauthority" 0
+}
+
+"$1"
