@@ -18,7 +18,7 @@ package_manager() {
     echo none
 }
 
-# The packages of one group (build, check, bench, qt5 or qt6) under a package manager's names.
+# The packages of one group (build, check, bench, qt5, qt6, clang or libcxx) under a package manager's names.
 named_packages() {
     case "$1:$2" in
         # poppler-utils reads printed pages; the packages after it show the tests' windows on an
@@ -42,6 +42,8 @@ named_packages() {
         dnf:qt6) echo qt6-qtbase-devel ;;
         pacman:qt6) echo qt6-base ;;
         zypper:qt6) echo qt6-base-devel ;;
+        apt:clang) echo clang ;;
+        apt:libcxx) echo clang libc++-dev libc++abi-dev googletest ;;
         # The formatter's version is fixed, since each version formats some lines differently; so is
         # that of clang-tidy, since each version finds something new.
         apt:check) echo git clang clang-format-14 clang-tidy-14 libgnustep-gui-dev python3 reuse \

@@ -150,7 +150,7 @@ public:
     std::uintptr_t m_nSelectedCount = 0; // also the position where a walk begins
     QStringList m_listSelectedFiles;
     QString m_strSelectedNameFilter;
-    OPENFILENAMEW m_ofn = {};
+    OPENFILENAMEW m_ofn; // zero at first, also between its members
 };
 
 #include <KtQtBase/windows/HostMacros.h> // gives them back

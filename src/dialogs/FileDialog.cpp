@@ -6,6 +6,7 @@
 
 #include <QtCore/QFileInfo>
 
+#include <cstring>
 #include <utility>
 
 namespace {
@@ -91,6 +92,8 @@ KtQtFileDialog::KtQtFileDialog(bool bOpenFileDialog, const wchar_t* lpszDefExt,
                                CWnd* pParentWnd, unsigned int, bool)
     : m_pParentWnd(pParentWnd), m_strFilter(toQt(lpszFilter))
 {
+    // An empty initialiser need not zero what lies between the members.
+    std::memset(&m_ofn, 0, sizeof m_ofn);
     m_attri.m_nAcceptMode = bOpenFileDialog ? QFileDialog::AcceptOpen : QFileDialog::AcceptSave;
     m_attri.m_strDefaultExt = toQt(lpszDefExt);
     m_attri.m_strFileName = toQt(lpszFileName);
