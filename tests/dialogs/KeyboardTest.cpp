@@ -4,10 +4,10 @@
 // manager.
 #include "dialogs/FileDialogFixture.h"
 #include "support/RowName.h"
+#include "support/RunProgram.h"
 
 #include <KtQtBase/Messages.h>
 
-#include <QtCore/QProcess>
 #include <QtWidgets/QMessageBox>
 
 namespace {
@@ -18,7 +18,7 @@ using ktqtbase::test::RowName;
 void typeAway(QDialog& dialog, const QStringList& command)
 {
     const QPointer<QDialog> shown(&dialog);
-    EXPECT_EQ(QProcess::execute(QStringLiteral(XDOTOOL), command), 0);
+    EXPECT_EQ(runProgram(XDOTOOL, command).status, 0);
     EXPECT_TRUE(QTest::qWaitFor([&shown] { return !shown || !shown->isVisible(); }, 10000));
 }
 

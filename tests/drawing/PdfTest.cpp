@@ -2,9 +2,9 @@
 //
 // A document of two pages, printed to PDF, drawn by another program and compared with the screen.
 #include "drawing/Twin.h"
+#include "support/RunProgram.h"
 
 #include <QtCore/QMarginsF>
-#include <QtCore/QProcess>
 #include <QtCore/QTemporaryDir>
 #include <QtGui/QPageSize>
 #include <QtGui/QPdfWriter>
@@ -81,13 +81,11 @@ protected:
     void SetUp() override
     {
         print(folder.filePath(QStringLiteral("document.pdf")));
-        const int status = QProcess::execute(QStringLiteral("pdftoppm"),
-                                             {QStringLiteral("-r"), QStringLiteral("72"),
-                                              QStringLiteral("-aaVector"), QStringLiteral("no"),
-                                              QStringLiteral("-png"),
-                                              folder.filePath(QStringLiteral("document.pdf")),
-                                              folder.filePath(QStringLiteral("page"))});
-        ASSERT_EQ(status, 0) << "pdftoppm must be installed";
+        const ProgramResult result =
+            runProgram("pdftoppm", {"-r", "72", "-aaVector", "no", "-png",
+                                    folder.filePath(QStringLiteral("document.pdf")),
+                                    folder.filePath(QStringLiteral("page"))});
+        ASSERT_EQ(result.status, 0) << "pdftoppm must be installed";
     }
 
     QImage page(int number)

@@ -4,7 +4,8 @@
 #ifndef KTQTBASE_TESTS_SUPPORT_RUNPROGRAM_H
 #define KTQTBASE_TESTS_SUPPORT_RUNPROGRAM_H
 
-#include <QtCore/QProcess>
+#include "support/ChildProcess.h"
+
 #include <QtCore/QStringList>
 
 #include <string>
@@ -20,16 +21,16 @@ struct ProgramResult
 inline ProgramResult runProgram(const char* program, const QStringList& arguments,
                                 const QByteArray& input = QByteArray())
 {
-    QProcess process;
-    process.start(QString::fromLocal8Bit(program), arguments);
-    process.write(input);
-    process.closeWriteChannel();
-    const bool ended = process.waitForFinished(60000);
+    ChildProcess process;
     ProgramResult result;
-    if (ended && process.exitStatus() == QProcess::NormalExit)
-        result.status = process.exitCode();
-    result.out = process.readAllStandardOutput().toStdString();
-    result.err = process.readAllStandardError().toStdString();
+    if (!process.start(QString::fromLocal8Bit(program), arguments))
+        return result;
+    process->write(input);
+    process->closeWriteChannel();
+    if (process->waitForFinished(60000) && process->exitStatus() == QProcess::NormalExit)
+        result.status = process->exitCode();
+    result.out = process->readAllStandardOutput().toStdString();
+    result.err = process->readAllStandardError().toStdString();
     return result;
 }
 

@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: MIT
 #include "Host.h"
 
+#include "support/ChildProcess.h"
+
 namespace fs = std::filesystem;
 
 namespace {
@@ -52,15 +54,14 @@ void Host::prepare(QProcess& process, const QStringList& arguments) const
 SessionResult Host::play(const std::string& script)
 {
     writeFile("script", script);
-    QProcess process;
-    prepare(process, {"--script", "script"});
-    process.start();
+    ChildProcess process;
+    prepare(*process, {"--script", "script"});
     SessionResult result;
-    if (process.waitForFinished(30000) && process.exitStatus() == QProcess::NormalExit)
-        result.status = process.exitCode();
-    process.kill();
-    process.waitForFinished();
-    result.out = process.readAllStandardOutput().toStdString();
-    result.err = process.readAllStandardError().toStdString();
+    if (process.start() && process->waitForFinished(30000) &&
+        process->exitStatus() == QProcess::NormalExit)
+        result.status = process->exitCode();
+    process.end();
+    result.out = process->readAllStandardOutput().toStdString();
+    result.err = process->readAllStandardError().toStdString();
     return result;
 }

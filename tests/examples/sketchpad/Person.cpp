@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: MIT
 #include "Person.h"
 
+#include "support/RunProgram.h"
+
 #include <QtCore/QElapsedTimer>
 #include <QtCore/QRect>
 #include <QtCore/QThread>
@@ -16,10 +18,8 @@ constexpr int kMoveSteps = 4;
 
 QString xdotool(const QStringList& arguments)
 {
-    QProcess process;
-    process.start(QStringLiteral(XDOTOOL), arguments);
-    process.waitForFinished(kPatience);
-    return QString::fromUtf8(process.readAllStandardOutput()).trimmed();
+    const std::string said = runProgram(XDOTOOL, arguments).out;
+    return QString::fromStdString(said).trimmed();
 }
 
 QStringList place(const QPoint& point)
@@ -39,17 +39,10 @@ int valueIn(const QString& shell, const QString& name)
 
 Person::Person(const Host& host, const QStringList& arguments)
 {
-    host.prepare(m_program, arguments);
-    m_program.setProcessChannelMode(QProcess::ForwardedErrorChannel);
-    m_program.start();
-    if (waitForTitle(" - Sketchpad"))
+    host.prepare(*m_program, arguments);
+    m_program->setProcessChannelMode(QProcess::ForwardedErrorChannel);
+    if (m_program.start() && waitForTitle(" - Sketchpad"))
         m_window = xdotool({"getactivewindow"});
-}
-
-Person::~Person()
-{
-    m_program.kill();
-    m_program.waitForFinished(kPatience);
 }
 
 bool Person::waitFor(const std::function<bool()>& condition)
@@ -76,7 +69,7 @@ bool Person::waitForTitle(const QString& end) const
 
 bool Person::waitForEnd(int status)
 {
-    return m_program.waitForFinished(kPatience) && m_program.exitCode() == status;
+    return m_program->waitForFinished(kPatience) && m_program->exitCode() == status;
 }
 
 void Person::press(const QString& keys) const

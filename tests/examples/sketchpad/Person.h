@@ -5,6 +5,7 @@
 #define KTQTBASE_TESTS_EXAMPLES_SKETCHPAD_PERSON_H
 
 #include "Host.h"
+#include "support/ChildProcess.h"
 
 #include <QtCore/QPoint>
 #include <QtGui/QPixmap>
@@ -16,8 +17,6 @@ class Person
 public:
     // Starts the program and waits for its window to be active.
     explicit Person(const Host& host, const QStringList& arguments = QStringList());
-    // Kills the program if it still runs.
-    ~Person();
 
     // Each result says whether it happened within some seconds.
     static bool waitFor(const std::function<bool()>& condition);
@@ -39,7 +38,7 @@ public:
     static QString activeTitle();
 
 private:
-    QProcess m_program;
+    ChildProcess m_program; // killed at the end if it still runs
     QString m_window;
 };
 

@@ -2,6 +2,7 @@
 //
 // Sessions by script, without a display.
 #include "Host.h"
+#include "support/ChildProcess.h"
 
 #include <gmock/gmock.h>
 
@@ -185,12 +186,11 @@ TEST(SketchpadDefaults, KeepToWhatAPenMayBe)
 TEST(SketchpadScript, IsRefusedWhereItCannotBeRead)
 {
     const Host host;
-    QProcess process;
-    host.prepare(process, {"--script", "none"});
-    process.start();
-    ASSERT_TRUE(process.waitForFinished());
-    EXPECT_EQ(process.exitCode(), 2);
-    EXPECT_THAT(process.readAllStandardError().toStdString(), HasSubstr("none cannot be read"));
+    ChildProcess process;
+    host.prepare(*process, {"--script", "none"});
+    ASSERT_TRUE(process.start() && process->waitForFinished());
+    EXPECT_EQ(process->exitCode(), 2);
+    EXPECT_THAT(process->readAllStandardError().toStdString(), HasSubstr("none cannot be read"));
 }
 
 TEST(SketchpadScript, FailsWithAnUnknownCommandAndWithALeftoverAnswer)

@@ -1,0 +1,60 @@
+// SPDX-License-Identifier: MIT
+//
+// A program that a test starts.
+//
+// Where Qt 5 cannot start a process it takes it for process -1, and QProcess::kill and ~QProcess
+// then signal every process of the user. So no test uses QProcess but by this class.
+#ifndef KTQTBASE_TESTS_SUPPORT_CHILDPROCESS_H
+#define KTQTBASE_TESTS_SUPPORT_CHILDPROCESS_H
+
+#include <QtCore/QProcess>
+
+class ChildProcess
+{
+public:
+    ChildProcess() : m_process(new QProcess) {}
+    ChildProcess(const ChildProcess&) = delete;
+    ChildProcess& operator=(const ChildProcess&) = delete;
+
+    // Kills the program if it still runs.
+    ~ChildProcess()
+    {
+        end();
+        // One that never started is left alone.
+        if (m_process->state() == QProcess::NotRunning)
+            delete m_process;
+    }
+
+    QProcess* operator->() const { return m_process; }
+    QProcess& operator*() const { return *m_process; }
+
+    // Starts a program, or the one that was set up before. Result: whether there is a process for it.
+    bool start(const QString& program, const QStringList& arguments)
+    {
+        m_process->setProgram(program);
+        m_process->setArguments(arguments);
+        return start();
+    }
+
+    bool start()
+    {
+        m_process->start();
+        return isThere();
+    }
+
+    // Kills the program if it still runs.
+    void end()
+    {
+        if (!isThere())
+            return;
+        m_process->kill();
+        m_process->waitForFinished();
+    }
+
+private:
+    bool isThere() const { return m_process->processId() > 0; }
+
+    QProcess* m_process;
+};
+
+#endif
