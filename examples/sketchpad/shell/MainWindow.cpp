@@ -10,8 +10,8 @@
 
 #include <KtQtBase/WindowsFunctions.h>
 
-#include <QtGui/QCloseEvent>
 #include <QActionGroup>
+#include <QtGui/QCloseEvent>
 #include <QtWidgets/QLabel>
 #include <QtWidgets/QMenuBar>
 #include <QtWidgets/QStatusBar>
