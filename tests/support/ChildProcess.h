@@ -9,6 +9,8 @@
 
 #include <QtCore/QProcess>
 
+#include <vector>
+
 class ChildProcess
 {
 public:
@@ -20,9 +22,10 @@ public:
     ~ChildProcess()
     {
         end();
-        // One that never started is left alone.
         if (m_process->state() == QProcess::NotRunning)
             delete m_process;
+        else
+            neverStarted().push_back(m_process);
     }
 
     QProcess* operator->() const { return m_process; }
@@ -53,6 +56,13 @@ public:
 
 private:
     bool isThere() const { return m_process->processId() > 0; }
+
+    // They are never deleted, and kept where a search for leaks finds them.
+    static std::vector<QProcess*>& neverStarted()
+    {
+        static auto& processes = *new std::vector<QProcess*>;
+        return processes;
+    }
 
     QProcess* m_process;
 };
