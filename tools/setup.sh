@@ -18,7 +18,8 @@ package_manager() {
     echo none
 }
 
-# The packages of one group (build, check, bench, qt5, qt6, clang or libcxx) under a package manager's names.
+# The packages of one group (build, check, bench, qt5, qt6, clang or libcxx) under a package
+# manager's names.
 named_packages() {
     case "$1:$2" in
         # poppler-utils reads printed pages; the packages after it show the tests' windows on an
@@ -174,8 +175,8 @@ find_homebrew_qt() {
     export PKG_CONFIG_PATH="$qt/lib/pkgconfig${PKG_CONFIG_PATH:+:$PKG_CONFIG_PATH}"
 }
 
-# Sees to the packages of one group (build, check or bench) that are not installed yet. The build
-# group has Qt 5, or Qt 6 where KTQTBASE_QT_MAJOR is 6.
+# Sees to the packages of one group that are not installed yet. The build group has Qt 5, or Qt 6
+# where KTQTBASE_QT_MAJOR is 6.
 setup() {
     local manager names package missing=()
     manager=$(package_manager)

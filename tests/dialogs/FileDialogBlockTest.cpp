@@ -147,6 +147,26 @@ TEST_F(FileDialogBlock, LetsTheFolderWinOverTheFilesOwn)
     });
 }
 
+TEST_F(FileDialogBlock, KeepsTheFoldersOfOtherNames)
+{
+    const struct
+    {
+        const wchar_t* name;
+        const char* shown;
+    } rows[] = {{L"sub/new.txt", "sub/new.txt"},
+                {L"../other/new.txt", "../other/new.txt"},
+                {L"/no/such/folder/new.txt", "no/such/folder/new.txt"}};
+    for (const auto& row : rows) {
+        KtQtFileDialog dialog(false);
+        fill(dialog);
+        std::wstring name = row.name;
+        dialog.GetOFN().lpstrFile = &name[0];
+        look(dialog, [&row](QFileDialog& shown) {
+            EXPECT_EQ(nameEdit(shown)->text(), QString::fromLatin1(row.shown));
+        });
+    }
+}
+
 TEST_F(FileDialogBlock, ReadsTheFilterUpToItsFirstNul)
 {
     KtQtFileDialog dialog(true);

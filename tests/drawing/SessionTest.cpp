@@ -264,6 +264,22 @@ TEST(EndDraw, WithoutADeviceIsFalseAndLeavesTheSessionOpen)
     EXPECT_FALSE(painter.wrappedPainter()->isActive());
 }
 
+TEST(BeginDraw, GoesOnWithAnOpenSessionAndItsDefaults)
+{
+    QImage image = drawing::ground();
+    KtQtPainterWrapper painter(&image);
+    EXPECT_TRUE(painter.beginDraw());
+    painter.setPen(PS_SOLID, 9, 0x000000FF);
+    painter.setBrush(0x000000FFu);
+    painter.wrappedPainter()->setClipRect(0, 0, 5, 5);
+    EXPECT_TRUE(painter.beginDraw());
+    EXPECT_EQ(painter.getPen(), QPen(QBrush(Qt::black), 0, Qt::SolidLine));
+    EXPECT_EQ(painter.getBrush(), QBrush(Qt::black, Qt::SolidPattern));
+    painter.drawPoint(1, 1);
+    EXPECT_TRUE(painter.endDraw());
+    EXPECT_EQ(image.pixelColor(1, 1), QColor(Qt::black));
+}
+
 TEST(EndDraw, EndsASessionThatWasBegunTwice)
 {
     QImage image = drawing::ground();

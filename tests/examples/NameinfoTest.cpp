@@ -139,6 +139,11 @@ TEST(Nameinfo, NamesALineThatIsNoUtf8AndAnswersTheOthers)
     EXPECT_EQ(lineCount(result.out), 3);
 }
 
+TEST(Nameinfo, TakesAByteOrderMarkForALetter)
+{
+    EXPECT_EQ(answerFor({QChar(0xFEFF) + QStringLiteral("/tmp")}, "category"), "relative");
+}
+
 TEST(Nameinfo, RefusesANulByte)
 {
     const QTemporaryDir folder;
