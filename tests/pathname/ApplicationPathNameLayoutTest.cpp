@@ -1,49 +1,52 @@
 // SPDX-License-Identifier: MIT
 //
-// The binary interface of the application's path name, by the C++ ABI of x86-64. Hosts are compiled
-// against it.
+// The binary interface of the application's path name. Hosts are compiled against it.
 #include <KtQtBase/PathName.h>
+
+#include "support/VirtualTable.h"
 
 #include <gtest/gtest.h>
 
-#include <cstddef>
-#include <cstring>
+#include <string>
 #include <type_traits>
 
 namespace {
 
+using ktqtbase::test::callSlot;
+
 static_assert(sizeof(CRnUiPathname) == sizeof(CRbUiPathname));
 static_assert(!std::has_virtual_destructor_v<CRnUiPathname>);
 
-// A pointer to a virtual member function holds 1 plus the offset of its slot.
-template<class Function>
-std::ptrdiff_t slotOf(Function function)
-{
-    std::ptrdiff_t word = 0;
-    std::memcpy(&word, &function, sizeof(word));
-    return (word - 1) / static_cast<std::ptrdiff_t>(sizeof(void*));
-}
-
-using Application = CRnUiPathname;
-using AssignBase = void (Application::*)(const CRbUiPathname&);
-using AssignApplication = void (Application::*)(const CRnUiPathname&);
-
-class ExtendedName : public CRnUiPathname
+// Tells which of its functions was called. It has one more than its base class.
+class RecordingName : public CRnUiPathname
 {
 public:
-    virtual void next() {}
+    std::string called;
+
+    int Parse(const wchar_t*, bool) override
+    {
+        called = "Parse";
+        return 0;
+    }
+    void AssignCopy(const CRbUiPathname&) override { called = "AssignCopy of a base"; }
+    void AssignCopy(const CRnUiPathname&) override { called = "AssignCopy of this class"; }
+    virtual void next() { called = "next"; }
 };
 
+// No other function is virtual, since the one that the derived class adds comes fourth.
 TEST(ApplicationPathSlots, FollowTheDeclaredOrder)
 {
-    EXPECT_EQ(slotOf(&Application::Parse), 0);
-    EXPECT_EQ(slotOf(static_cast<AssignBase>(&Application::AssignCopy)), 1);
-    EXPECT_EQ(slotOf(static_cast<AssignApplication>(&Application::AssignCopy)), 2);
-}
-
-TEST(ApplicationPathSlots, EndAfterTheLastFunction)
-{
-    EXPECT_EQ(slotOf(&ExtendedName::next), 3);
+    RecordingName name;
+    const CRbUiPathname base;
+    const CRnUiPathname application;
+    callSlot<int, const wchar_t*, bool>(name, 0, L"a", true);
+    EXPECT_EQ(name.called, "Parse");
+    callSlot<void, const CRbUiPathname&>(name, 1, base);
+    EXPECT_EQ(name.called, "AssignCopy of a base");
+    callSlot<void, const CRnUiPathname&>(name, 2, application);
+    EXPECT_EQ(name.called, "AssignCopy of this class");
+    callSlot<void>(name, 3);
+    EXPECT_EQ(name.called, "next");
 }
 
 } // namespace

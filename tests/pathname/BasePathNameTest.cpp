@@ -3,6 +3,7 @@
 // The object itself: its layout, its life and its copies.
 #include "pathname/PathTestSupport.h"
 #include "support/RowName.h"
+#include "support/VirtualTable.h"
 
 #include <KtQtBase/PathName.h>
 
@@ -11,10 +12,12 @@
 #include <cstddef>
 #include <cstring>
 #include <new>
+#include <string>
 #include <type_traits>
 
 namespace {
 
+using ktqtbase::test::callSlot;
 using ktqtbase::test::chars;
 using ktqtbase::test::RecordingVolume;
 using ktqtbase::test::RowName;
@@ -31,25 +34,38 @@ static_assert(PC_DRIVE == 0 && PC_UNC == 1 && PC_ROOTED == 2 && PC_RELATIVE == 3
 static_assert(PT_NONE == 0 && PT_NOT_FOUND == 1 && PT_WILDCARD == 2 && PT_FILE == 3 &&
               PT_DIRECTORY == 4);
 
-// What a pointer to a virtual member holds in the C++ ABI of x86-64: 1 + 8 for each slot before it.
-template<class Member>
-std::ptrdiff_t virtualMark(Member member)
-{
-    std::ptrdiff_t mark;
-    std::memcpy(&mark, &member, sizeof mark);
-    return mark;
-}
-
 template<class Field>
 std::ptrdiff_t offsetOf(const CRbUiPathname& name, Field CRbUiPathname::*field)
 {
     return reinterpret_cast<const char*>(&(name.*field)) - reinterpret_cast<const char*>(&name);
 }
 
-TEST(PathNameLayout, HasParseAndAssignCopyInTheFirstTwoVirtualSlots)
+// Tells which of its functions was called. It has one more than its base class.
+class RecordingName : public CRbUiPathname
 {
-    EXPECT_EQ(virtualMark(&CRbUiPathname::Parse), 1);
-    EXPECT_EQ(virtualMark(&CRbUiPathname::AssignCopy), 9);
+public:
+    std::string called;
+
+    int Parse(const wchar_t*, bool) override
+    {
+        called = "Parse";
+        return 0;
+    }
+    void AssignCopy(const CRbUiPathname&) override { called = "AssignCopy"; }
+    virtual void next() { called = "next"; }
+};
+
+// No other function is virtual, since the one that the derived class adds comes third.
+TEST(PathNameLayout, HasParseAndAssignCopyInItsOnlyVirtualSlots)
+{
+    RecordingName name;
+    const CRbUiPathname other;
+    callSlot<int, const wchar_t*, bool>(name, 0, L"a", true);
+    EXPECT_EQ(name.called, "Parse");
+    callSlot<void, const CRbUiPathname&>(name, 1, other);
+    EXPECT_EQ(name.called, "AssignCopy");
+    callSlot<void>(name, 2);
+    EXPECT_EQ(name.called, "next");
 }
 
 TEST(PathNameLayout, HasItsFieldsInTheirOrder)

@@ -1,87 +1,115 @@
 // SPDX-License-Identifier: MIT
 //
-// The binary interface of the descriptor: its fields' places and its virtual functions' slots, by
-// the C++ ABI of x86-64. Hosts are compiled against both.
+// The binary interface of the descriptor: its fields' places and its virtual functions' slots. Hosts
+// are compiled against both.
 #include <KtQtBase/VolumeDescriptor.h>
 
+#include "support/VirtualTable.h"
 #include "volume/PlainVolume.h"
 
 #include <gtest/gtest.h>
 
 #include <cstddef>
-#include <cstring>
+#include <string>
 #include <type_traits>
 
 namespace {
 
+using ktqtbase::test::callSlot;
 using Text = CStdStr<wchar_t>;
 using Volume = CRbUiVolumeDescriptor;
 
-constexpr std::ptrdiff_t kNotVirtual = -1;
-
-// A pointer to a virtual member function holds 1 plus the offset of its slot.
-template<class Function>
-std::ptrdiff_t slotOf(Function function)
-{
-    std::ptrdiff_t words[2];
-    static_assert(sizeof(words) == sizeof(function));
-    std::memcpy(words, &function, sizeof(words));
-    const bool isVirtual = words[0] & 1;
-    return isVirtual ? (words[0] - 1) / static_cast<std::ptrdiff_t>(sizeof(void*)) : kNotVirtual;
-}
-
-using MatchWide = bool (Volume::*)(const wchar_t*, const Text*) const;
-using MatchText = bool (Volume::*)(const Text*, const Text*) const;
-
-// The destructor takes the first two slots: one only destroys, the other deletes as well.
-TEST(VolumeSlots, FollowTheDeclaredOrder)
-{
-    EXPECT_EQ(slotOf(&Volume::CheckReadOnly), 2);
-    EXPECT_EQ(slotOf(&Volume::ValidateFilename), 3);
-    EXPECT_EQ(slotOf(&Volume::ValidateSegment), 4);
-    EXPECT_EQ(slotOf(&Volume::IsCaseSensitive), 5);
-    EXPECT_EQ(slotOf(&Volume::PreservesCase), 6);
-    EXPECT_EQ(slotOf(&Volume::AllowsCaseSensitiveLookup), 7);
-    EXPECT_EQ(slotOf(&Volume::VolCase), 8);
-    EXPECT_EQ(slotOf(static_cast<MatchWide>(&Volume::VolMatch)), 9);
-    EXPECT_EQ(slotOf(static_cast<MatchText>(&Volume::VolMatch)), 10);
-    EXPECT_EQ(slotOf(&Volume::GetLocalName), 11);
-    EXPECT_EQ(slotOf(&Volume::GetVolFreeSpace), 12);
-    EXPECT_EQ(slotOf(&Volume::WillFit), 13);
-    EXPECT_EQ(slotOf(&Volume::VolumeValid), 14);
-}
-
-class ExtendedVolume : public PlainVolume
+// Tells which of its functions was called. It has one more than its base class.
+class RecordingVolume : public PlainVolume
 {
 public:
-    virtual void next() {}
+    using PlainVolume::PlainVolume;
+
+    mutable std::string called;
+
+    bool CheckReadOnly() const override { return record("CheckReadOnly"); }
+    bool ValidateFilename(const Text*, bool) const override { return record("ValidateFilename"); }
+    bool ValidateSegment(const Text*, bool) const override { return record("ValidateSegment"); }
+    bool IsCaseSensitive() const override { return record("IsCaseSensitive"); }
+    bool PreservesCase() const override { return record("PreservesCase"); }
+    bool AllowsCaseSensitiveLookup() const override { return record("AllowsCaseSensitiveLookup"); }
+    void VolCase(Text&) const override { record("VolCase"); }
+    bool VolMatch(const wchar_t*, const Text*) const override { return record("VolMatch wide"); }
+    bool VolMatch(const Text*, const Text*) const override { return record("VolMatch text"); }
+    const Text* GetLocalName() const override { return record("GetLocalName"), nullptr; }
+    unsigned int GetVolFreeSpace() const override { return record("GetVolFreeSpace"); }
+    bool WillFit(unsigned int) const override { return record("WillFit"); }
+    bool VolumeValid() const override { return record("VolumeValid"); }
+    virtual bool next() { return record("next"); }
+
+private:
+    bool record(const char* name) const
+    {
+        called = name;
+        return true;
+    }
 };
 
-// With this the destructor has the first two slots to itself.
-TEST(VolumeSlots, EndAfterTheLastFunction)
+// The destructor takes the first two slots: one only destroys, the other deletes as well. Since the
+// function that the derived class adds is in the slot behind the last one, no other is virtual.
+TEST(VolumeSlots, FollowTheDeclaredOrder)
 {
-    EXPECT_EQ(slotOf(&ExtendedVolume::next), 15);
+    RecordingVolume volume(L"C:");
+    const Text text;
+    Text changed;
+    const auto called = [&volume](std::size_t slot, auto... arguments) {
+        volume.called.clear();
+        callSlot<bool>(volume, slot, arguments...);
+        return volume.called;
+    };
+    EXPECT_EQ(called(2), "CheckReadOnly");
+    EXPECT_EQ(called(3, &text, true), "ValidateFilename");
+    EXPECT_EQ(called(4, &text, true), "ValidateSegment");
+    EXPECT_EQ(called(5), "IsCaseSensitive");
+    EXPECT_EQ(called(6), "PreservesCase");
+    EXPECT_EQ(called(7), "AllowsCaseSensitiveLookup");
+    callSlot<void, Text&>(volume, 8, changed);
+    EXPECT_EQ(volume.called, "VolCase");
+    EXPECT_EQ(called(9, L"a", &text), "VolMatch wide");
+    EXPECT_EQ(called(10, &text, &text), "VolMatch text");
+    callSlot<const Text*>(volume, 11);
+    EXPECT_EQ(volume.called, "GetLocalName");
+    callSlot<unsigned int>(volume, 12);
+    EXPECT_EQ(volume.called, "GetVolFreeSpace");
+    EXPECT_EQ(called(13, 1u), "WillFit");
+    EXPECT_EQ(called(14), "VolumeValid");
+    EXPECT_EQ(called(15), "next");
 }
 
-class ExtendedNtfsVolume : public CRbUiNTFSVolumeDescriptor
+class RecordingNtfsVolume : public CRbUiNTFSVolumeDescriptor
 {
 public:
     using CRbUiNTFSVolumeDescriptor::CRbUiNTFSVolumeDescriptor;
-    virtual void next() {}
+
+    mutable std::string called;
+
+    bool ValidateFilename(const Text*, bool) const override { return record("ValidateFilename"); }
+    bool ValidateSegment(const Text*, bool) const override { return record("ValidateSegment"); }
+    virtual bool next() { return record("next"); }
+
+private:
+    bool record(const char* name) const
+    {
+        called = name;
+        return true;
+    }
 };
 
 TEST(VolumeSlots, AreTheSameOfAnNtfsVolume)
 {
-    EXPECT_EQ(slotOf(&CRbUiNTFSVolumeDescriptor::ValidateFilename), 3);
-    EXPECT_EQ(slotOf(&CRbUiNTFSVolumeDescriptor::ValidateSegment), 4);
-    EXPECT_EQ(slotOf(&ExtendedNtfsVolume::next), 15);
-}
-
-TEST(VolumeSlots, ExcludeTheOtherMembers)
-{
-    EXPECT_EQ(slotOf(&Volume::GetConnectionName), kNotVirtual);
-    EXPECT_EQ(slotOf(&Volume::Find), kNotVirtual);
-    EXPECT_EQ(slotOf(&Volume::IsControl), kNotVirtual);
+    RecordingNtfsVolume volume(L"C:");
+    const Text text;
+    callSlot<bool, const Text*, bool>(volume, 3, &text, true);
+    EXPECT_EQ(volume.called, "ValidateFilename");
+    callSlot<bool, const Text*, bool>(volume, 4, &text, true);
+    EXPECT_EQ(volume.called, "ValidateSegment");
+    callSlot<bool>(volume, 15);
+    EXPECT_EQ(volume.called, "next");
 }
 
 TEST(VolumeFields, LieInTheDeclaredOrder)
