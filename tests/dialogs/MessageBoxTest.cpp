@@ -105,7 +105,7 @@ INSTANTIATE_TEST_SUITE_P(
                     TypeRow{"AllBits", 0xFFFFFFFF}),
     RowName());
 
-struct EndRow
+struct AnswerRow
 {
     const char* name;
     void (*end)(QMessageBox& box);
@@ -120,7 +120,7 @@ void pressAdded(QMessageBox& box)
     press(box, button);
 }
 
-class AfxMessageBoxEnd : public testing::TestWithParam<EndRow>
+class AfxMessageBoxEnd : public testing::TestWithParam<AnswerRow>
 {};
 
 TEST_P(AfxMessageBoxEnd, GivesTheWindowsResult)
@@ -131,25 +131,25 @@ TEST_P(AfxMessageBoxEnd, GivesTheWindowsResult)
 
 INSTANTIATE_TEST_SUITE_P(
     Buttons, AfxMessageBoxEnd,
-    testing::Values(EndRow{"Yes", [](QMessageBox& box) { press(box, QMessageBox::Yes); }, 6},
-                    EndRow{"No", [](QMessageBox& box) { press(box, QMessageBox::No); }, 7},
-                    EndRow{"Ok", pressAdded<QMessageBox::Ok>, 1},
-                    EndRow{"Cancel", pressAdded<QMessageBox::Cancel>, 2},
-                    EndRow{"Abort", pressAdded<QMessageBox::Abort>, 3},
-                    EndRow{"Retry", pressAdded<QMessageBox::Retry>, 4},
-                    EndRow{"Ignore", pressAdded<QMessageBox::Ignore>, 5},
-                    EndRow{"Close", pressAdded<QMessageBox::Close>, 3},
-                    EndRow{"YesToAll", pressAdded<QMessageBox::YesToAll>, 3}),
+    testing::Values(AnswerRow{"Yes", [](QMessageBox& box) { press(box, QMessageBox::Yes); }, 6},
+                    AnswerRow{"No", [](QMessageBox& box) { press(box, QMessageBox::No); }, 7},
+                    AnswerRow{"Ok", pressAdded<QMessageBox::Ok>, 1},
+                    AnswerRow{"Cancel", pressAdded<QMessageBox::Cancel>, 2},
+                    AnswerRow{"Abort", pressAdded<QMessageBox::Abort>, 3},
+                    AnswerRow{"Retry", pressAdded<QMessageBox::Retry>, 4},
+                    AnswerRow{"Ignore", pressAdded<QMessageBox::Ignore>, 5},
+                    AnswerRow{"Close", pressAdded<QMessageBox::Close>, 3},
+                    AnswerRow{"YesToAll", pressAdded<QMessageBox::YesToAll>, 3}),
     RowName());
 
 INSTANTIATE_TEST_SUITE_P(
     OtherWays, AfxMessageBoxEnd,
     testing::Values(
-        EndRow{"Return", [](QMessageBox& box) { QTest::keyClick(&box, Qt::Key_Return); }, 6},
-        EndRow{"Escape", [](QMessageBox& box) { QTest::keyClick(&box, Qt::Key_Escape); }, 7},
-        EndRow{"CloseButton", [](QMessageBox& box) { box.close(); }, 7},
-        EndRow{"Rejected", [](QMessageBox& box) { box.done(0); }, 3},
-        EndRow{"MinusOne", [](QMessageBox& box) { box.done(-1); }, 2}),
+        AnswerRow{"Return", [](QMessageBox& box) { QTest::keyClick(&box, Qt::Key_Return); }, 6},
+        AnswerRow{"Escape", [](QMessageBox& box) { QTest::keyClick(&box, Qt::Key_Escape); }, 7},
+        AnswerRow{"CloseButton", [](QMessageBox& box) { box.close(); }, 7},
+        AnswerRow{"Rejected", [](QMessageBox& box) { box.done(0); }, 3},
+        AnswerRow{"MinusOne", [](QMessageBox& box) { box.done(-1); }, 2}),
     RowName());
 
 TEST(AfxMessageBox, ShowsAnEmptyTextForNull)

@@ -29,7 +29,7 @@ void paintOn(KtGrQtDoubleBufferImage& buffer)
     buffer.repairFrontBuffer();
 }
 
-struct SizeRow
+struct CountedSizeRow
 {
     const char* name;
     int width;
@@ -37,7 +37,7 @@ struct SizeRow
     int bytesPerPixel;
 };
 
-const SizeRow kSizes[] = {
+const CountedSizeRow kSizes[] = {
     {"two images", 100, 50, 4}, {"no back image", 100, 50, 0},    {"rows too short", 100, 50, 3},
     {"no size", 0, 0, 4},       {"refused by Qt", 1 << 26, 1, 1}, {"not created", -1, 50, 4},
 };
@@ -61,7 +61,7 @@ TEST(AllocationCounter, SeesWhatIsHeld)
 TEST_F(DoubleBufferMemory, IsGivenBackByDestroyImages)
 {
     KtGrQtDoubleBufferImage buffer(&widget);
-    for (const SizeRow& row : kSizes)
+    for (const CountedSizeRow& row : kSizes)
         EXPECT_EQ(leftBy([&] {
                       buffer.createImages(row.width, row.height, row.bytesPerPixel);
                       paintOn(buffer);

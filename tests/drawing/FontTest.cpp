@@ -141,7 +141,7 @@ TEST_P(Font, WritesLikeThePlainFontOnEveryDepth)
             << row.name;
 }
 
-struct SizeRow
+struct FontSizeRow
 {
     const char* name;
     QImage::Format format;
@@ -150,7 +150,7 @@ struct SizeRow
     int pixels;
 };
 
-const SizeRow kSizes[] = {
+const FontSizeRow kFontSizes[] = {
     {"32 bits, 18", QImage::Format_ARGB32_Premultiplied, 18, 400, 16},
     {"32 bits, 19 is cut", QImage::Format_ARGB32_Premultiplied, 19, 400, 16},
     {"24 bits, 18", QImage::Format_RGB888, 18, 400, 12},
@@ -163,7 +163,7 @@ const SizeRow kSizes[] = {
 
 TEST(FontSize, IsDepthTimesHeightByThirtySixCut)
 {
-    for (const SizeRow& row : kSizes) {
+    for (const FontSizeRow& row : kFontSizes) {
         const LOGFONTW lf = record({row.name, row.height, row.weight, 0, 0});
         EXPECT_EQ(fontSetBy(lf, row.format).pixelSize(), row.pixels) << row.name;
     }

@@ -9,9 +9,6 @@
 
 namespace {
 
-POINT kSquare[] = {{10, 10}, {50, 10}, {50, 50}, {10, 50}};
-unsigned int kFour = 4;
-
 TEST(PrinterPainter, AddsNoFieldAndNoVirtualTable)
 {
     EXPECT_EQ(sizeof(KtQtPrinterPainter), sizeof(KtQtPainterWrapper));
@@ -129,7 +126,7 @@ TEST(PrinterPainter, DoesNotApplyTheStoredClip)
 {
     QImage image = drawing::ground();
     KtQtPrinterPainter painter(&image);
-    painter.setClipRegion(kSquare, &kFour, 1);
+    painter.setClipRegion(drawing::kSquare, &drawing::kFour, 1);
     EXPECT_TRUE(painter.wrappedPainter()->hasClipping());
     painter.setClipRect(QRect(), Qt::NoClip);
     painter.beginDraw();
@@ -158,7 +155,7 @@ TEST(PrinterPainter, DrawsThePlainPicture)
         KtQtPrinterPainter painter(&actual);
         painter.beginDraw();
         painter.setBrush(0x000000FFu);
-        painter.drawPolygon(kSquare, 4);
+        painter.drawPolygon(drawing::kSquare, 4);
         painter.endDraw();
     }
     QImage expected = drawing::ground();

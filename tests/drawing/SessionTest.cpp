@@ -8,9 +8,6 @@
 
 namespace {
 
-POINT kSquare[] = {{10, 10}, {50, 10}, {50, 50}, {10, 50}};
-unsigned int kFour = 4;
-
 TEST(Wrapper, StartsIdleWithoutDevicePathOrClip)
 {
     KtQtPainterWrapper painter;
@@ -46,7 +43,7 @@ TEST(Wrapper, InASessionTakesAnotherDeviceAndKeepsAllElse)
     QImage image = drawing::ground();
     QImage other = drawing::ground();
     KtQtPainterWrapper painter(&image);
-    painter.setClipRegion(kSquare, &kFour, 1);
+    painter.setClipRegion(drawing::kSquare, &drawing::kFour, 1);
     painter.beginPath();
     painter.beginDraw();
     painter.setPen(PS_DOT, 5, 0x000000FF);
@@ -162,7 +159,7 @@ TEST(BeginDraw, SavesBeforeItSetsTheDefaultsAndTheClip)
     QImage other = drawing::ground();
     const QPainter plain(&other);
     KtQtPainterWrapper painter(&image);
-    painter.setClipRegion(kSquare, &kFour, 1);
+    painter.setClipRegion(drawing::kSquare, &drawing::kFour, 1);
     painter.beginDraw();
     EXPECT_TRUE(painter.wrappedPainter()->hasClipping());
     painter.restore();

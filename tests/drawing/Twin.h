@@ -20,6 +20,10 @@ namespace drawing {
 
 constexpr QImage::Format kScreen = QImage::Format_ARGB32_Premultiplied;
 
+// One polygon for setClipRegion: a square and the count of its corners.
+inline POINT kSquare[] = {{10, 10}, {50, 10}, {50, 50}, {10, 50}};
+inline unsigned int kFour = 4;
+
 using WrapperCalls = std::function<void(KtQtPainterWrapper&)>;
 using PlainCalls = std::function<void(QPainter&)>;
 

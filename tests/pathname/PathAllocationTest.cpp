@@ -38,8 +38,6 @@ protected:
     const ListedVolume m_volume{L"C:"};
 };
 
-} // namespace
-
 TEST_F(PathAllocation, LeavesNoEditHalfDone)
 {
     sweepAll({
@@ -333,3 +331,5 @@ TEST_F(PathAllocation, PassesThroughTheNamingRules)
         EXPECT_TRUE(m_volume.ValidateSegment(&name, true));
     }
 }
+
+} // namespace

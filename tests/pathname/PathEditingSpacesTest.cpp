@@ -3,7 +3,7 @@
 
 namespace {
 
-struct TextRow
+struct SpacesRow
 {
     const wchar_t* before;
     const wchar_t* after;
@@ -13,7 +13,7 @@ struct TextRow
 
 TEST(RemoveSpaces, TrimsTheStemOfTheLastComponent)
 {
-    for (const TextRow& row : std::initializer_list<TextRow>{
+    for (const SpacesRow& row : std::initializer_list<SpacesRow>{
              {L"dir/  name  .txt", L"dir/name.txt"},
              {L"dir/ name. txt", L"dir/name. txt"},
              {L"dir/ name .txt ", L"dir/name.txt "},

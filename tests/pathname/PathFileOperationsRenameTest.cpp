@@ -100,6 +100,8 @@ unsigned int GetFileAttributes(const wchar_t* name)
     return g_attributes;
 }
 
+namespace {
+
 TEST_F(Rename, WorksBetweenEnteringThePrefixAndComingBack)
 {
     HandMadePath name(PC_RELATIVE, L"a");
@@ -213,3 +215,5 @@ TEST_F(Status, AsksTheVolumesOwnClassWhetherItMayBeWritten)
         EXPECT_EQ(name.Status(), isReadOnly ? 3 : 15);
     }
 }
+
+} // namespace

@@ -122,7 +122,7 @@ void expectFilledAsAnother(const ObjectRow& object, const FillRow& row, Field fi
 
 // ---- Texts -------------------------------------------------------------------------------------
 
-struct TextRow
+struct OwnTextRow
 {
     const char* name;
     int (*use)(CRbUiPathname&, const wchar_t* text);
@@ -169,7 +169,7 @@ int rename(CRbUiPathname& path, const wchar_t* text)
     return path.Rename(text);
 }
 
-const TextRow kTexts[] = {
+const OwnTextRow kTexts[] = {
     {"Parse", parse},
     {"ParseRelative", parseInABase},
     {"ParseRelative, base itself", parseInItself},
@@ -186,7 +186,7 @@ const TextRow kTexts[] = {
 };
 
 // From every place in the field, its terminator among them.
-void expectUsedAsAnother(const ObjectRow& object, const TextRow& row, Field field)
+void expectUsedAsAnother(const ObjectRow& object, const OwnTextRow& row, Field field)
 {
     const std::wstring texts = *(OwnPath(object).*field);
     for (std::size_t place = 0; place <= texts.size(); ++place) {
@@ -218,7 +218,7 @@ TEST(OwnStrings, HoldTextsAsAnyOther)
     const ScratchFolder scratch;
     const WorkingFolder inside(scratch.path());
     for (const ObjectRow& object : kObjects) {
-        for (const TextRow& row : kTexts) {
+        for (const OwnTextRow& row : kTexts) {
             SCOPED_TRACE(testing::Message() << row.name << " on " << object.name);
             for (Field field : kFields)
                 expectUsedAsAnother(object, row, field);

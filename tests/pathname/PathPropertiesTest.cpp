@@ -115,8 +115,6 @@ int editAtRandom(RandomNames& random, CRbUiPathname& name, const wchar_t* text)
     }
 }
 
-} // namespace
-
 TEST_F(ParsedNames, AFullPathParsesToItself)
 {
     for (int round = 0; round < kRounds; ++round) {
@@ -363,3 +361,5 @@ TEST_F(HandMadeNames, AreValidWhereTheSlowReadingTakesThem)
     }
     EXPECT_GT(valid, kRounds / 8);
 }
+
+} // namespace

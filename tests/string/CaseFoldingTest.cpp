@@ -19,8 +19,10 @@ using ktqtbase::test::oddLocale;
 constexpr wchar_t kLeast = std::numeric_limits<wchar_t>::min();
 constexpr wchar_t kGreatest = std::numeric_limits<wchar_t>::max();
 
-// Values that are no code points.
-constexpr wchar_t kNoCodePoints[] = {kLeast, -2, -1, 0xD800, 0xDFFF, 0x110000, kGreatest};
+// Values that are no letters' code points, whether or not wchar_t has a sign.
+constexpr wchar_t kMinusOne = static_cast<wchar_t>(-1);
+constexpr wchar_t kNoCodePoints[] = {kLeast, kMinusOne - 1, kMinusOne, 0xD800,
+                                     0xDFFF, 0x110000,      kGreatest};
 
 struct FoldRow
 {

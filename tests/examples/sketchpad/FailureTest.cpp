@@ -40,8 +40,6 @@ const CorruptRow kCorrupt[] = {
 class CorruptDocument : public testing::TestWithParam<CorruptRow>
 {};
 
-} // namespace
-
 TEST_P(CorruptDocument, IsRefusedWithAReasonAndTheDrawingStays)
 {
     Host host;
@@ -173,3 +171,5 @@ TEST(SketchpadDefaults, AreBuiltInWhereTheIniFileIsMissing)
     EXPECT_EQ(result.status, 0) << result.err;
     EXPECT_THAT(result.err, HasSubstr("sketchpad.ini is missing or may not be written"));
 }
+
+} // namespace

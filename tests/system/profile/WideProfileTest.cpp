@@ -14,7 +14,7 @@
 
 namespace {
 
-constexpr wchar_t kPoison = L'\x5A5A';
+constexpr wchar_t kWidePoison = L'\x5A5A';
 
 struct WideAnswer
 {
@@ -27,13 +27,13 @@ struct WideAnswer
 WideAnswer read(const wchar_t* section, const wchar_t* key, const wchar_t* defaultText,
                 unsigned int size, const wchar_t* file)
 {
-    std::vector<wchar_t> area(1100, kPoison);
+    std::vector<wchar_t> area(1100, kWidePoison);
     const unsigned int count =
         GetPrivateProfileString(section, key, defaultText, area.data(), size, file);
     area.back() = L'\0';
     const std::wstring text = area.data();
     for (std::size_t at = text.size() + 1; at + 1 < area.size(); ++at) {
-        if (area[at] != kPoison)
+        if (area[at] != kWidePoison)
             ADD_FAILURE() << "written behind the text at " << at;
     }
     return {count, text};
@@ -94,9 +94,9 @@ TEST(GetPrivateProfileString, WritesNothingWithoutRoom)
 {
     ScratchProfile profile("[S]\nk=abcdef\n");
     const std::wstring file = profile.wideName();
-    wchar_t area[] = {kPoison};
+    wchar_t area[] = {kWidePoison};
     EXPECT_EQ(GetPrivateProfileString(L"S", L"k", L"", area, 0, file.c_str()), 0u);
-    EXPECT_EQ(area[0], kPoison);
+    EXPECT_EQ(area[0], kWidePoison);
     EXPECT_EQ(GetPrivateProfileString(L"S", L"k", L"", nullptr, 64, file.c_str()), 6u);
 }
 
@@ -253,8 +253,8 @@ TEST(WritePrivateProfileString, MakesNoFile)
 TEST(GetPrivateProfileSectionNames, TouchesNothing)
 {
     ScratchProfile profile("[S]\nk=5\n");
-    wchar_t area[] = {kPoison, kPoison};
+    wchar_t area[] = {kWidePoison, kWidePoison};
     EXPECT_EQ(GetPrivateProfileSectionNames(area, 2, profile.wideName().c_str()), 0u);
-    EXPECT_EQ(area[0], kPoison);
+    EXPECT_EQ(area[0], kWidePoison);
     EXPECT_EQ(GetPrivateProfileSectionNames(nullptr, 0, nullptr), 0u);
 }

@@ -97,8 +97,6 @@ private:
     QtMessageHandler m_former;
 };
 
-} // namespace
-
 TEST_F(RegistryKey, ReadsBackWhatItSet)
 {
     EXPECT_EQ(m_key.SetValue(L"7", L"Count"), 0u);
@@ -376,3 +374,5 @@ TEST(RegistryKeyType, HoldsTwoPointersAndIsNotCopied)
     EXPECT_FALSE(std::is_polymorphic_v<CRegKey>);
     EXPECT_FALSE(std::is_copy_constructible_v<CRegKey>);
 }
+
+} // namespace

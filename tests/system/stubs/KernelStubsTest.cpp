@@ -39,8 +39,6 @@ protected:
 int g_object = 0;
 void* const kHandle = &g_object;
 
-} // namespace
-
 TEST(CloseHandle, ReturnsZero)
 {
     EXPECT_EQ(CloseHandle(kHandle), 0);
@@ -290,3 +288,5 @@ TEST(SetLastError, LeavesErrno)
     KtKernel32::SetLastError(ERROR_ACCESS_DENIED);
     EXPECT_EQ(errno, ENOENT);
 }
+
+} // namespace

@@ -8,8 +8,8 @@
 
 namespace {
 
-int g_object = 0;
-void* const kPrinter = &g_object;
+int g_printer = 0;
+void* const kPrinter = &g_printer;
 wchar_t g_name[] = L"Office printer";
 
 } // namespace
