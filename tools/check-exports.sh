@@ -11,7 +11,7 @@ list=$(dirname "$0")/../tests/exports/exported-symbols.txt
 # Templates of the standard library and of Qt are visible by themselves, so those that the compiler
 # did not inline appear as weak symbols. Classes that begin with QKt belong to this library.
 is_foreign='^([^(<]* )?(std::|__gnu_cxx::|operator (new|delete)|Q[A-JL-Zt]|QK[a-su-z]|q[A-Zt])'
-is_toolchain='^(_init|_fini|__bss_start|_edata|_end|__asan_|__ubsan_|__odr_asan)'
+is_toolchain='^(_init|_fini|__bss_start|_edata|_end|__end__|__?bss_end__|__asan_|__ubsan_|__odr_asan)'
 
 exported_symbols() {
     nm -D --defined-only -C "$1/src/libKtQtBase.so" |

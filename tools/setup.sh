@@ -18,7 +18,7 @@ package_manager() {
     echo none
 }
 
-# The packages of one group (build, check, bench, qt5, qt6, clang or libcxx) under a package
+# The packages of one group (build, check, bench, qt5, qt6, clang, libcxx or arm64) under a package
 # manager's names.
 named_packages() {
     case "$1:$2" in
@@ -45,6 +45,8 @@ named_packages() {
         zypper:qt6) echo qt6-base-devel ;;
         apt:clang) echo clang ;;
         apt:libcxx) echo clang libc++-dev libc++abi-dev googletest ;;
+        apt:arm64) echo qemu-user-static g++-aarch64-linux-gnu qtbase5-dev:arm64 \
+            libgtest-dev:arm64 libgmock-dev:arm64 ;;
         # The formatter's version is fixed, since each version formats some lines differently; so is
         # that of clang-tidy, since each version finds something new.
         apt:check) echo git clang clang-format-14 clang-tidy-14 libgnustep-gui-dev python3 reuse \
@@ -91,10 +93,14 @@ as_root() {
     fi
 }
 
+# Debian installs packages of another architecture once it knows that they are wanted.
 install_packages() {
     local manager=$1
     shift
     echo "Installing: $*"
+    case "$manager:$*" in
+        apt:*:arm64*) as_root dpkg --add-architecture arm64 ;;
+    esac
     case "$manager" in
         apt)
             as_root apt-get update &&
@@ -107,13 +113,17 @@ install_packages() {
 
 # The command that installs packages, for the user to copy.
 install_command() {
-    local manager=$1 sudo=
+    local manager=$1 sudo= architecture=
     shift
     if [ "$(id -u)" -ne 0 ] && command -v sudo >/dev/null; then
         sudo="sudo "
     fi
+    case "$*" in
+        *:arm64*) architecture="${sudo}dpkg --add-architecture arm64 && " ;;
+    esac
     case "$manager" in
-        apt) echo "${sudo}apt-get update && ${sudo}apt-get install --no-install-recommends $*" ;;
+        apt) echo "$architecture${sudo}apt-get update &&" \
+            "${sudo}apt-get install --no-install-recommends $*" ;;
         dnf) echo "${sudo}dnf install $*" ;;
         pacman) echo "${sudo}pacman -S --needed $*" ;;
         zypper) echo "${sudo}zypper install $*" ;;

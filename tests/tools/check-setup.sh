@@ -164,6 +164,27 @@ apt-get install -y --no-install-recommends qt6-base-dev
 ${built//release/qt6}" 0
 }
 
+# The build folder holds no programs, which is where this run ends.
+InstallsTheOtherArchitecture() {
+    lay_out_debian
+    fake id "echo 0"
+    recorded dpkg
+    lacks libgtest-dev:arm64
+    play ./run test arm64
+    expect "What was called" "$(head -n 3 "$work/calls")" "dpkg --add-architecture arm64
+apt-get update
+apt-get install -y --no-install-recommends libgtest-dev:arm64"
+}
+
+NamesTheOtherArchitecture() {
+    lay_out_debian
+    lacks libgtest-dev:arm64
+    play ./run test arm64
+    expect_end "Packages are missing, and only root can install them. As root, run:
+    dpkg --add-architecture arm64 && apt-get update && \
+apt-get install --no-install-recommends libgtest-dev:arm64" "" 1
+}
+
 # Other distributions
 
 lay_out_distribution() {
