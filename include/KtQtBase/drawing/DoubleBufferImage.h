@@ -65,8 +65,7 @@ public:
     // translucent. Does nothing without images. No painting on the front image may be open.
     void repairFrontBuffer();
 
-    // Both do nothing; draw between beginDraw and endDraw of a wrapper.
-    // Result: true, with or without images.
+    // Inert: returns true, with or without images. Draw between beginDraw and endDraw of a wrapper.
     bool beginDraw();
     bool endDraw();
 
@@ -85,7 +84,7 @@ public:
     // pixel 0xAARRGGBB premultiplied; null while there are no images. The caller may write them.
     unsigned char* memBits() const;
 
-    // Result: null; no backup is made. The function is part of the interface.
+    // Inert: returns null; no backup is made. The function is part of the interface.
     unsigned char* backupBits() const;
 
     // Result: a palette of the application's colours, never null; owned by this object.

@@ -320,11 +320,13 @@ public:
     //   handle    out: null, or -1 if nothing is parsed
     // Result: whether handle is not -1.
     // Kept: true for every parsed name, with a null handle. Part of the interface.
+    // On Windows: the file is opened, and handle is -1 if that fails.
     bool OpenReadOnly(void*& handle);
     bool OpenWriteOnly(void*& handle);
 
     // Must not be called: rethrows the exception that is being handled; without one it ends the
     // process.
+    // On Windows: the file is opened.
     [[noreturn]] void Open(FILE** file, const wchar_t* mode);
 
     // Renames the file. The work string is taken as relative to the process's working directory,

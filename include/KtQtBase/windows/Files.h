@@ -85,6 +85,7 @@ namespace KtKernel32 {
 KTQTBASE_EXPORT unsigned int GetFileAttributes(const wchar_t* lpFileName);
 
 // The same again. There is no global function of this name.
+// On Windows: FILE_ATTRIBUTE flags, and a backslash separates folders.
 KTQTBASE_EXPORT unsigned int GetFileAttributesW(const wchar_t* lpFileName);
 
 KTQTBASE_EXPORT unsigned int GetCurrentDirectoryW(unsigned int nBufferLength, wchar_t* lpBuffer);
