@@ -1,0 +1,160 @@
+# SPDX-License-Identifier: MIT
+"""Reads the public headers: what they declare, and what the comment above it says.
+
+The grammar is the layout of the headers in include/: a comment belongs to the declarations that
+follow it without a blank line, and a sentence of it begins with a label such as "Inert:" and ends
+at the next label, at a row or at the end of the comment.
+
+Needs Python 3 and nothing else.
+"""
+import pathlib
+import re
+from typing import NamedTuple, Tuple
+
+LABEL = re.compile(r"(Inert|On Windows|Kept|Result[^:]*):")
+ACCESS = re.compile(r"(public|protected|private)\b.*:$")
+DROPPED = re.compile(r"\b(KTQTBASE_EXPORT|__extension__)\b|\btemplate *<[^>]*>|\[\[\w+\]\]")
+SCOPE = re.compile(r"(?:(namespace|class|struct|enum|extern)(?: class)?)\b *(\"C\"|\w*)")
+FUNCTION = re.compile(r"\w+\((\w+)\) *\(|(~?\w+) *\(")
+SKIPPED = re.compile(r"extern template|using [^=]*$|friend|(class|struct|union) *\w*$|.*= delete$|"
+                     r".*\boperator\b")
+CONSTANT = re.compile(r"(?:static |inline )*(?:constexpr|inline const)\b[^(]*?\b(\w+)(?: *=.*)?$")
+GLOBAL = re.compile(r"(?:extern|static)\b[^(=]*\b(\w+)$")
+TYPE = re.compile(r"using (\w+) *=|typedef\b.*\b(\w+)$")
+MACRO = re.compile(r"#define ((?!KTQTBASE_)\w+)")
+TYPE_KINDS = {"class": "class", "struct": "record", "enum": "type"}
+
+
+class Declaration(NamedTuple):
+    """A name that a header declares, with the lines of the comment above it."""
+    name: str
+    scope: str
+    kind: str
+    header: str
+    comment: Tuple[str, ...]
+
+
+def sentence(comment, label):
+    """What a comment says behind a label, its lines joined; empty without that label."""
+    found, inside = [], False
+    for line in comment:
+        if LABEL.match(line) or line.startswith(" ") or not line:
+            inside = line.startswith(label + ":")
+            line = line.partition(":")[2].strip()
+        if inside:
+            found.append(line)
+    return " ".join(found).strip()
+
+
+class HeaderReader:
+    """Reads one header from its first character to its last."""
+
+    def __init__(self, path, root):
+        self.header = str(path.relative_to(root))
+        self.lines = path.read_text(encoding="utf-8").splitlines()
+        self.found = []
+        self.scopes = []
+        self.skipped_braces = 0
+        self.statement = ""
+        self.comment = ()
+        self.above = ()
+
+    def declarations(self):
+        in_comment = in_directive = False
+        for line in self.lines:
+            text = line.strip()
+            if in_directive or text.startswith("#"):
+                self.read_directive(text)
+                in_directive = text.endswith("\\")
+            elif text.startswith("//"):
+                self.above = (self.above if in_comment else ()) + (text[2:].replace(" ", "", 1),)
+            elif not ACCESS.match(text):
+                self.read_code(text.partition("//")[0])
+            in_comment = text.startswith("//")
+        return self.found
+
+    def read_directive(self, text):
+        macro = MACRO.match(text)
+        if macro:
+            self.found.append(Declaration(macro[1], "", "macro", self.header, self.above))
+
+    def read_code(self, text):
+        if not text:
+            self.above = ()
+        for character in text + " ":
+            if self.skipped_braces:
+                self.skipped_braces += {"{": 1, "}": -1}.get(character, 0)
+            elif character in "{};":
+                self.end_statement(character)
+            else:
+                self.add(character)
+
+    def add(self, character):
+        if not self.statement.strip():
+            self.comment = self.above
+        self.statement += character
+
+    def end_statement(self, character):
+        statement = " ".join(DROPPED.sub(" ", self.statement).split())
+        self.statement = ""
+        if self.scopes and self.scopes[-1][0] == "enum":
+            self.read_enumerators(statement)
+        elif character == "{":
+            self.open_brace(statement)
+        elif statement:
+            self.read_statement(statement)
+        if character == "}" and self.scopes:
+            self.scopes.pop()
+
+    def read_enumerators(self, statement):
+        for name in re.findall(r"(?:^|,) *(\w+)", statement):
+            self.declare(name, "constant", self.scope(1))
+
+    def open_brace(self, statement):
+        opened = SCOPE.match(statement)
+        if not opened:
+            self.skipped_braces = 1
+            if statement:
+                self.read_statement(statement)
+            return
+        if opened[1] in TYPE_KINDS and opened[2]:
+            self.declare(opened[2], TYPE_KINDS[opened[1]], self.scope())
+        self.scopes.append((opened[1], opened[2].strip('"C') if opened[1] == "extern"
+                            else opened[2]))
+
+    def scope(self, left_out=0):
+        """The namespace or class that is open, without the innermost ones that are left out."""
+        names = [name for _, name in self.scopes[:len(self.scopes) - left_out] if name]
+        return "::".join(names)
+
+    def in_type(self):
+        return bool(self.scopes) and self.scopes[-1][0] in ("class", "struct")
+
+    def declare(self, name, kind, scope):
+        self.found.append(Declaration(name, scope, kind, self.header, self.comment))
+
+    def read_statement(self, statement):
+        if SKIPPED.match(statement):
+            return
+        for pattern, kind in ((TYPE, "type"), (CONSTANT, "constant"), (GLOBAL, "global")):
+            found = pattern.match(statement)
+            if found:
+                self.declare(next(filter(None, found.groups())), kind, self.scope())
+                return
+        self.read_function(statement)
+
+    def read_function(self, statement):
+        found = FUNCTION.search(statement)
+        if not found:
+            return
+        name = found[1] or found[2]
+        defined_outside = statement[:found.start()].endswith("::")
+        if not defined_outside and not name.startswith("~"):
+            self.declare(name, "method" if self.in_type() else "function", self.scope())
+
+
+def read_headers(root):
+    """All declarations of the public headers below a folder, in the order of their files."""
+    include = pathlib.Path(root)
+    paths = sorted(include.glob("KtQtBase/**/*.h"))
+    return [found for path in paths for found in HeaderReader(path, include).declarations()]
