@@ -7,17 +7,19 @@ at the next label, at a row or at the end of the comment.
 
 Needs Python 3 and nothing else.
 """
+import itertools
 import pathlib
 import re
 from typing import NamedTuple, Tuple
 
-LABEL = re.compile(r"(Inert|On Windows|Kept|Result[^:]*):")
+ENDS_SENTENCE = re.compile(r"(Inert|On Windows|Kept|Result[^:]*):| |$")
+COMMENT = re.compile(r"// ?")
 ACCESS = re.compile(r"(public|protected|private)\b.*:$")
 DROPPED = re.compile(r"\b(KTQTBASE_EXPORT|__extension__)\b|\btemplate *<[^>]*>|\[\[\w+\]\]")
-SCOPE = re.compile(r"(?:(namespace|class|struct|enum|extern)(?: class)?)\b *(\"C\"|\w*)")
+SCOPE = re.compile(r"(namespace|class|struct|enum|extern(?= *\"))(?: class)?\b *(\w*)")
 FUNCTION = re.compile(r"\w+\((\w+)\) *\(|(~?\w+) *\(")
-SKIPPED = re.compile(r"extern template|using [^=]*$|friend|(class|struct|union) *\w*$|.*= delete$|"
-                     r".*\boperator\b")
+SKIPPED = re.compile(r"$|extern template|using [^=]*$|friend|(class|struct|union) *\w*$|"
+                     r".*= delete$|.*\boperator\b")
 CONSTANT = re.compile(r"(?:static |inline )*(?:constexpr|inline const)\b[^(]*?\b(\w+)(?: *=.*)?$")
 GLOBAL = re.compile(r"(?:extern|static)\b[^(=]*\b(\w+)$")
 TYPE = re.compile(r"using (\w+) *=|typedef\b.*\b(\w+)$")
@@ -33,17 +35,12 @@ class Declaration(NamedTuple):
     header: str
     comment: Tuple[str, ...]
 
-
-def sentence(comment, label):
-    """What a comment says behind a label, its lines joined; empty without that label."""
-    found, inside = [], False
-    for line in comment:
-        if LABEL.match(line) or line.startswith(" ") or not line:
-            inside = line.startswith(label + ":")
-            line = line.partition(":")[2].strip()
-        if inside:
-            found.append(line)
-    return " ".join(found).strip()
+    def says(self, label):
+        """What the comment says behind a label, its lines joined; empty without that label."""
+        lines = itertools.dropwhile(lambda line: not line.startswith(label + ":"), self.comment)
+        first = next(lines, "").partition(":")[2]
+        rest = itertools.takewhile(lambda line: not ENDS_SENTENCE.match(line), lines)
+        return " ".join([first, *rest]).strip()
 
 
 class HeaderReader:
@@ -55,25 +52,29 @@ class HeaderReader:
         self.found = []
         self.scopes = []
         self.skipped_braces = 0
+        self.in_directive = False
         self.statement = ""
         self.comment = ()
         self.above = ()
 
     def declarations(self):
-        in_comment = in_directive = False
+        before = ""
         for line in self.lines:
-            text = line.strip()
-            if in_directive or text.startswith("#"):
-                self.read_directive(text)
-                in_directive = text.endswith("\\")
-            elif text.startswith("//"):
-                self.above = (self.above if in_comment else ()) + (text[2:].replace(" ", "", 1),)
-            elif not ACCESS.match(text):
-                self.read_code(text.partition("//")[0])
-            in_comment = text.startswith("//")
+            self.read_line(line.strip(), before)
+            before = line.strip()
         return self.found
 
+    def read_line(self, text, before):
+        if text.startswith("#") or self.in_directive:
+            self.read_directive(text)
+        elif text.startswith("//"):
+            kept = self.above if before.startswith("//") else ()
+            self.above = kept + (COMMENT.sub("", text, count=1),)
+        elif not ACCESS.match(text):
+            self.read_code(text.partition("//")[0])
+
     def read_directive(self, text):
+        self.in_directive = text.endswith("\\")
         macro = MACRO.match(text)
         if macro:
             self.found.append(Declaration(macro[1], "", "macro", self.header, self.above))
@@ -82,12 +83,15 @@ class HeaderReader:
         if not text:
             self.above = ()
         for character in text + " ":
-            if self.skipped_braces:
-                self.skipped_braces += {"{": 1, "}": -1}.get(character, 0)
-            elif character in "{};":
-                self.end_statement(character)
-            else:
-                self.add(character)
+            self.read_character(character)
+
+    def read_character(self, character):
+        if self.skipped_braces:
+            self.skipped_braces += {"{": 1, "}": -1}.get(character, 0)
+        elif character in "{};":
+            self.end_statement(character)
+        else:
+            self.add(character)
 
     def add(self, character):
         if not self.statement.strip():
@@ -101,7 +105,7 @@ class HeaderReader:
             self.read_enumerators(statement)
         elif character == "{":
             self.open_brace(statement)
-        elif statement:
+        else:
             self.read_statement(statement)
         if character == "}" and self.scopes:
             self.scopes.pop()
@@ -112,15 +116,16 @@ class HeaderReader:
 
     def open_brace(self, statement):
         opened = SCOPE.match(statement)
-        if not opened:
+        if opened:
+            self.open_scope(opened[1], opened[2])
+        else:
             self.skipped_braces = 1
-            if statement:
-                self.read_statement(statement)
-            return
-        if opened[1] in TYPE_KINDS and opened[2]:
-            self.declare(opened[2], TYPE_KINDS[opened[1]], self.scope())
-        self.scopes.append((opened[1], opened[2].strip('"C') if opened[1] == "extern"
-                            else opened[2]))
+            self.read_statement(statement)
+
+    def open_scope(self, word, name):
+        if word in TYPE_KINDS and name:
+            self.declare(name, TYPE_KINDS[word], self.scope())
+        self.scopes.append((word, name))
 
     def scope(self, left_out=0):
         """The namespace or class that is open, without the innermost ones that are left out."""

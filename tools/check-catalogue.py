@@ -37,12 +37,16 @@ def read_json(path):
     return json.loads(path.read_text(encoding="utf-8"))
 
 
+def read_lines(path):
+    return path.read_text(encoding="utf-8").splitlines()
+
+
 class Catalogue:
     """The files of a catalogue's folder."""
 
     def __init__(self, folder):
         self.groups = read_json(folder / "families.json")
-        self.names = (folder / "windows-names.txt").read_text(encoding="utf-8").splitlines()
+        self.names = read_lines(folder / "windows-names.txt")
         paths = [path for path in sorted(folder.glob("*.json")) if path.stem != "families"]
         self.files = {path.name: read_json(path) for path in paths}
 
@@ -55,6 +59,15 @@ class Catalogue:
     def keys(self):
         return {key_of(entry) for _, entry in self.entries()}
 
+    def not_here(self):
+        return self.groups.get("families", [])
+
+    def not_here_names(self):
+        return [group.get("family", "") for group in self.not_here()]
+
+    def mfc(self):
+        return self.groups.get("mfc", {})
+
 
 class Headers:
     """What the public headers declare."""
@@ -64,14 +77,27 @@ class Headers:
         for found in catalogue_headers.read_headers(ROOT / "include"):
             self.declarations[found.scope, found.name].append(found)
 
+    def overloads(self, entry):
+        declared = self.declarations[key_of(entry)]
+        return [found for found in declared if found.header == entry["header"]]
+
+    def commented(self, entry):
+        """The overloads, or those of the global function that a namespace declares again."""
+        overloads = self.overloads(entry)
+        if entry["kind"] != "function" or any(found.comment for found in overloads):
+            return overloads
+        return self.declarations.get(("", entry["name"]), [])
+
     def said(self, entry, label):
         """What the comments of all overloads say behind a label."""
-        declared = [found for found in self.declarations[key_of(entry)]
-                    if found.header == entry["header"]]
-        if entry["kind"] == "function" and not any(found.comment for found in declared):
-            declared = self.declarations.get(("", entry["name"]), [])
-        said = [catalogue_headers.sentence(found.comment, label) for found in declared]
+        said = [found.says(label) for found in self.commented(entry)]
         return BETWEEN_OVERLOADS.join(dict.fromkeys(filter(None, said)))
+
+    def status(self, entry):
+        for label, status in (("Inert", "inert"), ("On Windows", "differs")):
+            if self.said(entry, label):
+                return status
+        return "works"
 
 
 def key_of(entry):
@@ -85,12 +111,10 @@ def full_name(entry):
 # ---- The form ------------------------------------------------------------------------------------
 
 def key_faults(what, found, required, optional=()):
-    for key in found:
-        if key not in required and key not in optional:
-            yield f"{what}: unknown key {key}"
-    for key in required:
-        if key not in found:
-            yield f"{what}: no key {key}"
+    unknown = [key for key in found if key not in required + optional]
+    missing = [key for key in required if key not in found]
+    yield from (f"{what}: unknown key {key}" for key in unknown)
+    yield from (f"{what}: no key {key}" for key in missing)
 
 
 def order_faults(what, names):
@@ -101,28 +125,45 @@ def order_faults(what, names):
             yield f"{what}: {after} stands behind {before}"
 
 
-def value_faults(what, entry):
-    for key in OPTIONAL:
-        if entry.get(key) == "":
-            yield f"{what}: empty key {key}"
-    if entry.get("kind") not in KINDS:
-        yield f"{what}: unknown kind {entry.get('kind')}"
-    if entry.get("status") not in STATUSES:
-        yield f"{what}: unknown status {entry.get('status')}"
-    if ("porting" in entry) != entry.get("header", "").lower().startswith("ktqtbase/porting"):
+def empty_faults(what, entry):
+    return [f"{what}: empty key {key}" for key in OPTIONAL if entry.get(key) == ""]
+
+
+def choice_faults(what, entry):
+    for key, choices in (("kind", KINDS), ("status", STATUSES)):
+        if entry.get(key) not in choices:
+            yield f"{what}: unknown {key} {entry.get(key)}"
+
+
+def porting_faults(what, entry):
+    is_porting = entry.get("header", "").lower().startswith("ktqtbase/porting")
+    if ("porting" in entry) != is_porting:
         yield f"{what}: porting is for the names of Porting.h, and for each of them"
 
 
-def file_faults(catalogue):
+def entry_faults(what, entry):
+    yield from key_faults(what, entry, REQUIRED, OPTIONAL + ("porting",))
+    yield from empty_faults(what, entry)
+    yield from choice_faults(what, entry)
+    yield from porting_faults(what, entry)
+
+
+def place_of(entry):
+    return " ".join((entry.get("name", ""), entry.get("scope", ""))).strip()
+
+
+def file_faults(file, family):
+    yield from key_faults(file, family, FAMILY_KEYS)
+    if file != f"{family.get('family')}.json":
+        yield f"{file}: holds the family {family.get('family')}"
+    yield from order_faults(file, [place_of(entry) for entry in family.get("entries", [])])
+
+
+def form_faults(catalogue):
     for file, family in catalogue.files.items():
-        yield from key_faults(file, family, FAMILY_KEYS)
-        if file != f"{family.get('family')}.json":
-            yield f"{file}: holds the family {family.get('family')}"
-        names = [(entry.get("name", ""), entry.get("scope", "")) for entry in family["entries"]]
-        yield from order_faults(file, [" ".join(name).strip() for name in names])
+        yield from file_faults(file, family)
     for what, entry in catalogue.entries():
-        yield from key_faults(what, entry, REQUIRED, OPTIONAL + ("porting",))
-        yield from value_faults(what, entry)
+        yield from entry_faults(what, entry)
 
 
 def duplicate_faults(catalogue):
@@ -133,7 +174,7 @@ def duplicate_faults(catalogue):
             yield f"{what} is in {seen[key_of(entry)]}, too"
 
 
-# ---- The headers, the symbols and the tests --------------------------------------------------------
+# ---- The headers, the symbols and the tests ------------------------------------------------------
 
 def declaration_faults(catalogue, headers):
     for what, entry in catalogue.entries():
@@ -149,23 +190,27 @@ def missing_faults(catalogue, headers):
             yield f"{'::'.join(filter(None, (scope, name)))} of {found[0].header} has no entry"
 
 
-def status_of(here, windows):
-    return "inert" if here else "differs" if windows else "works"
+def sentence_faults(what, entry, headers):
+    for key, label in (("here", "Inert"), ("windows", "On Windows")):
+        said = headers.said(entry, label)
+        if entry.get(key, "") != said:
+            yield f"{what}: {key} is not what its header says: {said}"
+
+
+def presence_faults(what, entry, status):
+    if ("result" in entry) != (status == "inert"):
+        yield f"{what}: result is for inert entries, and for each of them"
+    if ("instead" in entry) != (status != "works"):
+        yield f"{what}: instead is for entries that do not work, and for each of them"
 
 
 def status_faults(catalogue, headers):
     for what, entry in catalogue.entries():
-        here, windows = headers.said(entry, "Inert"), headers.said(entry, "On Windows")
-        status = status_of(here, windows)
+        status = headers.status(entry)
         if entry["status"] != status:
             yield f"{what}: is {entry['status']} and by its header {status}"
-        for key, said in (("here", here), ("windows", windows)):
-            if entry.get(key, "") != said:
-                yield f"{what}: {key} is not what its header says: {said}"
-        if ("result" in entry) != (status == "inert"):
-            yield f"{what}: result is for inert entries, and for each of them"
-        if ("instead" in entry) != (status != "works"):
-            yield f"{what}: instead is for entries that do not work, and for each of them"
+        yield from sentence_faults(what, entry, headers)
+        yield from presence_faults(what, entry, status)
 
 
 def symbol_key(symbol):
@@ -178,17 +223,19 @@ def symbol_key(symbol):
 def symbol_faults(catalogue):
     known = catalogue.keys()
     symbols = ROOT / "tests/exports/exported-symbols.txt"
-    for symbol in symbols.read_text(encoding="utf-8").splitlines():
+    for symbol in read_lines(symbols):
         if symbol_key(symbol) not in known:
             yield f"the exported symbol {symbol} has no entry"
 
 
-def tests_of_sources():
-    folder = ROOT / "tests"
-    for path in folder.rglob("*.cpp"):
-        for suite, test in TEST_IN_SOURCE.findall(path.read_text(encoding="utf-8")):
-            yield f"{suite}.{test}"
-    for path in folder.rglob("CMakeLists.txt"):
+def tests_of_cpp():
+    for path in (ROOT / "tests").rglob("*.cpp"):
+        found = TEST_IN_SOURCE.findall(path.read_text(encoding="utf-8"))
+        yield from (f"{suite}.{test}" for suite, test in found)
+
+
+def tests_of_cmake():
+    for path in (ROOT / "tests").rglob("CMakeLists.txt"):
         yield from TEST_IN_CMAKE.findall(path.read_text(encoding="utf-8"))
 
 
@@ -199,13 +246,13 @@ def tests_of_build(build):
 
 
 def test_faults(catalogue, build):
-    known = set(tests_of_build(build) if build else tests_of_sources())
+    known = set(tests_of_build(build) if build else [*tests_of_cpp(), *tests_of_cmake()])
     for what, entry in catalogue.entries():
         if entry.get("test") not in known:
             yield f"{what}: no test is named {entry.get('test')}"
 
 
-# ---- What is not here ------------------------------------------------------------------------------
+# ---- What is not here ----------------------------------------------------------------------------
 
 def pattern_faults(what, patterns):
     for pattern in patterns:
@@ -215,20 +262,22 @@ def pattern_faults(what, patterns):
             yield f"{what}: the pattern {pattern} is none: {error}"
 
 
-def group_faults(catalogue):
-    groups = catalogue.groups.get("families", [])
-    names = [group.get("family", "") for group in groups]
-    yield from order_faults("families.json", sorted(names))
+def group_faults(group):
+    what = f"families.json: {group.get('family')}"
+    yield from key_faults(what, group, GROUP_KEYS)
+    yield from order_faults(what, group.get("dlls", []))
+    yield from pattern_faults(what, group.get("patterns", []))
+
+
+def groups_faults(catalogue):
     yield from key_faults("families.json", catalogue.groups, ("families", "mfc"))
-    for group in groups:
-        what = f"families.json: {group.get('family')}"
-        yield from key_faults(what, group, GROUP_KEYS)
-        yield from order_faults(what, group.get("dlls", []))
-        yield from pattern_faults(what, group.get("patterns", []))
+    yield from order_faults("families.json", sorted(catalogue.not_here_names()))
+    for group in catalogue.not_here():
+        yield from group_faults(group)
 
 
 def agreement_faults(catalogue):
-    groups = {group.get("family"): group for group in catalogue.groups.get("families", [])}
+    groups = {group.get("family"): group for group in catalogue.not_here()}
     for file, family in catalogue.files.items():
         group = groups.get(family.get("family"), family)
         for key in ("title", "advice"):
@@ -236,53 +285,54 @@ def agreement_faults(catalogue):
                 yield f"{file}: {key} is not that of families.json"
 
 
-def mfc_faults(catalogue):
-    families = {group.get("family") for group in catalogue.groups.get("families", [])}
-    mfc = catalogue.groups.get("mfc", {})
-    known = catalogue.keys()
-    yield from order_faults("families.json", sorted(sum(mfc.values(), [])))
-    for family, classes in mfc.items():
-        if family not in families:
+def mfc_family_faults(catalogue):
+    for family, classes in catalogue.mfc().items():
+        if family not in catalogue.not_here_names():
             yield f"families.json: mfc has an unknown family {family}"
         yield from order_faults(f"families.json: mfc: {family}", classes)
-        for name in classes:
-            if ("", name) in known:
-                yield f"families.json: mfc: {name} has an entry"
+
+
+def mfc_faults(catalogue):
+    classes = sorted(sum(catalogue.mfc().values(), []))
+    known = [name for name in classes if ("", name) in catalogue.keys()]
+    yield from order_faults("families.json: mfc", classes)
+    yield from (f"families.json: mfc: {name} has an entry" for name in known)
 
 
 def windows_name_faults(catalogue):
     lines = [line for line in catalogue.names if not line.startswith("#")]
-    for line in lines:
-        if not WINDOWS_NAME.fullmatch(line):
-            yield f"windows-names.txt: no name and library: {line}"
+    bad = [line for line in lines if not WINDOWS_NAME.fullmatch(line)]
+    yield from (f"windows-names.txt: no name and library: {line}" for line in bad)
     yield from order_faults("windows-names.txt", [line.partition("\t")[0] for line in lines])
 
 
-# ---- The program -----------------------------------------------------------------------------------
+# ---- The program ---------------------------------------------------------------------------------
 
 def all_faults(catalogue, build):
     headers = Headers()
-    form = list(file_faults(catalogue))
-    yield from form or status_faults(catalogue, headers)
+    yield from list(form_faults(catalogue)) or status_faults(catalogue, headers)
     yield from duplicate_faults(catalogue)
     yield from declaration_faults(catalogue, headers)
     yield from missing_faults(catalogue, headers)
     yield from symbol_faults(catalogue)
     yield from test_faults(catalogue, build)
-    yield from group_faults(catalogue)
-    yield from agreement_faults(catalogue)
-    yield from mfc_faults(catalogue)
+    for check in groups_faults, agreement_faults, mfc_family_faults, mfc_faults:
+        yield from check(catalogue)
     yield from windows_name_faults(catalogue)
+
+
+def show_row(title, cells):
+    print(f"{title:20}" + "".join(f"{cell:>9}" for cell in cells))
 
 
 def show_counts(catalogue):
     total = collections.Counter()
-    print(f"{'family':20}" + "".join(f"{status:>9}" for status in STATUSES))
+    show_row("family", STATUSES)
     for family in catalogue.files.values():
         counts = collections.Counter(entry["status"] for entry in family["entries"])
+        show_row(family["family"], [counts[status] for status in STATUSES])
         total += counts
-        print(f"{family['family']:20}" + "".join(f"{counts[status]:9}" for status in STATUSES))
-    print(f"{'all':20}" + "".join(f"{total[status]:9}" for status in STATUSES))
+    show_row("all", [total[status] for status in STATUSES])
 
 
 def parse_arguments():
@@ -302,9 +352,8 @@ def main():
         show_counts(catalogue)
         return 0
     faults = list(all_faults(catalogue, arguments.build))
-    for fault in faults:
-        print(fault)
-    return 1 if faults else 0
+    print("\n".join(faults), end="\n" if faults else "")
+    return bool(faults)
 
 
 if __name__ == "__main__":

@@ -63,8 +63,9 @@ done | sort -u >"$scratch/runtime"
 
 {
     echo '# SPDX-License-Identifier: MIT'
-    echo '# Made by tools/windows-names.sh: functions of the Windows API and the libraries that export'
-    echo '# them, of the first one where several do. Left out: the C and C++ run-times, sockets and'
-    echo '# OpenGL under the names that other systems have, too, and libraries of drivers and services.'
+    echo '# Made by tools/windows-names.sh: functions of the Windows API and the libraries that'
+    echo '# export them, of the first one where several do. Left out: the C and C++ run-times,'
+    echo '# sockets and OpenGL under the names that other systems have, too, and libraries of'
+    echo '# drivers and services.'
     cat "$scratch/names"
 } >"$list"

@@ -188,8 +188,8 @@ NamesABrokenPattern() {
 }
 
 NamesAnMfcClassThatIsThereTwice() {
-    change families.json '' 'family["mfc"]["time"].append("CTimer"); family["mfc"]["files"].append("CTimer")'
-    expect "families.json: CTimer is there twice"
+    change families.json '' 'for name in ("time", "files"): family["mfc"][name].append("CTimer")'
+    expect "families.json: mfc: CTimer is there twice"
 }
 
 NamesAnMfcClassThatTheLibraryHas() {
@@ -216,7 +216,8 @@ NamesAWindowsNameWithoutLibrary() {
 AsksCTestForTheTestsOfABuild() {
     sed -n 's|^ *"test": "\(.*\)",\{0,1\}$|  Test #7: Rows/\1/One|p' "$work"/catalogue/*.json |
         grep -v IsBadReadPtr >"$work/tests"
-    printf '#!/bin/sh\n[ "$*" = "--test-dir a build -N" ] && cat "%s"\n' "$work/tests" >"$work/ctest"
+    printf '#!/bin/sh\n[ "$*" = "--test-dir a build -N" ] && cat "%s"\n' "$work/tests" \
+        >"$work/ctest"
     chmod +x "$work/ctest"
     PATH="$work:$PATH" check "a build" >"$work/found" || true
     diff - "$work/found" <<'END'
