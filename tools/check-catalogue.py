@@ -12,6 +12,7 @@ import collections
 import json
 import pathlib
 import re
+import signal
 import subprocess
 import sys
 
@@ -347,6 +348,8 @@ def parse_arguments():
 
 def main():
     arguments = parse_arguments()
+    # So that a reader of the lines may stop at their beginning.
+    signal.signal(signal.SIGPIPE, signal.SIG_DFL)
     catalogue = Catalogue(arguments.catalogue)
     if arguments.counts:
         show_counts(catalogue)

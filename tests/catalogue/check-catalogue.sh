@@ -227,8 +227,9 @@ END
 
 CountsWhatWorksDiffersAndIsInert() {
     change memory.json '' 'family["entries"] = [{"status": s} for s in ("works", "inert", "inert")]'
-    check --counts | grep -qE '^family +works +differs +inert$'
-    check --counts | grep -qE '^memory +1 +0 +2$'
+    check --counts >"$work/counts"
+    grep -qE '^family +works +differs +inert$' "$work/counts"
+    grep -qE '^memory +1 +0 +2$' "$work/counts"
 }
 
 cp -r "$project/catalogue" "$work"
