@@ -14,7 +14,7 @@ else()
     set_target_properties(KtQtBase PROPERTIES INSTALL_RPATH "$ORIGIN")
 endif()
 
-install(TARGETS KtQtBase EXPORT KtQtBaseTargets)
+install(TARGETS KtQtBase KtQtBaseStrict EXPORT KtQtBaseTargets)
 install(DIRECTORY include/KtQtBase ${KTQTBASE_GENERATED_INCLUDE}/KtQtBase
     DESTINATION ${CMAKE_INSTALL_INCLUDEDIR})
 install(DIRECTORY catalogue DESTINATION ${CMAKE_INSTALL_DATADIR}/KtQtBase)

@@ -9,6 +9,7 @@
 
 #include <KtQtBase/Export.h>
 #include <KtQtBase/FileDialog.h>
+#include <KtQtBase/Inert.h>
 #include <KtQtBase/Messages.h>
 #include <KtQtBase/PainterWrapper.h>
 #include <KtQtBase/PathName.h>

@@ -15,6 +15,7 @@
 #define KTQTBASE_DRAWING_DOUBLEBUFFERIMAGE_H
 
 #include <KtQtBase/Export.h>
+#include <KtQtBase/Inert.h>
 
 class KtQtPainterWrapper;
 class QImage;
@@ -66,7 +67,11 @@ public:
     void repairFrontBuffer();
 
     // Inert: returns true, with or without images. Draw between beginDraw and endDraw of a wrapper.
+    KTQTBASE_INERT(
+        "returns true, with or without images. Draw between beginDraw and endDraw of a wrapper.")
     bool beginDraw();
+    KTQTBASE_INERT(
+        "returns true, with or without images. Draw between beginDraw and endDraw of a wrapper.")
     bool endDraw();
 
     // Result: the wrapper of an image, never null; owned by this object. Its device is null while
@@ -85,6 +90,7 @@ public:
     unsigned char* memBits() const;
 
     // Inert: returns null; no backup is made. The function is part of the interface.
+    KTQTBASE_INERT("returns null; no backup is made. The function is part of the interface.")
     unsigned char* backupBits() const;
 
     // Result: a palette of the application's colours, never null; owned by this object.

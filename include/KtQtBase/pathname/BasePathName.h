@@ -6,6 +6,7 @@
 #define KTQTBASE_PATHNAME_BASEPATHNAME_H
 
 #include <KtQtBase/Export.h>
+#include <KtQtBase/Inert.h>
 #include <KtQtBase/VolumeDescriptor.h>
 #include <KtQtBase/WideString.h>
 #include <KtQtBase/pathname/PathTypes.h>
@@ -96,6 +97,7 @@ public:
 
     // Inert: returns null; no descriptor is made and none is added to volumeList.
     // On Windows: a descriptor for the volume.
+    KTQTBASE_INERT("returns null; no descriptor is made and none is added to volumeList.")
     const CRbUiVolumeDescriptor* NewVolDescriptor(const CStdStr<wchar_t>& volumeName) const;
 
     // Finds out what a work string denotes. The parse hands in this object's own fields.
@@ -149,6 +151,7 @@ public:
 
     // Inert: returns true.
     // On Windows: the file system is searched for the name.
+    KTQTBASE_INERT("returns true.")
     bool ParseAndOSFind(const wchar_t* name);
 
     // ---- Editing ----
@@ -295,6 +298,7 @@ public:
 
     // Inert: out stays as it is.
     // On Windows: the server and share that a drive stands for.
+    KTQTBASE_INERT("out stays as it is.")
     void GetFullUNCPath(CStdStr<wchar_t>& out) const;
 
     // ---- Files ----
@@ -340,6 +344,7 @@ public:
 
     // Inert: returns 0; nothing is removed.
     // On Windows: the file is deleted.
+    KTQTBASE_INERT("returns 0; nothing is removed.")
     int Remove();
 
     // Appends a separator to a volume's name, unless it ends with one.
