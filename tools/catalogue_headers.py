@@ -29,6 +29,11 @@ TYPE_KINDS = {"class": "class", "struct": "record", "enum": "type"}
 # What strict mode says of a function; a test of the headers compares it with the comment.
 INERT = re.compile(r'^ *KTQTBASE_INERT\((?:\s*"(?:[^"\\\n]|\\.)*")+\)\n', re.MULTILINE)
 
+# A line of the porting headers, and the namespace of what they give at global scope, too.
+PORTING = re.compile(r"KTQTBASE_PORTING_(\w+)\((\w+), *(\w+)")
+PORTING_KINDS = {"TYPE": "type", "CONSTANT": "constant"}
+PORTING_SPACE = "KtPorting"
+
 
 class Declaration(NamedTuple):
     """A name that a header declares, with the lines of the comment above it."""
@@ -46,6 +51,14 @@ class Declaration(NamedTuple):
         return " ".join([first, *rest]).strip()
 
 
+class OtherName(NamedTuple):
+    """A name that the porting headers give to a function of another name or scope."""
+    name: str
+    header: str
+    scope: str
+    function: str
+
+
 class HeaderReader:
     """Reads one header from its first character to its last."""
 
@@ -53,6 +66,7 @@ class HeaderReader:
         self.header = str(path.relative_to(root))
         self.lines = INERT.sub("", path.read_text(encoding="utf-8")).splitlines()
         self.found = []
+        self.other_names = []
         self.scopes = []
         self.skipped_braces = 0
         self.in_directive = False
@@ -133,7 +147,7 @@ class HeaderReader:
     def scope(self, left_out=0):
         """The namespace or class that is open, without the innermost ones that are left out."""
         names = [name for _, name in self.scopes[:len(self.scopes) - left_out] if name]
-        return "::".join(names)
+        return "::".join(name for name in names if name != PORTING_SPACE)
 
     def in_type(self):
         return bool(self.scopes) and self.scopes[-1][0] in ("class", "struct")
@@ -141,7 +155,19 @@ class HeaderReader:
     def declare(self, name, kind, scope):
         self.found.append(Declaration(name, scope, kind, self.header, self.comment))
 
+    def read_porting(self, line, first, second):
+        if line in PORTING_KINDS:
+            self.declare(first, PORTING_KINDS[line], "")
+        elif line != "USING":
+            self.other_names.append(OtherName(first, self.header, "", second))
+        elif first != PORTING_SPACE:
+            self.other_names.append(OtherName(second, self.header, first, second))
+
     def read_statement(self, statement):
+        porting = PORTING.match(statement)
+        if porting:
+            self.read_porting(*porting.groups())
+            return
         if SKIPPED.match(statement):
             return
         for pattern, kind in ((TYPE, "type"), (CONSTANT, "constant"), (GLOBAL, "global")):
@@ -161,8 +187,20 @@ class HeaderReader:
             self.declare(name, "method" if self.in_type() else "function", self.scope())
 
 
+def named_otherwise(found, other_names):
+    """The functions that have other names, too, declared under these."""
+    functions = {(declaration.scope, declaration.name): declaration for declaration in found}
+    for other in other_names:
+        function = functions[other.scope, other.function]
+        if not function.comment:
+            function = functions["", other.function]
+        yield function._replace(name=other.name, scope="", header=other.header)
+
+
 def read_headers(root):
     """All declarations of the public headers below a folder, in the order of their files."""
     include = pathlib.Path(root)
-    paths = sorted(include.glob("KtQtBase/**/*.h"))
-    return [found for path in paths for found in HeaderReader(path, include).declarations()]
+    readers = [HeaderReader(path, include) for path in sorted(include.glob("KtQtBase/**/*.h"))]
+    found = [declaration for reader in readers for declaration in reader.declarations()]
+    others = [other for reader in readers for other in reader.other_names]
+    return [*found, *named_otherwise(found, others)]

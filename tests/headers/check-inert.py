@@ -35,7 +35,7 @@ OPENS = re.compile(r"namespace (\w+) \{$|(?:class|struct) (?:KTQTBASE_EXPORT )?(
 CLOSES = re.compile(r"\}")
 SENTENCE_ENDS = re.compile(r"(?:Kept|On Windows|Result):")
 OTHER_NAME = re.compile(
-    r"^KTQTBASE_PORTING_(?P<kind>FUNCTION|INERT)\((?P<name>\w+), (?P<other>\w+)\);", re.MULTILINE)
+    r"^KTQTBASE_PORTING_(FUNCTION|INERT|USING)\((\w+), (\w+)\);", re.MULTILINE)
 DIAGNOSTIC = re.compile(r"(.*?):(\d+):\d+: (?:warning|error|fatal error): (.*)")
 
 Function = collections.namedtuple("Function", "place scope in_class name parameters inert comment")
@@ -109,12 +109,23 @@ def functions_of(header):
                            inert_comment(lines, number))
 
 
+def other_name(known, kind, first, second):
+    """The function that a line of the porting headers names, or None for one of their own."""
+    if kind == "USING":
+        function = known.get((first, second))
+        return function and function._replace(scope="")
+    function = known["", second]
+    inert = f"the same as {second}." if kind == "INERT" else None
+    return function._replace(name=first, inert=inert, comment=inert)
+
+
 def other_names_of(header, functions):
-    """The functions that a header gives under the other one of their two Windows names."""
-    known = {function.name: function for function in functions if not function.scope}
+    """The functions that a header gives under another name, or at another place."""
+    known = {(function.scope, function.name): function for function in functions}
     for match in OTHER_NAME.finditer(header.read_text(encoding="utf-8")):
-        inert = f"the same as {match['other']}." if match["kind"] == "INERT" else None
-        yield known[match["other"]]._replace(name=match["name"], inert=inert, comment=inert)
+        function = other_name(known, *match.groups())
+        if function:
+            yield function
 
 
 def all_functions():
@@ -154,9 +165,7 @@ def call(number, function):
 
 def source(functions):
     """A source with one call a line; its first call is on the returned line."""
-    lines = ["#include <KtQtBase/KtQtBase.h>"]
-    if (INCLUDE / "KtQtBase/Porting.h").exists():
-        lines.append("#include <KtQtBase/Porting.h>")
+    lines = ["#include <KtQtBase/KtQtBase.h>", "#include <KtQtBase/Porting.h>"]
     first = len(lines) + 1
     lines += [call(number, function) for number, function in enumerate(functions)]
     return "\n".join(lines) + "\n", first
