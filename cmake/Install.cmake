@@ -1,6 +1,6 @@
 # SPDX-License-Identifier: MIT
-# What `cmake --install` installs: the libraries, their headers, the CMake package and the
-# pkg-config module. No installed file holds the prefix, so a host may move them.
+# What `cmake --install` installs: the libraries, their headers, the CMake package, the
+# pkg-config module and the catalogue. No installed file holds the prefix, so a host may move them.
 
 include(CMakePackageConfigHelpers)
 
@@ -14,9 +14,10 @@ else()
     set_target_properties(KtQtBase PROPERTIES INSTALL_RPATH "$ORIGIN")
 endif()
 
-install(TARGETS KtQtBase EXPORT KtQtBaseTargets)
+install(TARGETS KtQtBase KtQtBaseStrict EXPORT KtQtBaseTargets)
 install(DIRECTORY include/KtQtBase ${KTQTBASE_GENERATED_INCLUDE}/KtQtBase
     DESTINATION ${CMAKE_INSTALL_INCLUDEDIR})
+install(DIRECTORY catalogue DESTINATION ${CMAKE_INSTALL_DATADIR}/KtQtBase)
 install(EXPORT KtQtBaseTargets NAMESPACE KtQtBase:: DESTINATION ${KTQTBASE_CMAKE_DIR})
 
 # A host's own OS-base library is not installed; the package only names its place.

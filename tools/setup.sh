@@ -22,16 +22,16 @@ package_manager() {
 # manager's names.
 named_packages() {
     case "$1:$2" in
-        # poppler-utils reads printed pages; the packages after it show the tests' windows on an
-        # invisible display.
+        # poppler-utils reads printed pages, Python the headers; the packages after them show the
+        # tests' windows on an invisible display.
         apt:build) echo build-essential cmake ninja-build pkg-config libgtest-dev libgmock-dev \
-            poppler-utils xvfb xauth openbox xdotool fonts-dejavu-core ;;
-        brew:build) echo cmake ninja pkg-config googletest poppler ;;
+            poppler-utils python3 xvfb xauth openbox xdotool fonts-dejavu-core ;;
+        brew:build) echo cmake ninja pkg-config googletest poppler python3 ;;
         dnf:build) echo gcc-c++ cmake ninja-build pkgconf-pkg-config gtest-devel gmock-devel \
-            poppler-utils xorg-x11-server-Xvfb openbox xdotool dejavu-sans-fonts ;;
-        pacman:build) echo gcc cmake ninja pkgconf gtest poppler xorg-server-xvfb xorg-xauth \
-            openbox xdotool ttf-dejavu ;;
-        zypper:build) echo gcc-c++ cmake ninja pkg-config gtest gmock poppler-tools \
+            poppler-utils python3 xorg-x11-server-Xvfb openbox xdotool dejavu-sans-fonts ;;
+        pacman:build) echo gcc cmake ninja pkgconf gtest poppler python xorg-server-xvfb \
+            xorg-xauth openbox xdotool ttf-dejavu ;;
+        zypper:build) echo gcc-c++ cmake ninja pkg-config gtest gmock poppler-tools python3 \
             xorg-x11-server-Xvfb xauth openbox xdotool dejavu-fonts ;;
         apt:qt5) echo qtbase5-dev ;;
         brew:qt5) echo qt@5 ;;

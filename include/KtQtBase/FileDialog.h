@@ -116,13 +116,14 @@ public:
     // Kept: the spelling of the name is part of the interface.
     void PraseFileInfo();
 
-    // The path of the first selected file, its part after the last slash, and the part of that
-    // after the last dot. Empty until a file was selected.
+    // The path of the first selected file; empty until a file was selected.
     // With a relative lpstrInitialDir the path of a new file is relative to the current folder,
     // too; that of an existing file is full.
     //   folder L"Reports", the user types new.txt  => L"Reports/new.txt"
     // On Windows: always the full path.
     CStdStr<wchar_t> GetPathName() const;
+
+    // The part of that path after its last slash, and the part of that after the last dot.
     CStdStr<wchar_t> GetFileName() const;
     CStdStr<wchar_t> GetFileExt() const;
 

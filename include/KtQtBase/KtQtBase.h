@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
 //
-// Everything of the library in one include, except two headers of short names that many hosts have
-// too: windows/Packing.h and windows/MessageNumbers.h.
+// Everything of the library in one include, except headers of names that many hosts have too:
+// windows/Packing.h, windows/MessageNumbers.h and Porting.h.
 //
 //     #include <KtQtBase/KtQtBase.h>
 #ifndef KTQTBASE_KTQTBASE_H
@@ -9,6 +9,7 @@
 
 #include <KtQtBase/Export.h>
 #include <KtQtBase/FileDialog.h>
+#include <KtQtBase/Inert.h>
 #include <KtQtBase/Messages.h>
 #include <KtQtBase/PainterWrapper.h>
 #include <KtQtBase/PathName.h>

@@ -22,6 +22,7 @@
 #define KTQTBASE_REGISTRYKEY_H
 
 #include <KtQtBase/Export.h>
+#include <KtQtBase/Inert.h>
 #include <KtQtBase/windows/Constants.h>
 #include <KtQtBase/windows/Records.h>
 #include <KtQtBase/windows/Scalars.h>
@@ -90,6 +91,7 @@ public:
 
     // Inert: returns 0; the object stays in use.
     // On Windows: the key is closed.
+    KTQTBASE_INERT("returns 0; the object stays in use.")
     unsigned int Close();
 
     QSettings* m_pSettings;    // owned

@@ -12,6 +12,7 @@
 #define KTQTBASE_VOLUMEDESCRIPTOR_H
 
 #include <KtQtBase/Export.h>
+#include <KtQtBase/Inert.h>
 #include <KtQtBase/WideString.h>
 
 #include <QtCore/QList>
@@ -227,24 +228,29 @@ public:
 
 // Inert: the outputs stay untouched.
 // On Windows: they receive the file system's name, its longest component and its case rule.
+KTQTBASE_INERT("the outputs stay untouched.")
 KTQTBASE_EXPORT void GetVolumeInfo(CStdStr<wchar_t>& volume, wchar_t* fsName,
                                    unsigned int& maxComponentLen, bool& caseSensitive);
 
 // Inert: returns true; the outputs stay untouched.
 // On Windows: they receive the file system's name and the connection's.
+KTQTBASE_INERT("returns true; the outputs stay untouched.")
 KTQTBASE_EXPORT bool GetVolumeInfo(CStdStr<wchar_t> volume, wchar_t* fsName,
                                    CStdStr<wchar_t>* connection, int flags, unsigned int size);
 
 // Inert: no effect.
 // On Windows: the volume part of a name is split into its parts.
+KTQTBASE_INERT("no effect.")
 KTQTBASE_EXPORT void ParseVolumeStr(CStdStr<wchar_t>& volume, char* text, unsigned int size);
 
 // Inert: no effect.
 // On Windows: the volume's narrow name is prepared.
+KTQTBASE_INERT("no effect.")
 KTQTBASE_EXPORT void InitVolumeChar(CStdStr<wchar_t>& volume, char* text);
 
 // Inert: returns 0.
 // On Windows: the code page for narrow names is chosen.
+KTQTBASE_INERT("returns 0.")
 KTQTBASE_EXPORT int InitModeMultiByte();
 
 // Deletes a string and forgets it, as ReleaseCStrPtr does.

@@ -405,4 +405,33 @@ OpensAWindowOnADisplayThatAnswers() {
 platform: from Qt, key: $work/home/.Xauthority" 0
 }
 
+# Installing
+
+expect_installed() {
+    expect_end "" "cmake --preset release -B build/install -DKTQTBASE_BUILD_TESTS=OFF\
+ -DKTQTBASE_BUILD_EXAMPLES=OFF
+cmake --build build/install --parallel 2
+cmake --install build/install --prefix $1" 0
+}
+
+InstallsTheLibraryWithoutTests() {
+    lay_out_debian
+    play ./run install --prefix /opt/ktqtbase
+    expect_installed /opt/ktqtbase
+}
+
+InstallsBelowTheCallersFolder() {
+    lay_out_debian
+    mkdir "$work/elsewhere"
+    play bash -c 'cd ../elsewhere && ../project/run install --prefix out'
+    expect_installed "$work/elsewhere/out"
+}
+
+InstallsNothingWithoutAPrefix() {
+    lay_out_debian
+    play ./run install
+    expect "What was called" "$(cat "$work/calls")" ""
+    expect "The exit status" "$status" 2
+}
+
 "$1"

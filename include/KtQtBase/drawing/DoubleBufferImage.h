@@ -15,6 +15,7 @@
 #define KTQTBASE_DRAWING_DOUBLEBUFFERIMAGE_H
 
 #include <KtQtBase/Export.h>
+#include <KtQtBase/Inert.h>
 
 class KtQtPainterWrapper;
 class QImage;
@@ -65,9 +66,12 @@ public:
     // translucent. Does nothing without images. No painting on the front image may be open.
     void repairFrontBuffer();
 
-    // Both do nothing; draw between beginDraw and endDraw of a wrapper.
-    // Result: true, with or without images.
+    // Inert: returns true, with or without images. Draw between beginDraw and endDraw of a wrapper.
+    KTQTBASE_INERT(
+        "returns true, with or without images. Draw between beginDraw and endDraw of a wrapper.")
     bool beginDraw();
+    KTQTBASE_INERT(
+        "returns true, with or without images. Draw between beginDraw and endDraw of a wrapper.")
     bool endDraw();
 
     // Result: the wrapper of an image, never null; owned by this object. Its device is null while
@@ -85,7 +89,8 @@ public:
     // pixel 0xAARRGGBB premultiplied; null while there are no images. The caller may write them.
     unsigned char* memBits() const;
 
-    // Result: null; no backup is made. The function is part of the interface.
+    // Inert: returns null; no backup is made. The function is part of the interface.
+    KTQTBASE_INERT("returns null; no backup is made. The function is part of the interface.")
     unsigned char* backupBits() const;
 
     // Result: a palette of the application's colours, never null; owned by this object.

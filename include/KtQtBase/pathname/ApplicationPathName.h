@@ -11,6 +11,7 @@
 #define KTQTBASE_PATHNAME_APPLICATIONPATHNAME_H
 
 #include <KtQtBase/Export.h>
+#include <KtQtBase/Inert.h>
 #include <KtQtBase/WideString.h>
 #include <KtQtBase/pathname/BasePathName.h>
 
@@ -43,6 +44,7 @@ public:
 
     // Inert: returns 0; *file is not written.
     // On Windows: the file is opened.
+    KTQTBASE_INERT("returns 0; *file is not written.")
     int Open(IKtFile** file, const wchar_t* mode);
 
     // What may be done with the file or folder, as the file system says now. This object stays as

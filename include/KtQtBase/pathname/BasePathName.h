@@ -6,6 +6,7 @@
 #define KTQTBASE_PATHNAME_BASEPATHNAME_H
 
 #include <KtQtBase/Export.h>
+#include <KtQtBase/Inert.h>
 #include <KtQtBase/VolumeDescriptor.h>
 #include <KtQtBase/WideString.h>
 #include <KtQtBase/pathname/PathTypes.h>
@@ -96,6 +97,7 @@ public:
 
     // Inert: returns null; no descriptor is made and none is added to volumeList.
     // On Windows: a descriptor for the volume.
+    KTQTBASE_INERT("returns null; no descriptor is made and none is added to volumeList.")
     const CRbUiVolumeDescriptor* NewVolDescriptor(const CStdStr<wchar_t>& volumeName) const;
 
     // Finds out what a work string denotes. The parse hands in this object's own fields.
@@ -149,6 +151,7 @@ public:
 
     // Inert: returns true.
     // On Windows: the file system is searched for the name.
+    KTQTBASE_INERT("returns true.")
     bool ParseAndOSFind(const wchar_t* name);
 
     // ---- Editing ----
@@ -295,6 +298,7 @@ public:
 
     // Inert: out stays as it is.
     // On Windows: the server and share that a drive stands for.
+    KTQTBASE_INERT("out stays as it is.")
     void GetFullUNCPath(CStdStr<wchar_t>& out) const;
 
     // ---- Files ----
@@ -320,11 +324,13 @@ public:
     //   handle    out: null, or -1 if nothing is parsed
     // Result: whether handle is not -1.
     // Kept: true for every parsed name, with a null handle. Part of the interface.
+    // On Windows: the file is opened, and handle is -1 if that fails.
     bool OpenReadOnly(void*& handle);
     bool OpenWriteOnly(void*& handle);
 
     // Must not be called: rethrows the exception that is being handled; without one it ends the
     // process.
+    // On Windows: the file is opened.
     [[noreturn]] void Open(FILE** file, const wchar_t* mode);
 
     // Renames the file. The work string is taken as relative to the process's working directory,
@@ -338,6 +344,7 @@ public:
 
     // Inert: returns 0; nothing is removed.
     // On Windows: the file is deleted.
+    KTQTBASE_INERT("returns 0; nothing is removed.")
     int Remove();
 
     // Appends a separator to a volume's name, unless it ends with one.

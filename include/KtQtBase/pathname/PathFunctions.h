@@ -5,6 +5,7 @@
 #define KTQTBASE_PATHNAME_PATHFUNCTIONS_H
 
 #include <KtQtBase/Export.h>
+#include <KtQtBase/Inert.h>
 #include <KtQtBase/WideString.h>
 #include <KtQtBase/pathname/BasePathName.h>
 #include <KtQtBase/pathname/PathTypes.h>
@@ -37,6 +38,7 @@ KTQTBASE_EXPORT int GetPathCatType(wchar_t first, wchar_t second, wchar_t sep, p
 
 // Inert: no effect.
 // On Windows: the components of a server and share name are counted.
+KTQTBASE_INERT("no effect.")
 KTQTBASE_EXPORT void GetUNCScount(CStdStr<wchar_t>* s, int* index, unsigned int& count, int& length,
                                   wchar_t sep);
 
@@ -60,6 +62,7 @@ KTQTBASE_EXPORT void GetRelPath(path_category cat, const CStdStr<wchar_t>* text,
 
 // Inert: returns true; nothing is written.
 // On Windows: the prefix and the work string are joined and looked at.
+KTQTBASE_INERT("returns true; nothing is written.")
 KTQTBASE_EXPORT bool GetPathBuffer(CStdStr<wchar_t>** relPath, bool flag, CStdStr<wchar_t>* work,
                                    wchar_t sep, const CRbUiVolumeDescriptor** volume = nullptr);
 

@@ -15,6 +15,7 @@
 #define KTQTBASE_WINDOWS_FILES_H
 
 #include <KtQtBase/Export.h>
+#include <KtQtBase/Inert.h>
 
 // The mode of a file.
 //   lpFileName    in: its name
@@ -77,6 +78,7 @@ KTQTBASE_EXPORT unsigned int GetCurrentDirectoryW(unsigned int nBufferLength, wc
 
 // Inert: returns 0; the working directory stays.
 // On Windows: it is changed.
+KTQTBASE_INERT("returns 0; the working directory stays.")
 KTQTBASE_EXPORT int SetCurrentDirectoryW(const wchar_t* lpPathName);
 
 // The same under the names of kernel32; each does what the global function does.
@@ -85,12 +87,14 @@ namespace KtKernel32 {
 KTQTBASE_EXPORT unsigned int GetFileAttributes(const wchar_t* lpFileName);
 
 // The same again. There is no global function of this name.
+// On Windows: FILE_ATTRIBUTE flags, and a backslash separates folders.
 KTQTBASE_EXPORT unsigned int GetFileAttributesW(const wchar_t* lpFileName);
 
 KTQTBASE_EXPORT unsigned int GetCurrentDirectoryW(unsigned int nBufferLength, wchar_t* lpBuffer);
 
 // Inert: returns 0; the working directory stays.
 // On Windows: it is changed.
+KTQTBASE_INERT("returns 0; the working directory stays.")
 KTQTBASE_EXPORT int SetCurrentDirectoryW(const wchar_t* lpPathName);
 
 } // namespace KtKernel32

@@ -36,6 +36,7 @@
 #define KTQTBASE_WINDOWS_PROFILES_H
 
 #include <KtQtBase/Export.h>
+#include <KtQtBase/Inert.h>
 #include <KtQtBase/windows/KernelStubs.h>
 
 // Reads a key's value, the names of a section's keys, or the names of all sections.
@@ -120,6 +121,8 @@ KTQTBASE_EXPORT int GetPrivateProfileInt(const wchar_t* lpAppName, const wchar_t
 //   lpFileName          ignored
 // Inert: returns 0 and reads nothing; read_profile_string without a section gives the names.
 // On Windows: the names are written, each zero-terminated, and their length returned.
+KTQTBASE_INERT("returns 0 and reads nothing; read_profile_string without a section gives the "
+               "names.")
 KTQTBASE_EXPORT unsigned int GetPrivateProfileSectionNames(wchar_t* lpszReturnBuffer,
                                                            unsigned int nSize,
                                                            const wchar_t* lpFileName);
@@ -129,6 +132,7 @@ KTQTBASE_EXPORT unsigned int GetPrivateProfileSectionNames(wchar_t* lpszReturnBu
 // Inert: returns 1; no file is made or changed.
 // Kept: the result says success; a host that tests it would see a failure otherwise.
 // On Windows: the key is written, or removed if lpString is null.
+KTQTBASE_INERT("returns 1; no file is made or changed.")
 KTQTBASE_EXPORT int WritePrivateProfileString(const wchar_t* lpAppName, const wchar_t* lpKeyName,
                                               const wchar_t* lpString, const wchar_t* lpFileName);
 

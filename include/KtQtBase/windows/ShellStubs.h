@@ -12,6 +12,7 @@
 #define KTQTBASE_WINDOWS_SHELLSTUBS_H
 
 #include <KtQtBase/Export.h>
+#include <KtQtBase/Inert.h>
 #include <KtQtBase/windows/Scalars.h>
 
 // The path of a special folder.
@@ -19,17 +20,20 @@
 // Kept: 0 reads as S_OK. Part of the interface. Clear the buffer first and test the path, not the
 // result.
 // On Windows: writes the path, at most MAX_PATH characters, and returns S_OK or an error.
+KTQTBASE_INERT("returns 0; the path buffer is not written.")
 KTQTBASE_EXPORT HRESULT SHGetFolderPath(HWND hwnd, int csidl, void* hToken, unsigned int dwFlags,
                                         wchar_t* pszPath);
 
 // The path of a special folder, in an older form.
 // Inert: returns 0, a failure; the path buffer is not written and no folder is made.
 // On Windows: writes the path and makes the folder if asked; non-zero means success.
+KTQTBASE_INERT("returns 0, a failure; the path buffer is not written and no folder is made.")
 KTQTBASE_EXPORT int SHGetSpecialFolderPath(HWND hwnd, wchar_t* pszPath, int csidl, bool fCreate);
 
 // Tests a file name against patterns.
 // Inert: returns 0, so that nothing matches, not even a name that equals the pattern.
 // On Windows: non-zero means that the name matches one of the patterns.
+KTQTBASE_INERT("returns 0, so that nothing matches, not even a name that equals the pattern.")
 KTQTBASE_EXPORT int PathMatchSpec(const wchar_t* pszFile, const wchar_t* pszSpec);
 
 #endif

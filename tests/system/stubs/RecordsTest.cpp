@@ -5,11 +5,55 @@
 #include <gtest/gtest.h>
 
 #include <algorithm>
+#include <cstddef>
 #include <cwchar>
 #include <iterator>
 #include <new>
 #include <string>
 #include <type_traits>
+
+namespace {
+
+struct SizeRow
+{
+    const char* name;
+    std::size_t size;
+    std::size_t published;
+};
+
+const SizeRow kRecords[] = {
+    {"POINT", sizeof(POINT), 8},
+    {"POINTL", sizeof(POINTL), 8},
+    {"SIZE", sizeof(SIZE), 8},
+    {"RECT", sizeof(RECT), 16},
+    {"PALETTEENTRY", sizeof(PALETTEENTRY), 4},
+    {"LOGPALETTE", sizeof(LOGPALETTE), 8},
+    {"RGBQUAD", sizeof(RGBQUAD), 4},
+    {"BITMAPINFOHEADER", sizeof(BITMAPINFOHEADER), 40},
+    {"BITMAPINFO", sizeof(BITMAPINFO), 44},
+    {"LOGFONTW", sizeof(LOGFONTW), 156},
+    {"NUMBERFMTW", sizeof(NUMBERFMTW), 40},
+    {"OSVERSIONINFOW", sizeof(OSVERSIONINFOW), 532},
+    {"LIST_ENTRY", sizeof(LIST_ENTRY), 16},
+    {"RTL_CRITICAL_SECTION_DEBUG", sizeof(RTL_CRITICAL_SECTION_DEBUG), 48},
+    {"RTL_CRITICAL_SECTION", sizeof(RTL_CRITICAL_SECTION), 40},
+    {"SECURITY_ATTRIBUTES", sizeof(SECURITY_ATTRIBUTES), 24},
+    {"FILETIME", sizeof(FILETIME), 8},
+    {"SYSTEMTIME", sizeof(SYSTEMTIME), 16},
+    {"WIN32_FIND_DATAW", sizeof(WIN32_FIND_DATAW), 1140},
+    {"OVERLAPPED", sizeof(OVERLAPPED), 32},
+    {"DEVMODEW", sizeof(DEVMODEW), 352},
+    {"PRINTER_DEFAULTSW", sizeof(PRINTER_DEFAULTSW), 24},
+    {"OPENFILENAMEW", sizeof(OPENFILENAMEW), 152},
+};
+
+} // namespace
+
+TEST(Records, HaveThePublishedSizes)
+{
+    for (const auto& row : kRecords)
+        EXPECT_EQ(row.size, row.published) << row.name;
+}
 
 TEST(CRect, IsAllZeroByDefault)
 {
