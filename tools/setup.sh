@@ -25,14 +25,14 @@ named_packages() {
         # poppler-utils reads printed pages; the packages after it show the tests' windows on an
         # invisible display.
         apt:build) echo build-essential cmake ninja-build pkg-config libgtest-dev libgmock-dev \
-            poppler-utils xvfb xauth openbox xdotool fonts-dejavu-core ;;
-        brew:build) echo cmake ninja pkg-config googletest poppler ;;
+            poppler-utils xvfb xauth openbox xdotool fonts-dejavu-core python3 ;;
+        brew:build) echo cmake ninja pkg-config googletest poppler python3 ;;
         dnf:build) echo gcc-c++ cmake ninja-build pkgconf-pkg-config gtest-devel gmock-devel \
-            poppler-utils xorg-x11-server-Xvfb openbox xdotool dejavu-sans-fonts ;;
+            poppler-utils xorg-x11-server-Xvfb openbox xdotool dejavu-sans-fonts python3 ;;
         pacman:build) echo gcc cmake ninja pkgconf gtest poppler xorg-server-xvfb xorg-xauth \
-            openbox xdotool ttf-dejavu ;;
+            openbox xdotool ttf-dejavu python ;;
         zypper:build) echo gcc-c++ cmake ninja pkg-config gtest gmock poppler-tools \
-            xorg-x11-server-Xvfb xauth openbox xdotool dejavu-fonts ;;
+            xorg-x11-server-Xvfb xauth openbox xdotool dejavu-fonts python3 ;;
         apt:qt5) echo qtbase5-dev ;;
         brew:qt5) echo qt@5 ;;
         dnf:qt5) echo qt5-qtbase-devel ;;
