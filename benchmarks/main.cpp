@@ -45,6 +45,7 @@ int main(int argc, char** argv)
     bench::addRegistryRows();
     bench::addDrawingRows();
     bench::addMessageRows();
+    bench::addTraceRows();
 
     benchmark::Initialize(&argc, argv);
     if (benchmark::ReportUnrecognizedArguments(argc, argv))

@@ -60,6 +60,7 @@ void addProfileRows();
 void addRegistryRows();
 void addDrawingRows();
 void addMessageRows();
+void addTraceRows();
 
 } // namespace bench
 
