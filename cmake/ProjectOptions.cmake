@@ -25,6 +25,7 @@ set(KTQTBASE_QT Qt${KTQTBASE_QT_MAJOR})
 
 option(KTQTBASE_BUILD_TESTS "Build the tests" ${PROJECT_IS_TOP_LEVEL})
 option(KTQTBASE_BUILD_EXAMPLES "Build the example programs" ${PROJECT_IS_TOP_LEVEL})
+option(KTQTBASE_BUILD_TOOLS "Build ktqt-audit, if LLVM and Clang are found" ${PROJECT_IS_TOP_LEVEL})
 option(KTQTBASE_BUILD_FUZZERS "Build the fuzzers, which need clang++" OFF)
 option(KTQTBASE_BUILD_BENCHMARKS "Build the benchmarks" OFF)
 option(KTQTBASE_WARNINGS_AS_ERRORS "Treat compiler warnings as errors" OFF)
