@@ -16,7 +16,7 @@ report() {
 }
 
 long_sources() {
-    git ls-files -z include src osbase | xargs -0 awk 'FNR == 401 { print FILENAME }'
+    git ls-files -z include src osbase audit | xargs -0 awk 'FNR == 401 { print FILENAME }'
 }
 
 platform_conditionals() {

@@ -18,8 +18,8 @@ package_manager() {
     echo none
 }
 
-# The packages of one group (build, check, bench, qt5, qt6, clang, libcxx or arm64) under a package
-# manager's names.
+# The packages of one group (build, tools, check, bench, qt5, qt6, clang, libcxx or arm64) under a
+# package manager's names.
 named_packages() {
     case "$1:$2" in
         # poppler-utils reads printed pages, Python the headers; the packages after them show the
@@ -33,6 +33,13 @@ named_packages() {
             xorg-xauth openbox xdotool ttf-dejavu ;;
         zypper:build) echo gcc-c++ cmake ninja pkg-config gtest gmock poppler-tools python3 \
             xorg-x11-server-Xvfb xauth openbox xdotool dejavu-fonts ;;
+        # Everything behind LLVM and Clang makes the programs that the tests of ktqt-audit read.
+        apt:tools) echo llvm-14-dev libclang-14-dev llvm-14 clang-14 lld-14 \
+            g++-mingw-w64-x86-64 ;;
+        brew:tools) echo llvm ;;
+        dnf:tools) echo llvm-devel clang-devel ;;
+        pacman:tools) echo llvm clang ;;
+        zypper:tools) echo llvm-devel clang-devel ;;
         apt:qt5) echo qtbase5-dev ;;
         brew:qt5) echo qt@5 ;;
         dnf:qt5) echo qt5-qtbase-devel ;;
@@ -177,12 +184,12 @@ supply() {
     esac
 }
 
-# Homebrew installs Qt 5 outside the folders that CMake and pkg-config search by default.
-find_homebrew_qt() {
-    local qt
-    qt=$(brew --prefix "$(named_packages brew "$(qt_group)")")
-    export CMAKE_PREFIX_PATH="$qt${CMAKE_PREFIX_PATH:+:$CMAKE_PREFIX_PATH}"
-    export PKG_CONFIG_PATH="$qt/lib/pkgconfig${PKG_CONFIG_PATH:+:$PKG_CONFIG_PATH}"
+# Homebrew installs Qt 5 and LLVM outside the folders that CMake and pkg-config search by default.
+find_homebrew_package() {
+    local prefix
+    prefix=$(brew --prefix "$1")
+    export CMAKE_PREFIX_PATH="$prefix${CMAKE_PREFIX_PATH:+:$CMAKE_PREFIX_PATH}"
+    export PKG_CONFIG_PATH="$prefix/lib/pkgconfig${PKG_CONFIG_PATH:+:$PKG_CONFIG_PATH}"
 }
 
 # Sees to the packages of one group that are not installed yet. The build group has Qt 5, or Qt 6
@@ -201,7 +208,15 @@ setup() {
     if [ "${#missing[@]}" -gt 0 ]; then
         supply "$manager" "${missing[@]}" || return
     fi
-    if [ "$manager" = brew ]; then
-        find_homebrew_qt
+    case "$manager:$1" in
+        brew:tools) find_homebrew_package llvm ;;
+        brew:*) find_homebrew_package "$(named_packages brew "$(qt_group)")" ;;
+    esac
+}
+
+# Sees to the packages of ktqt-audit, which a build can do without.
+setup_tools() {
+    if [ -n "$(packages "$(package_manager)" tools)" ]; then
+        setup tools || echo "Without them ktqt-audit is left out." >&2
     fi
 }

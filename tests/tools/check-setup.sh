@@ -154,6 +154,26 @@ StopsWhereThePackagesCannotBeFetched() {
     expect_end "Installing: cmake" "apt-get update" 100
 }
 
+InstallsWhatTheAuditNeeds() {
+    lay_out_debian
+    fake id "echo 0"
+    lacks llvm-14-dev lld-14
+    play ./run test
+    expect_end "Installing: llvm-14-dev lld-14" "apt-get update
+apt-get install -y --no-install-recommends llvm-14-dev lld-14
+$built" 0
+    play ./run test libcxx
+    expect_end "" "${built//release/libcxx}" 0
+}
+
+LeavesTheAuditOutWithoutItsPackages() {
+    lay_out_debian
+    lacks llvm-14-dev
+    play ./run test
+    expect_end "$(apt_message "" llvm-14-dev)
+Without them ktqt-audit is left out." "$built" 0
+}
+
 InstallsQt6InPlaceOfQt5() {
     lay_out_debian
     fake id "echo 0"
@@ -313,7 +333,7 @@ InstallsByHomebrewAndFindsItsQt() {
     play ./run test
     expect_end "Installing: ninja qt@5" "brew install ninja qt@5
 cmake --preset release
-/brew/qt@5 /brew/qt@5/lib/pkgconfig" 1
+/brew/llvm:/brew/qt@5 /brew/llvm/lib/pkgconfig:/brew/qt@5/lib/pkgconfig" 1
 }
 
 FindsHomebrewsQt6() {
@@ -322,7 +342,7 @@ FindsHomebrewsQt6() {
     play CMAKE_PREFIX_PATH=/mine PKG_CONFIG_PATH=/mine/pc ./run test qt6
     expect_end "Installing: qt" "brew install qt
 cmake --preset qt6
-/brew/qt:/mine /brew/qt/lib/pkgconfig:/mine/pc" 1
+/brew/llvm:/brew/qt:/mine /brew/llvm/lib/pkgconfig:/brew/qt/lib/pkgconfig:/mine/pc" 1
 }
 
 GoesOnWithoutHomebrew() {

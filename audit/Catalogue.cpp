@@ -1,0 +1,245 @@
+// SPDX-License-Identifier: MIT
+#include "Catalogue.h"
+
+#include <algorithm>
+#include <set>
+#include <utility>
+
+namespace ktqtbase::audit {
+
+namespace {
+
+bool startsWith(std::string_view text, std::string_view start)
+{
+    return text.substr(0, start.size()) == start;
+}
+
+// Windows' names for parts of its DLLs, behind which any of them may stand.
+bool isApiSet(const std::string& dll)
+{
+    return (startsWith(dll, "api-ms-win-") && !startsWith(dll, "api-ms-win-crt-")) ||
+           startsWith(dll, "ext-ms-win-");
+}
+
+// The name has the version in it.
+bool isMfc(const std::string& dll)
+{
+    return startsWith(dll, "mfc");
+}
+
+bool hasLetter(std::string_view name)
+{
+    return name.size() > 1 && (name.back() == 'A' || name.back() == 'W');
+}
+
+std::string otherLetter(std::string name)
+{
+    name.back() = name.back() == 'A' ? 'W' : 'A';
+    return name;
+}
+
+// Records are declared with the letter of wide characters, and used without it.
+std::string withoutLetter(const Entry& entry)
+{
+    const bool hasW = entry.kind == "record" && entry.name.size() > 1 && entry.name.back() == 'W';
+    return entry.name.substr(0, entry.name.size() - (hasW ? 1 : 0));
+}
+
+bool mayHaveLetter(const Entry& entry)
+{
+    return entry.kind == "function" || entry.kind == "record" || entry.kind == "type";
+}
+
+// Template arguments are of no interest: "CArray<int>" is CArray.
+std::string_view withoutArguments(std::string_view scope)
+{
+    return scope.substr(0, scope.find('<'));
+}
+
+} // namespace
+
+Catalogue::Catalogue(CatalogueFiles&& files)
+    : m_entries(std::make_move_iterator(files.entries.begin()),
+                std::make_move_iterator(files.entries.end())),
+      m_families(std::move(files.families))
+{
+    indexEntries();
+    addMfcClasses(std::move(files.mfcClasses));
+    addWindowsNames(files.windowsNames);
+    for (const Family& family : m_families.all())
+        m_dlls.insert(family.dlls.begin(), family.dlls.end());
+}
+
+const Entry* Catalogue::find(std::string_view name) const
+{
+    const auto found = m_names.find(name);
+    return found == m_names.end() ? nullptr : found->second;
+}
+
+const Entry* Catalogue::find(std::string_view scope, std::string_view name) const
+{
+    if (scope.empty())
+        return find(name);
+    const std::string text = std::string(withoutArguments(scope)).append("::").append(name);
+    const auto found = m_scopedNames.find(text);
+    return found == m_scopedNames.end() ? nullptr : found->second;
+}
+
+const Entry* Catalogue::findClass(std::string_view scope) const
+{
+    const std::string_view outer = withoutArguments(scope.substr(0, scope.find("::")));
+    const Entry* const entry = find(outer);
+    return entry && isClass(*entry) ? entry : nullptr;
+}
+
+bool Catalogue::countsDll(const std::string& dll) const
+{
+    return m_dlls.count(dll) > 0 || isApiSet(dll) || isMfc(dll);
+}
+
+const Entry* Catalogue::member(std::string_view scope, std::string_view name)
+{
+    if (const Entry* const type = findClass(scope))
+        return type;
+    const Entry* const type = find(withoutArguments(scope));
+    const bool isOther = type && type->kind == "type";
+    return isOther ? &addUnknown(std::string(scope).append("::").append(name), std::string())
+                   : nullptr;
+}
+
+const Entry& Catalogue::imported(const std::string& dll, const std::string& name)
+{
+    const Entry* const entry = find(name);
+    return entry ? *entry : addUnknown(name.front() == '#' ? dll + name : name, dll);
+}
+
+std::vector<const Entry*> Catalogue::explain(const std::string& name) const
+{
+    std::vector<const Entry*> entries;
+    const Entry* const known = find(name);
+    for (const Entry& entry : m_entries) {
+        if (entry.name == (known ? known->name : name) || fullName(entry) == name)
+            entries.push_back(&entry);
+    }
+    return entries;
+}
+
+Entry Catalogue::withFamily(const Entry& entry) const
+{
+    Entry complete = entry;
+    if (complete.family.empty())
+        complete.family = m_families.familyOf(entry.name, entry.dll);
+    return complete;
+}
+
+bool Catalogue::hasFamily(const std::string& id) const
+{
+    return id == "other" ||
+           std::any_of(m_families.all().begin(), m_families.all().end(),
+                       [&](const Family& family) { return family.id == id; }) ||
+           std::any_of(m_entries.begin(), m_entries.end(),
+                       [&](const Entry& entry) { return entry.family == id; });
+}
+
+// A name that stands by itself comes before the same one in a namespace, which a program of Windows
+// does not know.
+void Catalogue::indexEntries()
+{
+    for (const Entry& entry : m_entries) {
+        if (entry.scope.empty())
+            indexUnscoped(entry);
+        else
+            indexScoped(entry);
+    }
+    for (const Entry& entry : m_entries) {
+        if (entry.kind != "method" && !findClass(entry.scope))
+            indexUnscoped(entry);
+    }
+    indexLetters();
+}
+
+void Catalogue::indexUnscoped(const Entry& entry)
+{
+    m_names.emplace(entry.name, &entry);
+}
+
+void Catalogue::indexLetters()
+{
+    std::vector<const Entry*> entries;
+    for (const auto& name : m_names)
+        entries.push_back(name.second);
+    for (const Entry* const entry : entries) {
+        if (!mayHaveLetter(*entry))
+            continue;
+        const std::string name = withoutLetter(*entry);
+        m_names.emplace(keep(name), entry);
+        m_names.emplace(keep(name + "A"), entry);
+        m_names.emplace(keep(name + "W"), entry);
+    }
+}
+
+void Catalogue::indexScoped(const Entry& entry)
+{
+    m_scopedNames.emplace(keep(fullName(entry)), &entry);
+    if (mayHaveLetter(entry)) {
+        m_scopedNames.emplace(keep(fullName(entry) + "A"), &entry);
+        m_scopedNames.emplace(keep(fullName(entry) + "W"), &entry);
+    }
+}
+
+void Catalogue::addMfcClasses(std::vector<Entry>&& classes)
+{
+    for (Entry& entry : classes) {
+        if (find(entry.name))
+            continue;
+        m_entries.push_back(std::move(entry));
+        indexUnscoped(m_entries.back());
+    }
+}
+
+void Catalogue::addWindowsNames(const std::vector<WindowsName>& names)
+{
+    std::set<std::string_view> all;
+    for (const WindowsName& name : names)
+        all.insert(name.name);
+    for (const WindowsName& name : names) {
+        m_dlls.insert(name.dll);
+        addWindowsName(name, hasLetter(name.name) && all.count(otherLetter(name.name)) > 0);
+    }
+}
+
+void Catalogue::addWindowsName(const WindowsName& name, bool hasBothLetters)
+{
+    if (find(name.name))
+        return;
+    const std::string folded = name.name.substr(0, name.name.size() - (hasBothLetters ? 1 : 0));
+    const Entry* entry = find(folded);
+    if (!entry && hasBothLetters)
+        entry = find(otherLetter(name.name));
+    if (!entry)
+        entry = &addUnknown(folded, name.dll);
+    m_names.emplace(keep(folded), entry);
+    m_names.emplace(keep(name.name), entry);
+}
+
+const Entry& Catalogue::addUnknown(const std::string& name, const std::string& dll)
+{
+    const Entry*& entry = m_unknown[name];
+    if (!entry) {
+        Entry unknown;
+        unknown.name = name;
+        unknown.kind = "function";
+        unknown.dll = dll;
+        m_entries.push_back(unknown);
+        entry = &m_entries.back();
+    }
+    return *entry;
+}
+
+std::string_view Catalogue::keep(std::string text)
+{
+    m_texts.push_back(std::move(text));
+    return m_texts.back();
+}
+
+} // namespace ktqtbase::audit

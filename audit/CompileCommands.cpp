@@ -1,0 +1,46 @@
+// SPDX-License-Identifier: MIT
+#include "CompileCommands.h"
+#include "TextFile.h"
+
+#include <llvm/Support/JSON.h>
+
+#include <filesystem>
+#include <stdexcept>
+
+namespace json = llvm::json;
+namespace fs = std::filesystem;
+
+namespace ktqtbase::audit {
+
+namespace {
+
+std::string sourceOf(const json::Object& command, const fs::path& base)
+{
+    const auto folder = command.getString("directory");
+    const auto file = command.getString("file");
+    if (!file)
+        throw std::runtime_error("no list of compile commands");
+    const fs::path directory = folder ? base / folder->str() : base;
+    return (directory / file->str()).lexically_normal();
+}
+
+} // namespace
+
+std::vector<std::string> readCompileCommands(const std::string& path)
+{
+    llvm::Expected<json::Value> value = json::parse(readTextFile(path));
+    if (!value)
+        throw std::runtime_error(llvm::toString(value.takeError()));
+    const json::Array* const commands = value->getAsArray();
+    if (!commands)
+        throw std::runtime_error("no list of compile commands");
+    std::vector<std::string> sources;
+    for (const json::Value& command : *commands) {
+        const json::Object* const object = command.getAsObject();
+        sources.push_back(
+            sourceOf(object ? *object : json::Object(), fs::path(path).parent_path()));
+    }
+    return sources;
+}
+
+} // namespace ktqtbase::audit

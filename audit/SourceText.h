@@ -1,0 +1,17 @@
+// SPDX-License-Identifier: MIT
+//
+// Reads sources in the encodings that Windows' tools write.
+#ifndef KTQTBASE_AUDIT_SOURCETEXT_H
+#define KTQTBASE_AUDIT_SOURCETEXT_H
+
+#include <string>
+
+namespace ktqtbase::audit {
+
+// The bytes of a source; UTF-16 with its mark, as resource scripts often are, comes as UTF-8.
+// Throws a std::exception if the file cannot be read.
+std::string readSourceText(const std::string& path);
+
+} // namespace ktqtbase::audit
+
+#endif

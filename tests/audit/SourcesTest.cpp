@@ -1,0 +1,138 @@
+// SPDX-License-Identifier: MIT
+#include "AuditRun.h"
+#include "support/RowName.h"
+
+#include <gmock/gmock.h>
+
+using namespace ktqtbase::test;
+using testing::ElementsAre;
+using testing::IsEmpty;
+
+namespace {
+
+struct SourceRow
+{
+    const char* name;
+    std::string text;
+    std::vector<std::string> places; // of CopyFile
+};
+
+void PrintTo(const SourceRow& row, std::ostream* out)
+{
+    *out << row.text;
+}
+
+class AuditedSource : public testing::TestWithParam<SourceRow>
+{};
+
+const SourceRow kRows[] = {
+    {"Call", "\nx = CopyFile(a, b, 0);\n", {"main.cpp:2"}},
+    {"EachCall",
+     "CopyFile(a);\n\nCopyFile(b); CopyFile(c);\n",
+     {"main.cpp:1", "main.cpp:3", "main.cpp:3"}},
+    {"NameWithoutCall", "auto* copy = &CopyFile;\n", {"main.cpp:1"}},
+    {"WideLetter", "CopyFileW(a, b, 0);\n", {"main.cpp:1"}},
+    {"NarrowLetter", "CopyFileA(a, b, 0);\n", {"main.cpp:1"}},
+    {"GlobalScope", "::CopyFile(a, b, 0); return ::CopyFile(b);\n", {"main.cpp:1", "main.cpp:1"}},
+    {"Macro", "#define COPY(a) \\\n    CopyFile(a, 0)\n", {"main.cpp:2"}},
+    {"CarriageReturns", "int a;\r\nCopyFile(a);\r\n", {"main.cpp:2"}},
+    {"ByteOrderMark",
+     "\xEF\xBB\xBF"
+     "CopyFile(a);\n",
+     {"main.cpp:1"}},
+    {"LineComment", "// CopyFile(a)\nCopyFile(b);\n", {"main.cpp:2"}},
+    {"ContinuedLineComment", "// why \\\nCopyFile(a)\nCopyFile(b);\n", {"main.cpp:3"}},
+    {"BlockComment", "/* CopyFile(a)\n CopyFile(b) */ CopyFile(c);\n", {"main.cpp:2"}},
+    {"Text", "f(\"CopyFile\", L\"CopyFile(\\\"CopyFile\");\n", {}},
+    {"RawText", "f(R\"x(\")\nCopyFile\n)x\");\nCopyFile(a);\n", {"main.cpp:4"}},
+    {"DigitSeparators", "int a = 1'000; CopyFile(a); int b = 1'000;\n", {"main.cpp:1"}},
+    {"CutName", "Copy\\\nFile(a);\nCopyFile(b);\n", {"main.cpp:1", "main.cpp:3"}},
+    {"HeaderName", "#include <CopyFile.h>\n#include \"CopyFile\"\n", {}},
+    {"Error", "#error CopyFile isn't here\nCopyFile(a);\n", {"main.cpp:2"}},
+    {"DeadCode",
+     "#if 0\n#if X\nCopyFile(a);\n#endif\nCopyFile(b);\n#endif\nCopyFile(c);\n",
+     {"main.cpp:7"}},
+    {"ElseOfDeadCode", "#if 0\nCopyFile(a);\n#else\nCopyFile(b);\n#endif\n", {"main.cpp:4"}},
+    {"ConditionalCode", "#if 0 || X\nCopyFile(a);\n#endif\n", {"main.cpp:2"}},
+    {"Member", "a.CopyFile(b); a->CopyFile(b);\n", {}},
+    {"OtherScope", "Tools::CopyFile(b); Tool<int>::CopyFile(b);\n", {}},
+    {"PartOfName", "MyCopyFile(a); CopyFiles(a); CopyFileX(a);\n", {}},
+    {"WithoutLineEnd", "CopyFile", {"main.cpp:1"}},
+    {"UnclosedText", "f(\"CopyFile\nCopyFile(a);\n", {"main.cpp:2"}},
+    {"UnclosedComment", "CopyFile(a); /* CopyFile(b)\n", {"main.cpp:1"}},
+    {"ZeroByte", std::string("int a;\0 CopyFile(a);\n", 21), {"main.cpp:1"}},
+};
+
+} // namespace
+
+TEST_P(AuditedSource, HasTheNameInThesePlaces)
+{
+    EXPECT_EQ(auditSource(GetParam().text).places("CopyFile"), GetParam().places);
+}
+
+INSTANTIATE_TEST_SUITE_P(Audit, AuditedSource, testing::ValuesIn(kRows), RowName());
+
+TEST(Audit, TellsTheGroupOfEachName)
+{
+    const AuditRun run = auditSource("BOOL a = CopyFile(b); CreateFile(c); GetTempFileNameW(d);\n"
+                                     "CreateThread(e); CFrameWnd f; LOGFONT g; other(MB_OK);\n");
+    EXPECT_EQ(run.status(), 0);
+    EXPECT_THAT(run.names(), ElementsAre("BOOL works", "CFrameWnd not-here", "CopyFile differs",
+                                         "CreateFile inert", "CreateThread not-here",
+                                         "GetTempFileName works", "LOGFONTW works", "MB_OK works"));
+}
+
+TEST(Audit, FindsNamesInTheLibrarysScopes)
+{
+    const AuditRun run =
+        auditSource("KtKernel32::CopyFile(a);\nint (CRbUiPathname::*f)() = &CRbUiPathname::Parse;\n"
+                    "Parse(b);\n");
+    EXPECT_THAT(run.places("KtKernel32::CopyFile"), ElementsAre("main.cpp:1"));
+    EXPECT_THAT(run.places("CRbUiPathname::Parse"), ElementsAre("main.cpp:2"));
+    EXPECT_THAT(run.places("CopyFile"), IsEmpty());
+    EXPECT_THAT(run.places("Parse"), IsEmpty());
+}
+
+TEST(Audit, FoldsTheLettersOfNamesThatAreNotHere)
+{
+    const AuditRun run =
+        auditSource("CreateWindowExW(a);\nCreateWindowExA(a);\nCreateWindowEx(a);\n"
+                    "CommandLineToArgvW(b); CommandLineToArgv(b);\n");
+    EXPECT_THAT(run.places("CreateWindowEx"),
+                ElementsAre("main.cpp:1", "main.cpp:2", "main.cpp:3"));
+    EXPECT_THAT(run.places("CommandLineToArgvW"), ElementsAre("main.cpp:4"));
+}
+
+TEST(Audit, FoldsAnEntryThatHasItsLetter)
+{
+    const AuditRun run = auditSource("EnumForms(a);\nEnumFormsW(a);\nEnumFormsA(a);\n");
+    EXPECT_THAT(run.places("EnumFormsW"), ElementsAre("main.cpp:1", "main.cpp:2", "main.cpp:3"));
+}
+
+TEST(Audit, TakesAWordInSmallLettersForAFunctionOnlyWhereItIsCalled)
+{
+    const AuditRun run = auditSource("int ldap_open = 1;\nldap_open(a);\n");
+    EXPECT_THAT(run.places("ldap_open"), ElementsAre("main.cpp:2"));
+}
+
+TEST(Audit, ReadsAResourceScriptInUtf16)
+{
+    const std::string text = "/* */ MB_OK\nBOOL\n";
+    std::string wide = "\xFF\xFE";
+    for (const char ch : text)
+        wide += {ch, '\0'};
+    const AuditRun run = auditSource(wide, "main.rc");
+    EXPECT_THAT(run.places("MB_OK"), ElementsAre("main.rc:1"));
+    EXPECT_THAT(run.places("BOOL"), ElementsAre("main.rc:2"));
+}
+
+TEST(Audit, TellsOfAResourceScriptThatIsCutOff)
+{
+    const AuditRun run = auditSource("\xFF\xFE"
+                                     "a",
+                                     "main.rc");
+    EXPECT_EQ(run.status(), 2);
+    EXPECT_THAT(run.errors(),
+                testing::EndsWith("main.rc: not UTF-16 text, though it begins with its "
+                                  "mark\n"));
+}
