@@ -99,7 +99,7 @@ Format format(const QCommandLineParser& parser)
 // An empty text would be taken for an option that is not there.
 std::string value(const QCommandLineParser& parser, const QString& option)
 {
-    const std::string text = narrow(parser.value(option));
+    std::string text = narrow(parser.value(option));
     if (parser.isSet(option) && text.empty())
         throw ArgumentError("--" + narrow(option) + " needs a value");
     return text;

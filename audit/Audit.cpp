@@ -13,17 +13,19 @@ namespace ktqtbase::audit {
 
 namespace {
 
-// Names without a capital, such as "send", are words that a program may use for anything.
-bool isPlainWord(std::string_view name)
+bool hasCapital(std::string_view name)
 {
-    return std::none_of(name.begin(), name.end(), [](char ch) { return ch >= 'A' && ch <= 'Z'; });
+    return std::any_of(name.begin(), name.end(), [](char ch) { return ch >= 'A' && ch <= 'Z'; });
 }
 
+// Functions without a capital, such as "lstrlen", have names that a program may give to anything.
 const Entry* lookUp(const Catalogue& catalogue, const SourceName& name)
 {
-    if (name.isMember || (!name.isCalled && isPlainWord(name.name)))
+    if (name.isMember)
         return nullptr;
-    return catalogue.find(name.scope, name.name);
+    const Entry* const entry = catalogue.find(name.scope, name.name);
+    const bool isOther = entry && isFunction(*entry) && !name.isCalled && !hasCapital(name.name);
+    return isOther ? nullptr : entry;
 }
 
 class Auditor

@@ -38,10 +38,10 @@ std::string otherLetter(std::string name)
     return name;
 }
 
-// Records are declared with the letter of wide characters, and used without it.
+// Records and some functions are declared with the letter of wide characters, and used without it.
 std::string withoutLetter(const Entry& entry)
 {
-    const bool hasW = entry.kind == "record" && entry.name.size() > 1 && entry.name.back() == 'W';
+    const bool hasW = entry.kind != "type" && entry.name.size() > 1 && entry.name.back() == 'W';
     return entry.name.substr(0, entry.name.size() - (hasW ? 1 : 0));
 }
 
@@ -117,8 +117,11 @@ std::vector<const Entry*> Catalogue::explain(const std::string& name) const
 {
     std::vector<const Entry*> entries;
     const Entry* const known = find(name);
+    if (known)
+        entries.push_back(known);
     for (const Entry& entry : m_entries) {
-        if (entry.name == (known ? known->name : name) || fullName(entry) == name)
+        const bool isOther = entry.name == name || (known && entry.name == known->name);
+        if (&entry != known && (isOther || fullName(entry) == name))
             entries.push_back(&entry);
     }
     return entries;
@@ -141,21 +144,36 @@ bool Catalogue::hasFamily(const std::string& id) const
                        [&](const Entry& entry) { return entry.family == id; });
 }
 
-// A name that stands by itself comes before the same one in a namespace, which a program of Windows
-// does not know.
+// The porting headers give again, under the other form of their names, what the library has.
 void Catalogue::indexEntries()
 {
+    indexOwnNames();
     for (const Entry& entry : m_entries) {
-        if (entry.scope.empty())
+        if (entry.porting && entry.scope.empty()) {
             indexUnscoped(entry);
-        else
+            indexLetters(entry);
+        }
+        if (!entry.scope.empty())
             indexScoped(entry);
     }
+}
+
+// A name that stands by itself comes before the same one in a namespace, which a program of Windows
+// does not know.
+void Catalogue::indexOwnNames()
+{
     for (const Entry& entry : m_entries) {
-        if (entry.kind != "method" && !findClass(entry.scope))
+        if (!entry.porting && entry.scope.empty())
             indexUnscoped(entry);
     }
-    indexLetters();
+    for (const Entry& entry : m_entries) {
+        if (!entry.porting && entry.kind != "method" && !findClass(entry.scope))
+            indexUnscoped(entry);
+    }
+    for (const Entry& entry : m_entries) {
+        if (!entry.porting)
+            indexLetters(entry);
+    }
 }
 
 void Catalogue::indexUnscoped(const Entry& entry)
@@ -163,19 +181,15 @@ void Catalogue::indexUnscoped(const Entry& entry)
     m_names.emplace(entry.name, &entry);
 }
 
-void Catalogue::indexLetters()
+// Of several entries only the one that its name stands for has the name's other forms.
+void Catalogue::indexLetters(const Entry& entry)
 {
-    std::vector<const Entry*> entries;
-    for (const auto& name : m_names)
-        entries.push_back(name.second);
-    for (const Entry* const entry : entries) {
-        if (!mayHaveLetter(*entry))
-            continue;
-        const std::string name = withoutLetter(*entry);
-        m_names.emplace(keep(name), entry);
-        m_names.emplace(keep(name + "A"), entry);
-        m_names.emplace(keep(name + "W"), entry);
-    }
+    if (find(entry.name) != &entry || !mayHaveLetter(entry))
+        return;
+    const std::string name = withoutLetter(entry);
+    m_names.emplace(keep(name), &entry);
+    m_names.emplace(keep(name + "A"), &entry);
+    m_names.emplace(keep(name + "W"), &entry);
 }
 
 void Catalogue::indexScoped(const Entry& entry)

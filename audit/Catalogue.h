@@ -47,7 +47,7 @@ public:
     // knows is not here.
     const Entry& imported(const std::string& dll, const std::string& name);
 
-    // Every entry of that name, in any scope.
+    // Every entry of that name, in any scope, and first the one that a program means by it.
     std::vector<const Entry*> explain(const std::string& name) const;
 
     // The entry with its family, which is looked for only in names that somebody uses.
@@ -61,8 +61,9 @@ private:
 
     const Entry* findClass(std::string_view scope) const;
     void indexEntries();
+    void indexOwnNames();
     void indexUnscoped(const Entry& entry);
-    void indexLetters();
+    void indexLetters(const Entry& entry);
     void indexScoped(const Entry& entry);
     void addMfcClasses(std::vector<Entry>&& classes);
     void addWindowsNames(const std::vector<WindowsName>& names);

@@ -63,7 +63,7 @@ void writeFile(json::OStream& out, const Report& report, PlaceIterator& place, P
 
 void writePlaces(json::OStream& out, const Report& report, const Use& use)
 {
-    PlaceIterator place = use.places.begin();
+    auto place = use.places.begin();
     while (place != use.places.end())
         out.object([&] { writeFile(out, report, place, use.places.end()); });
 }

@@ -80,8 +80,8 @@ std::vector<const Use*> takeFamily(UseIterator& use, UseIterator end)
 void writeGroup(const Report& report, Group group, const Style& style, llvm::raw_ostream& out)
 {
     const auto isOther = [&](const Use& use) { return use.entry.group != group; };
-    UseIterator use = std::find_if_not(report.uses.begin(), report.uses.end(), isOther);
-    const UseIterator end = std::find_if(use, report.uses.end(), isOther);
+    auto use = std::find_if_not(report.uses.begin(), report.uses.end(), isOther);
+    const auto end = std::find_if(use, report.uses.end(), isOther);
     if (use == end)
         return;
     const std::string heading = upperCase(title(group)) + " (" + std::to_string(end - use) + ")";

@@ -202,6 +202,14 @@ TEST(Audit, ExplainsANameInEachScope)
                 testing::StartsWith("KtKernel32::CopyFile, function"));
 }
 
+TEST(Audit, ExplainsANameThatThePortingHeadersHave)
+{
+    const std::string text = runAudit({"--explain", "EnumForms"}).out;
+    EXPECT_THAT(text, testing::StartsWith("EnumFormsW, function: inert\n"));
+    EXPECT_THAT(text, HasSubstr("EnumForms, function: inert\n  Family: Other names\n"
+                                "  Header: KtQtBase/Porting.h\n"));
+}
+
 TEST(Audit, ExplainsANameThatIsNotHere)
 {
     EXPECT_EQ(runAudit({"--explain", "CreateWindowExW"}).out, "CreateWindowEx, function: not here\n"

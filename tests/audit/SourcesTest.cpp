@@ -109,6 +109,18 @@ TEST(Audit, FoldsAnEntryThatHasItsLetter)
     EXPECT_THAT(run.places("EnumFormsW"), ElementsAre("main.cpp:1", "main.cpp:2", "main.cpp:3"));
 }
 
+TEST(Audit, FoldsTheNamesOfThePortingHeadersIntoTheLibrarysOwn)
+{
+    const AuditRun run = auditSource("CopyFileW(a); EnumForms(b); LOGFONT c; LPLOGFONTW d;\n");
+    EXPECT_THAT(run.names(), ElementsAre("CopyFile differs", "EnumFormsW inert", "LOGFONTW works",
+                                         "LPLOGFONT works"));
+}
+
+TEST(Audit, FindsMacrosInSmallLetters)
+{
+    EXPECT_THAT(auditSource("afx_msg void OnPaint();\n").names(), ElementsAre("afx_msg works"));
+}
+
 TEST(Audit, TakesAWordInSmallLettersForAFunctionOnlyWhereItIsCalled)
 {
     const AuditRun run = auditSource("int ldap_open = 1;\nldap_open(a);\n");
