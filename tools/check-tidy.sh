@@ -1,7 +1,7 @@
 #!/usr/bin/env bash
 # SPDX-License-Identifier: MIT
-# Runs clang-tidy over the sources of the library and of ktqt-audit, by the checks of .clang-tidy,
-# on every core.
+# Runs clang-tidy over the sources of the library, or those that are named, by the checks of
+# .clang-tidy, on every core.
 #
 #     tools/check-tidy.sh BUILD_DIR [SOURCE...]    the build folder has the compile commands
 set -euo pipefail
@@ -15,7 +15,7 @@ sources() {
     if [ $# -gt 0 ]; then
         printf '%s\0' "$@"
     else
-        git ls-files -z 'src/*.cpp' 'audit/*.cpp'
+        git ls-files -z 'src/*.cpp'
     fi
 }
 

@@ -342,7 +342,7 @@ FindsHomebrewsQt6() {
     play CMAKE_PREFIX_PATH=/mine PKG_CONFIG_PATH=/mine/pc ./run test qt6
     expect_end "Installing: qt" "brew install qt
 cmake --preset qt6
-/brew/llvm:/brew/qt:/mine /brew/llvm/lib/pkgconfig:/brew/qt/lib/pkgconfig:/mine/pc" 1
+/brew/qt:/mine /brew/qt/lib/pkgconfig:/mine/pc" 1
 }
 
 GoesOnWithoutHomebrew() {
