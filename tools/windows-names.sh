@@ -62,7 +62,7 @@ done | sort -u >"$scratch/runtime"
 } | grep -vP "$elsewhere" | awk -F '\t' '!seen[$1]++' | sort >"$scratch/names"
 
 {
-    echo '# SPDX-License-Identifier: MIT'
+    sed -n 2p tools/windows-names.sh
     echo '# Made by tools/windows-names.sh: functions of the Windows API and the libraries that'
     echo '# export them, of the first one where several do. Left out: the C and C++ run-times,'
     echo '# sockets and OpenGL under the names that other systems have, too, and libraries of'

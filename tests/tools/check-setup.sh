@@ -184,6 +184,23 @@ apt-get install -y --no-install-recommends qt6-base-dev
 ${built//release/qt6}" 0
 }
 
+AuditsFromTheCallersFolder() {
+    lay_out_debian
+    mkdir -p "$work/project/build/release/audit" "$work/project/app"
+    fake ktqt-audit 'echo "${PWD##*/}: $*"; exit 3'
+    mv "$work/bin/ktqt-audit" "$work/project/build/release/audit"
+    play bash -c "cd app && ../run audit app.exe --json"
+    expect_end "app: app.exe --json" "cmake --preset release
+cmake --build --preset release --parallel 2 --target ktqt-audit" 3
+}
+
+AuditsNothingWithoutAFile() {
+    lay_out_debian
+    play ./run audit
+    expect "What was called" "$(cat "$work/calls")" ""
+    expect "The exit status" "$status" 2
+}
+
 # The build folder holds no programs, which is where this run ends.
 InstallsTheOtherArchitecture() {
     lay_out_debian

@@ -11,7 +11,7 @@
 class MainWindow;
 
 // Replays a session from a file with one command on each line, and prints what the program showed.
-// docs/porting.md lists the commands. Relative names lie in the working directory.
+// docs/sketchpad.md lists the commands. Relative names lie in the working directory.
 class ScriptPlayer : public QObject
 {
     Q_OBJECT
