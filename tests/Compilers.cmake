@@ -24,9 +24,10 @@ endif()
 separate_arguments(build_flags UNIX_COMMAND "${CMAKE_CXX_FLAGS}")
 set(KTQTBASE_HOST_COMPILER ${CMAKE_CXX_COMPILER} ${build_flags} ${host_options}
     -I${KTQTBASE_GENERATED_INCLUDE})
-# Without the header that tells of the build, since its C++ library may be another one.
+# Without the header that tells of the build, since its C++ library may be another one. The other
+# compiler is the same in each build, so that one of them is enough.
 set(KTQTBASE_OTHER_HOST_COMPILER "")
-if(KTQTBASE_OTHER_CXX)
+if(KTQTBASE_OTHER_CXX AND NOT KTQTBASE_WHOLE_TEST_PROGRAMS)
     set(KTQTBASE_OTHER_HOST_COMPILER ${KTQTBASE_OTHER_CXX} ${host_options})
 endif()
 

@@ -31,7 +31,7 @@ TEST_IN_SOURCE = re.compile(r"^TEST(?:_F|_P)?\((\w+),\s*(\w+)\)", re.MULTILINE)
 TEST_IN_CMAKE = re.compile(r"add_test\(NAME (\w+\.\w+)")
 TEST_IN_CTEST = re.compile(r"^ *Test +#\d+: (?:\w+/)?(\w+\.\w+)", re.MULTILINE)
 SYMBOL_PREFIX = re.compile(r"^(typeinfo name|typeinfo|vtable) for ")
-WINDOWS_NAME = re.compile(r"[A-Za-z]\w*\t[a-z0-9_-]+\.[a-z]+")
+WINDOWS_NAME = re.compile(r"[A-Za-z_]\w*\t[a-z0-9_-]+\.[a-z]+")
 
 
 def read_json(path):

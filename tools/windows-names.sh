@@ -27,13 +27,17 @@ libraries="kernel32 user32 gdi32 advapi32 shell32 shlwapi comdlg32 comctl32 ole3
     normaliz prntvpt sti fxsapi winfax riched20 dbgeng srclient wimgapi wofutil webauthn tbs
     ntdll"
 
-# What both kinds of system have is not of the Windows API alone: the C library, sockets and OpenGL.
-# A name without a capital is mostly one of these, or a debugger's command.
+# What both kinds of system have is not of the Windows API alone: the C library, sockets, LDAP and
+# OpenGL. A name without a capital is mostly one of these, or a debugger's command.
 runtimes="msvcrt msvcrt-os ucrtbase mingwex moldname"
-elsewhere='^[a-z0-9_]+\t(?!kernel32|user32|wldap32)|^glu?[A-Z0-9].*\topengl32|^ord_|^WEP\t'
+elsewhere='^(?!(close|ioctl)socket\t)[a-z0-9_]+\t(?!kernel32|user32)|^glu?[A-Z0-9].*\topengl32'
+elsewhere+='|^(ber|cldap|gai|ldap)_|^ord_|^WEP\t'
 
-# Functions that the headers of Windows make of others, so that no library exports them.
-macros() {
+# Functions that the headers of Windows make of others, so that no library exports them, and those
+# few with an underscore in front that no run-time library has.
+more_functions() {
+    printf '%s\tkernel32.dll\n' _hread _hwrite _lclose _lcreat _llseek _lopen _lread _lwrite
+    printf '%s\tcomctl32.dll\n' _TrackMouseEvent
     printf '%s\tkernel32.dll\n' CopyMemory FillMemory InterlockedAnd InterlockedCompareExchange \
         InterlockedDecrement InterlockedExchange InterlockedExchangeAdd InterlockedIncrement \
         InterlockedOr InterlockedXor MoveMemory SecureZeroMemory YieldProcessor ZeroMemory
@@ -58,7 +62,7 @@ done | sort -u >"$scratch/runtime"
     for library in $libraries; do
         functions "$library" | comm -23 - "$scratch/runtime" | sed "s/\$/\t$(dll "$library")/"
     done
-    macros
+    more_functions
 } | grep -vP "$elsewhere" | awk -F '\t' '!seen[$1]++' | sort >"$scratch/names"
 
 {

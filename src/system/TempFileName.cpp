@@ -30,9 +30,13 @@ void makeUniquePart(unsigned int number, char (&unique)[kUniqueRoom])
         return;
     }
     std::snprintf(unique, sizeof unique, "XXXXXX");
+    // macOS marks mktemp as deprecated, since it makes no file; here the host makes it.
+#pragma GCC diagnostic push
+#pragma GCC diagnostic ignored "-Wdeprecated-declarations"
     // NOLINTNEXTLINE(clang-analyzer-security.insecureAPI.mktemp): the host makes the file
     if (!mktemp(unique))
         unique[0] = '\0';
+#pragma GCC diagnostic pop
 }
 
 } // namespace
