@@ -19,6 +19,7 @@
 namespace {
 
 constexpr int kWrongUse = 2;
+constexpr int kNothingWritten = 2;
 
 struct Options
 {
@@ -48,6 +49,19 @@ void describe(QCommandLineParser& parser)
     parser.addPositionalArgument("program", "The program to run.", "PROGRAM");
     parser.addPositionalArgument("arguments", "Its arguments.", "[ARGUMENTS]");
     parser.setOptionsAfterPositionalArgumentsMode(QCommandLineParser::ParseAsPositionalArguments);
+}
+
+// Reads the command line; where help or the version is asked for, tells it and ends.
+bool parse(QCommandLineParser& parser, const QStringList& words)
+{
+    const bool isParsed = parser.parse(words);
+    if (!isParsed)
+        complain(parser.errorText() + " See ktqt-trace --help.");
+    else if (parser.isSet("help"))
+        parser.showHelp();
+    else if (parser.isSet("version"))
+        parser.showVersion();
+    return isParsed;
 }
 
 bool isRight(const QCommandLineParser& parser)
@@ -101,11 +115,15 @@ trace::Variables variablesFor(const QString& recorder, const QString& recordFile
 
 // ---- The run -----------------------------------------------------------------------------------
 
-void print(const trace::Record& record, const trace::Run& run, const Options& options, FILE* to)
+bool print(const trace::Record& record, const trace::Run& run, const Options& options, FILE* to)
 {
     const std::string text = options.isJson ? trace::jsonOf(record, run, options.only)
                                             : trace::tableOf(record, run, options.only);
-    std::fwrite(text.data(), 1, text.size(), to);
+    const bool isWritten =
+        std::fwrite(text.data(), 1, text.size(), to) == text.size() && std::fflush(to) == 0;
+    if (!isWritten)
+        complain("cannot write " + (options.output.isEmpty() ? "the list" : options.output));
+    return isWritten;
 }
 
 // An output that cannot be written is told before the program runs, not after hours.
@@ -143,8 +161,7 @@ int traceProgram(char* const* arguments, const trace::Variables& environment,
         trace::withVariables(environment, variablesFor(recorderFile(), file.fileName())));
     if (status < 0)
         return -status;
-    print(*record, {arguments[0], status}, options, output);
-    return status;
+    return print(*record, {arguments[0], status}, options, output) ? status : kNothingWritten;
 }
 
 // ---- The arguments -----------------------------------------------------------------------------
@@ -171,8 +188,7 @@ int main(int argc, char** argv)
     QCoreApplication::setApplicationVersion(KTQTBASE_TRACE_VERSION);
     QCommandLineParser parser;
     describe(parser);
-    parser.process(textsOf(arguments));
-    if (!isRight(parser))
+    if (!parse(parser, textsOf(arguments)) || !isRight(parser))
         return kWrongUse;
     const auto count = static_cast<size_t>(parser.positionalArguments().size());
     arguments.push_back(nullptr);

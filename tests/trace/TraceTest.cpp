@@ -306,6 +306,14 @@ TEST(Trace, RunsNothingWhereTheOutputCannotBeWritten)
     EXPECT_EQ(host.err, "ktqt-trace: cannot write /no/such/folder/x\n");
 }
 
+TEST(Trace, TellsThatTheListDidNotFitOnTheDisk)
+{
+    const ProgramResult host = trace({"--output", "/dev/full", TRACE_CALLS, "say", "x"});
+    EXPECT_EQ(host.status, 2);
+    EXPECT_EQ(host.out, "x\n");
+    EXPECT_EQ(host.err, "ktqt-trace: cannot write /dev/full\n");
+}
+
 TEST(Trace, TellsThatTheLibraryWasNotLoaded)
 {
     const ProgramResult host = trace({"sh", "-c", "exit 6"});
@@ -332,6 +340,9 @@ TEST(Trace, RefusesWrongUse)
 {
     EXPECT_EQ(trace({}).status, 2);
     EXPECT_EQ(trace({"--only", "works", TRACE_CALLS}).status, 2);
+    const ProgramResult unknown = trace({"--bogus", TRACE_CALLS});
+    EXPECT_EQ(unknown.status, 2);
+    EXPECT_EQ(unknown.err, "ktqt-trace: Unknown option 'bogus'. See ktqt-trace --help.\n");
 }
 
 // ---- Where it lies -----------------------------------------------------------------------------
