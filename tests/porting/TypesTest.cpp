@@ -264,3 +264,39 @@ TEST(PortingMacros, LeaveAFunctionAsItIs)
     zeroed(numbers, numbers + 1, &first);
     EXPECT_EQ(numbers[0] + numbers[1], 0);
 }
+
+_Success_(return != 0) _Must_inspect_result_ _Check_return_
+    static int updated(_In_reads_opt_(count) const int* from, _In_range_(0, 9) int count,
+                       _Out_writes_to_(count, count) int* to, _Inout_updates_(count) int* used,
+                       _Inout_updates_bytes_(4) int* bytes)
+{
+    *to = from ? *from : count;
+    return *used + *bytes;
+}
+
+_Ret_maybenull_ static const char* formatted(_Out_writes_z_(2) char* text,
+                                             _Out_writes_opt_(1) char* first,
+                                             _In_z_ _Printf_format_string_ const char* format)
+{
+    text[0] = format[0];
+    text[1] = '\0';
+    return first ? nullptr : text;
+}
+
+_Use_decl_annotations_ _Ret_notnull_ static int* kept(_COM_Outptr_ int** a, _Outptr_opt_ int** b,
+                                                      _Frees_ptr_opt_ int* c)
+{
+    return *a = *b = c;
+}
+
+TEST(PortingMacros, LeaveAnnotatedFunctionsAsTheyAre)
+{
+    int numbers[] = {3, 4};
+    int* first = nullptr;
+    int* second = nullptr;
+    char text[2] = {};
+    EXPECT_EQ(updated(numbers, 1, numbers + 1, numbers, numbers + 1), 6);
+    EXPECT_STREQ(formatted(text, nullptr, "%d"), "%");
+    EXPECT_EQ(kept(&first, &second, numbers), numbers);
+    EXPECT_EQ(first, second);
+}
