@@ -184,17 +184,35 @@ struct SizeRow
     }
 
 static const SizeRow kSizes[] = {
-    SIZE_ROW(ATOM, 2),      SIZE_ROW(BOOLEAN, 1), SIZE_ROW(CHAR, 1),      SIZE_ROW(DWORD64, 8),
-    SIZE_ROW(DWORD_PTR, 8), SIZE_ROW(FLOAT, 4),   SIZE_ROW(INT, 4),       SIZE_ROW(INT_PTR, 8),
-    SIZE_ROW(LCID, 4),      SIZE_ROW(LANGID, 2),  SIZE_ROW(LONG_PTR, 8),  SIZE_ROW(LONGLONG, 8),
-    SIZE_ROW(LPVOID, 8),    SIZE_ROW(SHORT, 2),   SIZE_ROW(SIZE_T, 8),    SIZE_ROW(UCHAR, 1),
-    SIZE_ROW(UINT_PTR, 8),  SIZE_ROW(ULONG, 4),   SIZE_ROW(ULONGLONG, 8), SIZE_ROW(ULONG_PTR, 8),
-    SIZE_ROW(USHORT, 2)};
+    SIZE_ROW(ATOM, 2),      SIZE_ROW(BOOLEAN, 1),       SIZE_ROW(CHAR, 1),
+    SIZE_ROW(DWORD64, 8),   SIZE_ROW(DWORD_PTR, 8),     SIZE_ROW(FLOAT, 4),
+    SIZE_ROW(INT, 4),       SIZE_ROW(INT_PTR, 8),       SIZE_ROW(LCID, 4),
+    SIZE_ROW(LANGID, 2),    SIZE_ROW(LONG_PTR, 8),      SIZE_ROW(LONGLONG, 8),
+    SIZE_ROW(LPVOID, 8),    SIZE_ROW(SHORT, 2),         SIZE_ROW(SIZE_T, 8),
+    SIZE_ROW(UCHAR, 1),     SIZE_ROW(UINT_PTR, 8),      SIZE_ROW(ULONG, 4),
+    SIZE_ROW(ULONGLONG, 8), SIZE_ROW(ULONG_PTR, 8),     SIZE_ROW(USHORT, 2),
+    SIZE_ROW(POINTS, 4),    SIZE_ROW(LARGE_INTEGER, 8), SIZE_ROW(ULARGE_INTEGER, 8),
+    SIZE_ROW(GUID, 16)};
 
 TEST(PortingTypes, HaveTheSizesOfA64BitWindows)
 {
     for (const SizeRow& row : kSizes)
         EXPECT_EQ(row.size, row.expected) << row.name;
+}
+
+TEST(PortingRecords, HaveTheFieldsOfWindows)
+{
+    LARGE_INTEGER size = {};
+    size.QuadPart = -2;
+    EXPECT_EQ(size.LowPart, 0xFFFFFFFEU);
+    EXPECT_EQ(size.u.HighPart, -1);
+    ULARGE_INTEGER count = {};
+    count.HighPart = 0x80000000U;
+    EXPECT_EQ(count.QuadPart, 0x8000000000000000U);
+    const POINTS point = {-1, 2};
+    EXPECT_EQ(point.x + point.y, 1);
+    const GUID number = {1, 2, 3, {4, 5, 6, 7, 8, 9, 10, 11}};
+    EXPECT_EQ(reinterpret_cast<const BYTE*>(&number)[8], number.Data4[0]);
 }
 
 TEST(PortingTypes, TakeWhatGetProcAddressReturns)
@@ -299,4 +317,44 @@ TEST(PortingMacros, LeaveAnnotatedFunctionsAsTheyAre)
     EXPECT_STREQ(formatted(text, nullptr, "%d"), "%");
     EXPECT_EQ(kept(&first, &second, numbers), numbers);
     EXPECT_EQ(first, second);
+}
+
+EXTERN_C int CALLBACK portingTestAnswer();
+STDAPI portingTestResult(int answer);
+
+EXTERN_C int CALLBACK portingTestAnswer()
+{
+    return 42;
+}
+
+STDAPI portingTestResult(int answer)
+{
+    return answer == 42 ? S_OK : S_FALSE;
+}
+
+static FORCEINLINE HRESULT checkedResult()
+{
+    return portingTestResult(portingTestAnswer());
+}
+
+TEST(PortingMacros, DeclareFunctionsOfC)
+{
+    EXPECT_EQ(checkedResult(), S_OK);
+}
+
+DECLARE_HANDLE(HPANEL);
+DECLARE_HANDLE(HPEN);
+
+TEST(PortingMacros, DeclareAKindOfHandle)
+{
+    EXPECT_EQ(sizeof(HPANEL), sizeof(HANDLE));
+    EXPECT_TRUE((std::is_convertible_v<HPANEL, HANDLE>));
+    EXPECT_FALSE((std::is_convertible_v<HPANEL, HPEN>));
+}
+
+TEST(PortingMacros, TellWhereAFieldBegins)
+{
+    EXPECT_EQ(FIELD_OFFSET(GUID, Data1), 0);
+    EXPECT_EQ(FIELD_OFFSET(GUID, Data4[1]), 9);
+    EXPECT_TRUE((std::is_same_v<decltype(FIELD_OFFSET(RECT, top)), LONG>));
 }

@@ -112,6 +112,7 @@ KTQTBASE_PORTING_NAMES(KTQTBASE_PORTING_PUSH)
 #undef FindFirstFile
 #undef FindNextChangeNotification
 #undef FindNextFile
+#undef GUID
 #undef GetCurrentDirectory
 #undef GetCursor
 #undef GetEnvironmentVariableW
@@ -135,6 +136,9 @@ KTQTBASE_PORTING_NAMES(KTQTBASE_PORTING_PUSH)
 #undef HICON
 #undef HLOCAL
 #undef HPEN
+#undef HRESULT_CODE
+#undef HRESULT_FACILITY
+#undef HRESULT_FROM_WIN32
 #undef HRGN
 #undef HRSRC
 #undef INT
@@ -148,6 +152,7 @@ KTQTBASE_PORTING_NAMES(KTQTBASE_PORTING_PUSH)
 #undef IntersectRect
 #undef IsRectEmpty
 #undef LANGID
+#undef LARGE_INTEGER
 #undef LCID
 #undef LOBYTE
 #undef LOGFONT
@@ -205,9 +210,11 @@ KTQTBASE_PORTING_NAMES(KTQTBASE_PORTING_PUSH)
 #undef MAKEINTRESOURCE
 #undef MAKEINTRESOURCEA
 #undef MAKEINTRESOURCEW
+#undef MAKELANGID
 #undef MAKELONG
 #undef MAKELRESULT
 #undef MAKEWORD
+#undef MAKE_HRESULT
 #undef MessageBoxW
 #undef MoveMemory
 #undef MulDiv
@@ -238,6 +245,7 @@ KTQTBASE_PORTING_NAMES(KTQTBASE_PORTING_PUSH)
 #undef PLOGFONTW
 #undef PLOGPALETTE
 #undef PLONG
+#undef POINTS
 #undef PPALETTEENTRY
 #undef PPOINT
 #undef PRECT
@@ -285,6 +293,7 @@ KTQTBASE_PORTING_NAMES(KTQTBASE_PORTING_PUSH)
 #undef UINT64
 #undef UINT8
 #undef UINT_PTR
+#undef ULARGE_INTEGER
 #undef ULONG
 #undef ULONG32
 #undef ULONG64

@@ -11,6 +11,10 @@
 #ifndef KTQTBASE_PORTING_MACROS_H
 #define KTQTBASE_PORTING_MACROS_H
 
+#include <KtQtBase/windows/Scalars.h>
+
+#include <cstddef>
+
 // ---- Truth values -------------------------------------------------------------------------------
 
 #if !defined(TRUE) && !defined(KTQTBASE_PORTING_NO_TRUE)
@@ -83,6 +87,27 @@
 #endif
 #if !defined(__int64) && !defined(KTQTBASE_PORTING_NO___int64)
 #define __int64 long long
+#endif
+#if !defined(EXTERN_C) && !defined(KTQTBASE_PORTING_NO_EXTERN_C)
+#define EXTERN_C extern "C"
+#endif
+#if !defined(STDAPI) && !defined(KTQTBASE_PORTING_NO_STDAPI)
+#define STDAPI extern "C" HRESULT
+#endif
+#if !defined(FORCEINLINE) && !defined(KTQTBASE_PORTING_NO_FORCEINLINE)
+#define FORCEINLINE inline
+#endif
+
+// ---- Declarations and places --------------------------------------------------------------------
+
+// A kind of handle, as the library's own are: no other kind converts into it.
+#if !defined(DECLARE_HANDLE) && !defined(KTQTBASE_PORTING_NO_DECLARE_HANDLE)
+#define DECLARE_HANDLE(name) using name = struct name##__*
+#endif
+
+// Where a field begins in its record. It is an int, as on Windows.
+#if !defined(FIELD_OFFSET) && !defined(KTQTBASE_PORTING_NO_FIELD_OFFSET)
+#define FIELD_OFFSET(type, field) static_cast<int>(offsetof(type, field))
 #endif
 
 // ---- Notes for a reader or a tool ---------------------------------------------------------------

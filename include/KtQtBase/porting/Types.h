@@ -182,6 +182,70 @@ KTQTBASE_PORTING_TYPE(LPPRINTER_DEFAULTS, PRINTER_DEFAULTSW*);      // to open a
 KTQTBASE_PORTING_TYPE(LPOPENFILENAMEW, OPENFILENAMEW*);             // a file dialog
 KTQTBASE_PORTING_TYPE(LPOPENFILENAME, OPENFILENAMEW*);              // a file dialog
 
+// ---- Records -----------------------------------------------------------------------------------
+
+namespace KtPorting {
+
+// A position in two short numbers, 4 bytes.
+struct POINTS
+{
+    short x;
+    short y;
+};
+
+// A number of 64 bits and its two halves, 8 bytes.
+struct LARGE_INTEGER
+{
+    __extension__ union
+    {
+        __extension__ struct
+        {
+            DWORD LowPart;
+            LONG HighPart;
+        };
+        struct
+        {
+            DWORD LowPart;
+            LONG HighPart;
+        } u;
+        long long QuadPart;
+    };
+};
+
+struct ULARGE_INTEGER
+{
+    __extension__ union
+    {
+        __extension__ struct
+        {
+            DWORD LowPart;
+            DWORD HighPart;
+        };
+        struct
+        {
+            DWORD LowPart;
+            DWORD HighPart;
+        } u;
+        unsigned long long QuadPart;
+    };
+};
+
+// A number that is given to one thing only, 16 bytes.
+struct GUID
+{
+    DWORD Data1;
+    WORD Data2;
+    WORD Data3;
+    BYTE Data4[8];
+};
+
+} // namespace KtPorting
+
+KTQTBASE_PORTING_USING(KtPorting, POINTS);
+KTQTBASE_PORTING_USING(KtPorting, LARGE_INTEGER);
+KTQTBASE_PORTING_USING(KtPorting, ULARGE_INTEGER);
+KTQTBASE_PORTING_USING(KtPorting, GUID);
+
 #include <KtQtBase/porting/HostMacros.h> // gives them back
 
 #endif
