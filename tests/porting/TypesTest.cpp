@@ -5,6 +5,7 @@
 
 #include <gtest/gtest.h>
 
+#include <algorithm>
 #include <string>
 #include <type_traits>
 
@@ -68,8 +69,8 @@ static const TypeRow kTypes[] = {
     ROW(LONG_PTR, long long),
     ROW(ULONG_PTR, unsigned long long),
     ROW(DWORD_PTR, unsigned long long),
-    ROW(SIZE_T, unsigned long long),
-    ROW(SSIZE_T, long long),
+    ROW(SIZE_T, std::size_t),
+    ROW(SSIZE_T, std::ptrdiff_t),
     ROW(ATOM, WORD),
     ROW(LANGID, WORD),
     ROW(LCID, DWORD),
@@ -198,6 +199,14 @@ TEST(PortingTypes, HaveTheSizesOfA64BitWindows)
 {
     for (const SizeRow& row : kSizes)
         EXPECT_EQ(row.size, row.expected) << row.name;
+}
+
+TEST(PortingTypes, CompareANumberOfBytesWithSizeof)
+{
+    const SIZE_T length = 100;
+    const char text[8] = {};
+    EXPECT_EQ(std::min(length, sizeof text), 8U);
+    EXPECT_EQ(sizeof(SSIZE_T), sizeof(SIZE_T));
 }
 
 TEST(PortingRecords, HaveTheFieldsOfWindows)

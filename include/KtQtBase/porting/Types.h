@@ -13,6 +13,8 @@
 #include <KtQtBase/windows/Records.h>
 #include <KtQtBase/windows/Scalars.h>
 
+#include <cstddef>
+
 #include <KtQtBase/porting/HostMacros.h> // sets the host's macros aside
 
 // ---- Characters and texts ----------------------------------------------------------------------
@@ -68,8 +70,8 @@ KTQTBASE_PORTING_TYPE(UINT_PTR, unsigned long long);  // a pointer's size
 KTQTBASE_PORTING_TYPE(LONG_PTR, long long);           // a pointer's size
 KTQTBASE_PORTING_TYPE(ULONG_PTR, unsigned long long); // a pointer's size
 KTQTBASE_PORTING_TYPE(DWORD_PTR, unsigned long long); // a pointer's size
-KTQTBASE_PORTING_TYPE(SIZE_T, unsigned long long);    // a number of bytes
-KTQTBASE_PORTING_TYPE(SSIZE_T, long long);            // a number of bytes, with a sign
+KTQTBASE_PORTING_TYPE(SIZE_T, std::size_t);           // a number of bytes
+KTQTBASE_PORTING_TYPE(SSIZE_T, std::ptrdiff_t);       // a number of bytes, with a sign
 KTQTBASE_PORTING_TYPE(ATOM, WORD);                    // the number of a registered text
 KTQTBASE_PORTING_TYPE(LANGID, WORD);                  // a language
 KTQTBASE_PORTING_TYPE(LCID, DWORD);                   // a locale, such as LOCALE_USER_DEFAULT
