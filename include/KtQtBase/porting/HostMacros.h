@@ -23,7 +23,7 @@
 #define KTQTBASE_PORTING_POP(name) KTQTBASE_PORTING_PRAGMA(pop_macro(#name))
 
 // Picks SKIP for a name that is switched off, else the given macro. A switch that is defined makes
-// a comma here, empty or as 1, which moves SKIP to the second place.
+// a comma here, empty or with one of these values, which moves SKIP to the second place.
 #define KTQTBASE_PORTING_UNLESS_OFF(name, macro)                                                   \
     KTQTBASE_PORTING_SECOND(                                                                       \
         KTQTBASE_PORTING_COMMA(KTQTBASE_PORTING_NO_##name) KTQTBASE_PORTING_SKIP, macro, ~)
@@ -32,35 +32,56 @@
 #define KTQTBASE_PORTING_COMMA(value) KTQTBASE_PORTING_COMMA_FOR(value)
 #define KTQTBASE_PORTING_COMMA_FOR(value) KTQTBASE_PORTING_COMMA_##value
 #define KTQTBASE_PORTING_COMMA_ ~,
+#define KTQTBASE_PORTING_COMMA_0 ~,
 #define KTQTBASE_PORTING_COMMA_1 ~,
+#define KTQTBASE_PORTING_COMMA_ON ~,
+#define KTQTBASE_PORTING_COMMA_true ~,
 #define KTQTBASE_PORTING_SKIP(...) static_assert(true, "")
+
+// A name that is not skipped has no switch, so that the switch's text is its own name: another
+// value would be lost in silence.
+#define KTQTBASE_PORTING_CHECK(name)                                                               \
+    static_assert(sizeof(KTQTBASE_PORTING_TEXT(KTQTBASE_PORTING_NO_##name)) ==                     \
+                      sizeof("KTQTBASE_PORTING_NO_" #name),                                        \
+                  "define KTQTBASE_PORTING_NO_" #name " empty, or as 1")
+#define KTQTBASE_PORTING_TEXT(value) KTQTBASE_PORTING_TEXT_OF(value)
+#define KTQTBASE_PORTING_TEXT_OF(value) #value
 
 #define KTQTBASE_PORTING_TYPE(name, ...)                                                           \
     KTQTBASE_PORTING_UNLESS_OFF(name, KTQTBASE_PORTING_ADD_TYPE)(name, __VA_ARGS__)
-#define KTQTBASE_PORTING_ADD_TYPE(name, ...) using name = __VA_ARGS__
+#define KTQTBASE_PORTING_ADD_TYPE(name, ...)                                                       \
+    KTQTBASE_PORTING_CHECK(name);                                                                  \
+    using name = __VA_ARGS__
 
 #define KTQTBASE_PORTING_CONSTANT(name, type, value)                                               \
     KTQTBASE_PORTING_UNLESS_OFF(name, KTQTBASE_PORTING_ADD_CONSTANT)(name, type, value)
 #define KTQTBASE_PORTING_ADD_CONSTANT(name, type, value)                                           \
+    KTQTBASE_PORTING_CHECK(name);                                                                  \
     constexpr type name = static_cast<type>(value)
 
 #define KTQTBASE_PORTING_USING(space, name)                                                        \
     KTQTBASE_PORTING_UNLESS_OFF(name, KTQTBASE_PORTING_ADD_USING)(space, name)
-#define KTQTBASE_PORTING_ADD_USING(space, name) using space::name
+#define KTQTBASE_PORTING_ADD_USING(space, name)                                                    \
+    KTQTBASE_PORTING_CHECK(name);                                                                  \
+    using space::name
 
 #define KTQTBASE_PORTING_FUNCTION(name, other)                                                     \
     KTQTBASE_PORTING_UNLESS_OFF(name, KTQTBASE_PORTING_ADD_FUNCTION)(name, other)
-#define KTQTBASE_PORTING_ADD_FUNCTION(name, other) inline constexpr auto& name = ::other
+#define KTQTBASE_PORTING_ADD_FUNCTION(name, other)                                                 \
+    KTQTBASE_PORTING_CHECK(name);                                                                  \
+    inline constexpr auto& name = ::other
 
 // Where uses are forbidden, the other function cannot be named here either.
 #define KTQTBASE_PORTING_INERT(name, other)                                                        \
     KTQTBASE_PORTING_UNLESS_OFF(name, KTQTBASE_PORTING_ADD_INERT)(name, other)
 #if defined(KTQTBASE_FORBID_INERT)
 #define KTQTBASE_PORTING_ADD_INERT(name, other)                                                    \
+    KTQTBASE_PORTING_CHECK(name);                                                                  \
     KTQTBASE_INERT("the same as " #other ".") void name(...)
 #else
 #define KTQTBASE_PORTING_ADD_INERT(name, other)                                                    \
-    KTQTBASE_INERT("the same as " #other ".") KTQTBASE_PORTING_ADD_FUNCTION(name, other)
+    KTQTBASE_PORTING_CHECK(name);                                                                  \
+    KTQTBASE_INERT("the same as " #other ".") inline constexpr auto& name = ::other
 #endif
 
 KTQTBASE_PORTING_NAMES(KTQTBASE_PORTING_PUSH)
@@ -325,8 +346,14 @@ KTQTBASE_PORTING_NAMES(KTQTBASE_PORTING_POP)
 #undef KTQTBASE_PORTING_COMMA
 #undef KTQTBASE_PORTING_COMMA_FOR
 #undef KTQTBASE_PORTING_COMMA_
+#undef KTQTBASE_PORTING_COMMA_0
 #undef KTQTBASE_PORTING_COMMA_1
+#undef KTQTBASE_PORTING_COMMA_ON
+#undef KTQTBASE_PORTING_COMMA_true
 #undef KTQTBASE_PORTING_SKIP
+#undef KTQTBASE_PORTING_CHECK
+#undef KTQTBASE_PORTING_TEXT
+#undef KTQTBASE_PORTING_TEXT_OF
 #undef KTQTBASE_PORTING_TYPE
 #undef KTQTBASE_PORTING_ADD_TYPE
 #undef KTQTBASE_PORTING_CONSTANT
