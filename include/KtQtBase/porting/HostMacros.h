@@ -7,7 +7,7 @@
 //     KTQTBASE_PORTING_TYPE(LPSTR, char*);                        a type
 //     KTQTBASE_PORTING_CONSTANT(E_FAIL, HRESULT, 0x80004005U);    a constant
 //     KTQTBASE_PORTING_FUNCTION(LoadLibraryW, LoadLibrary);       another name of a function
-//     KTQTBASE_PORTING_INERT(FindFirstFile, FindFirstFileW);      the same for an inert one
+//     KTQTBASE_PORTING_INERT(GetPrinter, GetPrinterW, "...");     the same for an inert one
 //     KTQTBASE_PORTING_USING(KtUser32, SetFocus);                 a name of a namespace
 //
 // Included in pairs, so it has no guard. Nothing here is for hosts.
@@ -72,16 +72,16 @@
     inline constexpr auto& name = ::other
 
 // Where uses are forbidden, the other function cannot be named here either.
-#define KTQTBASE_PORTING_INERT(name, other)                                                        \
-    KTQTBASE_PORTING_UNLESS_OFF(name, KTQTBASE_PORTING_ADD_INERT)(name, other)
+#define KTQTBASE_PORTING_INERT(name, other, sentence)                                              \
+    KTQTBASE_PORTING_UNLESS_OFF(name, KTQTBASE_PORTING_ADD_INERT)(name, other, sentence)
 #if defined(KTQTBASE_FORBID_INERT)
-#define KTQTBASE_PORTING_ADD_INERT(name, other)                                                    \
+#define KTQTBASE_PORTING_ADD_INERT(name, other, sentence)                                          \
     KTQTBASE_PORTING_CHECK(name);                                                                  \
-    KTQTBASE_INERT("the same as " #other ".") void name(...)
+    KTQTBASE_INERT(sentence) void name(...)
 #else
-#define KTQTBASE_PORTING_ADD_INERT(name, other)                                                    \
+#define KTQTBASE_PORTING_ADD_INERT(name, other, sentence)                                          \
     KTQTBASE_PORTING_CHECK(name);                                                                  \
-    KTQTBASE_INERT("the same as " #other ".") inline constexpr auto& name = ::other
+    KTQTBASE_INERT(sentence) inline constexpr auto& name = ::other
 #endif
 
 KTQTBASE_PORTING_NAMES(KTQTBASE_PORTING_PUSH)
