@@ -29,6 +29,9 @@ TYPE_KINDS = {"class": "class", "struct": "record", "enum": "type"}
 # What strict mode says of a function; a test of the headers compares it with the comment.
 INERT = re.compile(r'^ *KTQTBASE_INERT\((?:\s*"(?:[^"\\\n]|\\.)*")+\)\n', re.MULTILINE)
 
+OTHER_INERT = re.compile(
+    r'^KTQTBASE_PORTING_INERT\(\s*(\w+),\s+(\w+),(?:\s*"(?:[^"\\\n]|\\.)*")+\);', re.MULTILINE)
+
 # A line of the porting headers, and the namespace of what they give at global scope, too.
 PORTING = re.compile(r"KTQTBASE_PORTING_(\w+)\((\w+), *(\w+)")
 PORTING_KINDS = {"TYPE": "type", "CONSTANT": "constant"}
@@ -64,7 +67,8 @@ class HeaderReader:
 
     def __init__(self, path, root):
         self.header = str(path.relative_to(root))
-        self.lines = INERT.sub("", path.read_text(encoding="utf-8")).splitlines()
+        text = INERT.sub("", path.read_text(encoding="utf-8"))
+        self.lines = OTHER_INERT.sub(r"KTQTBASE_PORTING_INERT(\1, \2);", text).splitlines()
         self.found = []
         self.other_names = []
         self.scopes = []

@@ -16,8 +16,9 @@
 //   - A macro of the host stays what it is, defined before or after. After it, one with another
 //     text than here makes the compiler say so: switch the name off.
 //   - A type of the host with the same meaning may stand beside the one here.
-//   - #define KTQTBASE_PORTING_NO_LPCTSTR, empty or as 1 and before the include, leaves LPCTSTR out,
-//     and so for each name of these headers. KTQTBASE_PORTING_NO_PACKING and
+//   - #define KTQTBASE_PORTING_NO_LPCTSTR before the include leaves LPCTSTR out, and so for each name
+//     of these headers. It is empty, 1, 0, ON or true, all with the same meaning; after another
+//     value the compiler says so, or leaves the name out, too. KTQTBASE_PORTING_NO_PACKING and
 //     KTQTBASE_PORTING_NO_MESSAGENUMBERS leave out the headers windows/Packing.h and
 //     windows/MessageNumbers.h.
 //

@@ -2,7 +2,8 @@
 # SPDX-License-Identifier: MIT
 """Checks what the public headers say of the functions that do nothing.
 
-    check-inert.py sentences                       each "Inert:" is what KTQTBASE_INERT says, too
+    check-inert.py sentences                       each "Inert:" is what KTQTBASE_INERT says, too,
+                                                   and what is said of the function's other name
     check-inert.py quiet|warn|forbid COMMAND...    compiles a call of every function of the headers
 
 COMMAND is a compiler with its options. In the mode "quiet" the compiler must say nothing. In the
@@ -35,7 +36,8 @@ OPENS = re.compile(r"namespace (\w+) \{$|(?:class|struct) (?:KTQTBASE_EXPORT )?(
 CLOSES = re.compile(r"\}")
 SENTENCE_ENDS = re.compile(r"(?:Kept|On Windows|Result):")
 OTHER_NAME = re.compile(
-    r"^KTQTBASE_PORTING_(FUNCTION|INERT|USING)\((\w+), (\w+)\);", re.MULTILINE)
+    rf"^KTQTBASE_PORTING_(FUNCTION|INERT|USING)\(\s*(\w+),\s+(\w+)(?:,((?:\s*{TEXT})+))?\);",
+    re.MULTILINE)
 DIAGNOSTIC = re.compile(r"(.*?):(\d+):\d+: (?:warning|error|fatal error): (.*)")
 
 Function = collections.namedtuple("Function", "place scope in_class name parameters inert comment")
@@ -109,14 +111,12 @@ def functions_of(header):
                            inert_comment(lines, number))
 
 
-def other_name(known, kind, first, second):
+def other_name(known, kind, first, second, sentence):
     """The function that a line of the porting headers names, or None for one of their own."""
     if kind == "USING":
         function = known.get((first, second))
         return function and function._replace(scope="")
-    function = known["", second]
-    inert = f"the same as {second}." if kind == "INERT" else None
-    return function._replace(name=first, inert=inert, comment=inert)
+    return known["", second]._replace(name=first, inert=spoken(sentence) if sentence else None)
 
 
 def other_names_of(header, functions):

@@ -22,6 +22,7 @@ typedef struct tagPANEL
 
 static HINSTANCE g_hInstance = NULL;
 
+INT_PTR CALLBACK PanelDlgProc(HWND hDlg, UINT uMsg, WPARAM wParam, LPARAM lParam);
 BOOL CALLBACK EnumPanels(HWND hWnd, LPARAM lParam);
 UINT WINAPI PanelThread(_In_ LPVOID lpParameter);
 VOID PASCAL ResetPanel(_Inout_ LPPANEL lpPanel, _In_opt_ LPCRECT lpcPage);
@@ -39,6 +40,10 @@ LRESULT CALLBACK PanelProc(HWND hWnd, UINT uMsg, WPARAM wParam, LPARAM lParam)
     static PANEL panel;
     UNREFERENCED_PARAMETER(wParam);
     switch (uMsg) {
+    case WM_CREATE:
+    case WM_SETFOCUS:
+        return 0;
+    case WM_MBUTTONDOWN:
     case WM_LBUTTONDOWN:
     case WM_MOUSEMOVE:
         OnMouse(&panel, lParam);
@@ -50,6 +55,21 @@ LRESULT CALLBACK PanelProc(HWND hWnd, UINT uMsg, WPARAM wParam, LPARAM lParam)
         return ::PostMessageW(hWnd, WM_USER + 1, 0, MAKELPARAM(1, 2)) ? TRUE : FALSE;
     }
     return 0;
+}
+
+INT_PTR CALLBACK PanelDlgProc(HWND hDlg, UINT uMsg, WPARAM wParam, LPARAM lParam)
+{
+    switch (uMsg) {
+    case WM_INITDIALOG:
+        return hDlg != NULL && lParam != 0 ? TRUE : FALSE;
+    case WM_COMMAND:
+        return wParam == IDOK || wParam == IDCANCEL ? TRUE : FALSE;
+    case WM_HSCROLL:
+    case WM_NOTIFY:
+    case WM_DESTROY:
+        return TRUE;
+    }
+    return FALSE;
 }
 
 BOOL CALLBACK EnumPanels(HWND hWnd, LPARAM lParam)
@@ -88,7 +108,8 @@ int APIENTRY WinMain(HINSTANCE hInstance, HINSTANCE hPrevInstance, LPSTR lpCmdLi
     if (hFind != NULL && hFind != INVALID_HANDLE_VALUE)
         ullCount += static_cast<ULONGLONG>(findData.nFileSizeHigh) << 32;
     logFont.lfHeight = -MulDiv(10, 96, 72);
+    DLGPROC lpfnDialog = PanelDlgProc;
     FARPROC lpfnEntry = GetProcAddress(g_hInstance, "PanelEntry");
     const BOOL bDone = hPrevInstance == NULL && lpfnEntry == NULL && IS_INTRESOURCE(lpszIcon);
-    return bDone && lpCmdLine && ullCount == 0 ? nCmdShow + logFont.lfItalic : FALSE;
+    return bDone && lpfnDialog && lpCmdLine && ullCount == 0 ? nCmdShow + logFont.lfItalic : FALSE;
 }

@@ -5,6 +5,7 @@
 
 #include <gtest/gtest.h>
 
+#include <algorithm>
 #include <string>
 #include <type_traits>
 
@@ -68,8 +69,8 @@ static const TypeRow kTypes[] = {
     ROW(LONG_PTR, long long),
     ROW(ULONG_PTR, unsigned long long),
     ROW(DWORD_PTR, unsigned long long),
-    ROW(SIZE_T, unsigned long long),
-    ROW(SSIZE_T, long long),
+    ROW(SIZE_T, std::size_t),
+    ROW(SSIZE_T, std::ptrdiff_t),
     ROW(ATOM, WORD),
     ROW(LANGID, WORD),
     ROW(LCID, DWORD),
@@ -184,17 +185,43 @@ struct SizeRow
     }
 
 static const SizeRow kSizes[] = {
-    SIZE_ROW(ATOM, 2),      SIZE_ROW(BOOLEAN, 1), SIZE_ROW(CHAR, 1),      SIZE_ROW(DWORD64, 8),
-    SIZE_ROW(DWORD_PTR, 8), SIZE_ROW(FLOAT, 4),   SIZE_ROW(INT, 4),       SIZE_ROW(INT_PTR, 8),
-    SIZE_ROW(LCID, 4),      SIZE_ROW(LANGID, 2),  SIZE_ROW(LONG_PTR, 8),  SIZE_ROW(LONGLONG, 8),
-    SIZE_ROW(LPVOID, 8),    SIZE_ROW(SHORT, 2),   SIZE_ROW(SIZE_T, 8),    SIZE_ROW(UCHAR, 1),
-    SIZE_ROW(UINT_PTR, 8),  SIZE_ROW(ULONG, 4),   SIZE_ROW(ULONGLONG, 8), SIZE_ROW(ULONG_PTR, 8),
-    SIZE_ROW(USHORT, 2)};
+    SIZE_ROW(ATOM, 2),      SIZE_ROW(BOOLEAN, 1),       SIZE_ROW(CHAR, 1),
+    SIZE_ROW(DWORD64, 8),   SIZE_ROW(DWORD_PTR, 8),     SIZE_ROW(FLOAT, 4),
+    SIZE_ROW(INT, 4),       SIZE_ROW(INT_PTR, 8),       SIZE_ROW(LCID, 4),
+    SIZE_ROW(LANGID, 2),    SIZE_ROW(LONG_PTR, 8),      SIZE_ROW(LONGLONG, 8),
+    SIZE_ROW(LPVOID, 8),    SIZE_ROW(SHORT, 2),         SIZE_ROW(SIZE_T, 8),
+    SIZE_ROW(UCHAR, 1),     SIZE_ROW(UINT_PTR, 8),      SIZE_ROW(ULONG, 4),
+    SIZE_ROW(ULONGLONG, 8), SIZE_ROW(ULONG_PTR, 8),     SIZE_ROW(USHORT, 2),
+    SIZE_ROW(POINTS, 4),    SIZE_ROW(LARGE_INTEGER, 8), SIZE_ROW(ULARGE_INTEGER, 8),
+    SIZE_ROW(GUID, 16)};
 
 TEST(PortingTypes, HaveTheSizesOfA64BitWindows)
 {
     for (const SizeRow& row : kSizes)
         EXPECT_EQ(row.size, row.expected) << row.name;
+}
+
+TEST(PortingTypes, CompareANumberOfBytesWithSizeof)
+{
+    const SIZE_T length = 100;
+    const char text[8] = {};
+    EXPECT_EQ(std::min(length, sizeof text), 8U);
+    EXPECT_EQ(sizeof(SSIZE_T), sizeof(SIZE_T));
+}
+
+TEST(PortingRecords, HaveTheFieldsOfWindows)
+{
+    LARGE_INTEGER size = {};
+    size.QuadPart = -2;
+    EXPECT_EQ(size.LowPart, 0xFFFFFFFEU);
+    EXPECT_EQ(size.u.HighPart, -1);
+    ULARGE_INTEGER count = {};
+    count.HighPart = 0x80000000U;
+    EXPECT_EQ(count.QuadPart, 0x8000000000000000U);
+    const POINTS point = {-1, 2};
+    EXPECT_EQ(point.x + point.y, 1);
+    const GUID number = {1, 2, 3, {4, 5, 6, 7, 8, 9, 10, 11}};
+    EXPECT_EQ(reinterpret_cast<const BYTE*>(&number)[8], number.Data4[0]);
 }
 
 TEST(PortingTypes, TakeWhatGetProcAddressReturns)
@@ -263,4 +290,80 @@ TEST(PortingMacros, LeaveAFunctionAsItIs)
     EXPECT_EQ(read(numbers, numbers + 1, nullptr), 8);
     zeroed(numbers, numbers + 1, &first);
     EXPECT_EQ(numbers[0] + numbers[1], 0);
+}
+
+_Success_(return != 0) _Must_inspect_result_ _Check_return_
+    static int updated(_In_reads_opt_(count) const int* from, _In_range_(0, 9) int count,
+                       _Out_writes_to_(count, count) int* to, _Inout_updates_(count) int* used,
+                       _Inout_updates_bytes_(4) int* bytes)
+{
+    *to = from ? *from : count;
+    return *used + *bytes;
+}
+
+_Ret_maybenull_ static const char* formatted(_Out_writes_z_(2) char* text,
+                                             _Out_writes_opt_(1) char* first,
+                                             _In_z_ _Printf_format_string_ const char* format)
+{
+    text[0] = format[0];
+    text[1] = '\0';
+    return first ? nullptr : text;
+}
+
+_Use_decl_annotations_ _Ret_notnull_ static int* kept(_COM_Outptr_ int** a, _Outptr_opt_ int** b,
+                                                      _Frees_ptr_opt_ int* c)
+{
+    return *a = *b = c;
+}
+
+TEST(PortingMacros, LeaveAnnotatedFunctionsAsTheyAre)
+{
+    int numbers[] = {3, 4};
+    int* first = nullptr;
+    int* second = nullptr;
+    char text[2] = {};
+    EXPECT_EQ(updated(numbers, 1, numbers + 1, numbers, numbers + 1), 6);
+    EXPECT_STREQ(formatted(text, nullptr, "%d"), "%");
+    EXPECT_EQ(kept(&first, &second, numbers), numbers);
+    EXPECT_EQ(first, second);
+}
+
+EXTERN_C int CALLBACK portingTestAnswer();
+STDAPI portingTestResult(int answer);
+
+EXTERN_C int CALLBACK portingTestAnswer()
+{
+    return 42;
+}
+
+STDAPI portingTestResult(int answer)
+{
+    return answer == 42 ? S_OK : S_FALSE;
+}
+
+static FORCEINLINE HRESULT checkedResult()
+{
+    return portingTestResult(portingTestAnswer());
+}
+
+TEST(PortingMacros, DeclareFunctionsOfC)
+{
+    EXPECT_EQ(checkedResult(), S_OK);
+}
+
+DECLARE_HANDLE(HPANEL);
+DECLARE_HANDLE(HPEN);
+
+TEST(PortingMacros, DeclareAKindOfHandle)
+{
+    EXPECT_EQ(sizeof(HPANEL), sizeof(HANDLE));
+    EXPECT_TRUE((std::is_convertible_v<HPANEL, HANDLE>));
+    EXPECT_FALSE((std::is_convertible_v<HPANEL, HPEN>));
+}
+
+TEST(PortingMacros, TellWhereAFieldBegins)
+{
+    EXPECT_EQ(FIELD_OFFSET(GUID, Data1), 0);
+    EXPECT_EQ(FIELD_OFFSET(GUID, Data4[1]), 9);
+    EXPECT_TRUE((std::is_same_v<decltype(FIELD_OFFSET(RECT, top)), LONG>));
 }

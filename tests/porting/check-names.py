@@ -11,7 +11,7 @@ import sys
 
 PORTING = pathlib.Path(__file__).parents[2] / "include/KtQtBase/porting"
 TABLES = ("Geometry.h", "Helpers.h", "OtherNames.h", "Types.h")
-LINE = re.compile(r"^KTQTBASE_PORTING_(?:USING\(\w+, (\w+)|\w+\((\w+),)", re.MULTILINE)
+LINE = re.compile(r"^KTQTBASE_PORTING_(?:USING\(\w+, (\w+)|\w+\(\s*(\w+),)", re.MULTILINE)
 CLASS = re.compile(r"^class (\w+) :", re.MULTILINE)
 LISTED = re.compile(r" on\((\w+)\)")
 UNDEFINED = re.compile(r"^#undef ((?!KTQTBASE_)\w+)", re.MULTILINE)

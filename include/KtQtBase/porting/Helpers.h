@@ -74,6 +74,13 @@ constexpr BYTE HIBYTE(long long value)
     return static_cast<BYTE>(value >> 8 & 0xFF);
 }
 
+// A language and its variant as one number: 10 bits and 6 bits.
+//   0x09, 0x01  => 0x0409
+constexpr WORD MAKELANGID(long long primary, long long variant)
+{
+    return static_cast<WORD>((primary & 0xFFFF) | (variant & 0x3F) << 10);
+}
+
 // A resource's number in the place of its name; only the lower 16 bits are used. No function of
 // this library takes one.
 inline wchar_t* MAKEINTRESOURCEW(long long number)
@@ -109,6 +116,35 @@ constexpr bool SUCCEEDED(HRESULT result)
 constexpr bool FAILED(HRESULT result)
 {
     return result < 0;
+}
+
+// A result's parts: what happened, 16 bits, and who says so, 13 bits.
+//   0x80070005  => HRESULT_CODE 5, HRESULT_FACILITY 7
+constexpr int HRESULT_CODE(HRESULT result)
+{
+    return result & 0xFFFF;
+}
+
+constexpr int HRESULT_FACILITY(HRESULT result)
+{
+    return result >> 16 & 0x1FFF;
+}
+
+// A result from its parts.
+//   severity    in: 1 for a failure, 0 for a success
+//   1, 7, 5     => 0x80070005
+constexpr HRESULT MAKE_HRESULT(long long severity, long long facility, long long code)
+{
+    return static_cast<HRESULT>(static_cast<DWORD>(severity) << 31 |
+                                static_cast<DWORD>(facility) << 16 | static_cast<DWORD>(code));
+}
+
+// The result that stands for an error number. What is a result already, and 0, stay as they are.
+//   ERROR_ACCESS_DENIED    => E_ACCESSDENIED
+constexpr HRESULT HRESULT_FROM_WIN32(long long error)
+{
+    const auto result = static_cast<HRESULT>(static_cast<DWORD>(error));
+    return result <= 0 ? result : MAKE_HRESULT(1, 7, HRESULT_CODE(result));
 }
 
 // ---- Memory ------------------------------------------------------------------------------------
@@ -162,12 +198,17 @@ KTQTBASE_PORTING_USING(KtPorting, MAKELONG);
 KTQTBASE_PORTING_USING(KtPorting, MAKELRESULT);
 KTQTBASE_PORTING_USING(KtPorting, LOBYTE);
 KTQTBASE_PORTING_USING(KtPorting, HIBYTE);
+KTQTBASE_PORTING_USING(KtPorting, MAKELANGID);
 KTQTBASE_PORTING_USING(KtPorting, MAKEINTRESOURCE);
 KTQTBASE_PORTING_USING(KtPorting, MAKEINTRESOURCEA);
 KTQTBASE_PORTING_USING(KtPorting, MAKEINTRESOURCEW);
 KTQTBASE_PORTING_USING(KtPorting, IS_INTRESOURCE);
 KTQTBASE_PORTING_USING(KtPorting, SUCCEEDED);
 KTQTBASE_PORTING_USING(KtPorting, FAILED);
+KTQTBASE_PORTING_USING(KtPorting, HRESULT_CODE);
+KTQTBASE_PORTING_USING(KtPorting, HRESULT_FACILITY);
+KTQTBASE_PORTING_USING(KtPorting, MAKE_HRESULT);
+KTQTBASE_PORTING_USING(KtPorting, HRESULT_FROM_WIN32);
 KTQTBASE_PORTING_USING(KtPorting, ZeroMemory);
 KTQTBASE_PORTING_USING(KtPorting, FillMemory);
 KTQTBASE_PORTING_USING(KtPorting, CopyMemory);

@@ -7,7 +7,7 @@
 //     KTQTBASE_PORTING_TYPE(LPSTR, char*);                        a type
 //     KTQTBASE_PORTING_CONSTANT(E_FAIL, HRESULT, 0x80004005U);    a constant
 //     KTQTBASE_PORTING_FUNCTION(LoadLibraryW, LoadLibrary);       another name of a function
-//     KTQTBASE_PORTING_INERT(FindFirstFile, FindFirstFileW);      the same for an inert one
+//     KTQTBASE_PORTING_INERT(GetPrinter, GetPrinterW, "...");     the same for an inert one
 //     KTQTBASE_PORTING_USING(KtUser32, SetFocus);                 a name of a namespace
 //
 // Included in pairs, so it has no guard. Nothing here is for hosts.
@@ -23,7 +23,7 @@
 #define KTQTBASE_PORTING_POP(name) KTQTBASE_PORTING_PRAGMA(pop_macro(#name))
 
 // Picks SKIP for a name that is switched off, else the given macro. A switch that is defined makes
-// a comma here, empty or as 1, which moves SKIP to the second place.
+// a comma here, empty or with one of these values, which moves SKIP to the second place.
 #define KTQTBASE_PORTING_UNLESS_OFF(name, macro)                                                   \
     KTQTBASE_PORTING_SECOND(                                                                       \
         KTQTBASE_PORTING_COMMA(KTQTBASE_PORTING_NO_##name) KTQTBASE_PORTING_SKIP, macro, ~)
@@ -32,35 +32,56 @@
 #define KTQTBASE_PORTING_COMMA(value) KTQTBASE_PORTING_COMMA_FOR(value)
 #define KTQTBASE_PORTING_COMMA_FOR(value) KTQTBASE_PORTING_COMMA_##value
 #define KTQTBASE_PORTING_COMMA_ ~,
+#define KTQTBASE_PORTING_COMMA_0 ~,
 #define KTQTBASE_PORTING_COMMA_1 ~,
+#define KTQTBASE_PORTING_COMMA_ON ~,
+#define KTQTBASE_PORTING_COMMA_true ~,
 #define KTQTBASE_PORTING_SKIP(...) static_assert(true, "")
+
+// A name that is not skipped has no switch, so that the switch's text is its own name: another
+// value would be lost in silence.
+#define KTQTBASE_PORTING_CHECK(name)                                                               \
+    static_assert(sizeof(KTQTBASE_PORTING_TEXT(KTQTBASE_PORTING_NO_##name)) ==                     \
+                      sizeof("KTQTBASE_PORTING_NO_" #name),                                        \
+                  "define KTQTBASE_PORTING_NO_" #name " empty, or as 1")
+#define KTQTBASE_PORTING_TEXT(value) KTQTBASE_PORTING_TEXT_OF(value)
+#define KTQTBASE_PORTING_TEXT_OF(value) #value
 
 #define KTQTBASE_PORTING_TYPE(name, ...)                                                           \
     KTQTBASE_PORTING_UNLESS_OFF(name, KTQTBASE_PORTING_ADD_TYPE)(name, __VA_ARGS__)
-#define KTQTBASE_PORTING_ADD_TYPE(name, ...) using name = __VA_ARGS__
+#define KTQTBASE_PORTING_ADD_TYPE(name, ...)                                                       \
+    KTQTBASE_PORTING_CHECK(name);                                                                  \
+    using name = __VA_ARGS__
 
 #define KTQTBASE_PORTING_CONSTANT(name, type, value)                                               \
     KTQTBASE_PORTING_UNLESS_OFF(name, KTQTBASE_PORTING_ADD_CONSTANT)(name, type, value)
 #define KTQTBASE_PORTING_ADD_CONSTANT(name, type, value)                                           \
+    KTQTBASE_PORTING_CHECK(name);                                                                  \
     constexpr type name = static_cast<type>(value)
 
 #define KTQTBASE_PORTING_USING(space, name)                                                        \
     KTQTBASE_PORTING_UNLESS_OFF(name, KTQTBASE_PORTING_ADD_USING)(space, name)
-#define KTQTBASE_PORTING_ADD_USING(space, name) using space::name
+#define KTQTBASE_PORTING_ADD_USING(space, name)                                                    \
+    KTQTBASE_PORTING_CHECK(name);                                                                  \
+    using space::name
 
 #define KTQTBASE_PORTING_FUNCTION(name, other)                                                     \
     KTQTBASE_PORTING_UNLESS_OFF(name, KTQTBASE_PORTING_ADD_FUNCTION)(name, other)
-#define KTQTBASE_PORTING_ADD_FUNCTION(name, other) inline constexpr auto& name = ::other
+#define KTQTBASE_PORTING_ADD_FUNCTION(name, other)                                                 \
+    KTQTBASE_PORTING_CHECK(name);                                                                  \
+    inline constexpr auto& name = ::other
 
 // Where uses are forbidden, the other function cannot be named here either.
-#define KTQTBASE_PORTING_INERT(name, other)                                                        \
-    KTQTBASE_PORTING_UNLESS_OFF(name, KTQTBASE_PORTING_ADD_INERT)(name, other)
+#define KTQTBASE_PORTING_INERT(name, other, sentence)                                              \
+    KTQTBASE_PORTING_UNLESS_OFF(name, KTQTBASE_PORTING_ADD_INERT)(name, other, sentence)
 #if defined(KTQTBASE_FORBID_INERT)
-#define KTQTBASE_PORTING_ADD_INERT(name, other)                                                    \
-    KTQTBASE_INERT("the same as " #other ".") void name(...)
+#define KTQTBASE_PORTING_ADD_INERT(name, other, sentence)                                          \
+    KTQTBASE_PORTING_CHECK(name);                                                                  \
+    KTQTBASE_INERT(sentence) void name(...)
 #else
-#define KTQTBASE_PORTING_ADD_INERT(name, other)                                                    \
-    KTQTBASE_INERT("the same as " #other ".") KTQTBASE_PORTING_ADD_FUNCTION(name, other)
+#define KTQTBASE_PORTING_ADD_INERT(name, other, sentence)                                          \
+    KTQTBASE_PORTING_CHECK(name);                                                                  \
+    KTQTBASE_INERT(sentence) inline constexpr auto& name = ::other
 #endif
 
 KTQTBASE_PORTING_NAMES(KTQTBASE_PORTING_PUSH)
@@ -112,6 +133,7 @@ KTQTBASE_PORTING_NAMES(KTQTBASE_PORTING_PUSH)
 #undef FindFirstFile
 #undef FindNextChangeNotification
 #undef FindNextFile
+#undef GUID
 #undef GetCurrentDirectory
 #undef GetCursor
 #undef GetEnvironmentVariableW
@@ -135,6 +157,9 @@ KTQTBASE_PORTING_NAMES(KTQTBASE_PORTING_PUSH)
 #undef HICON
 #undef HLOCAL
 #undef HPEN
+#undef HRESULT_CODE
+#undef HRESULT_FACILITY
+#undef HRESULT_FROM_WIN32
 #undef HRGN
 #undef HRSRC
 #undef INT
@@ -148,6 +173,7 @@ KTQTBASE_PORTING_NAMES(KTQTBASE_PORTING_PUSH)
 #undef IntersectRect
 #undef IsRectEmpty
 #undef LANGID
+#undef LARGE_INTEGER
 #undef LCID
 #undef LOBYTE
 #undef LOGFONT
@@ -205,9 +231,11 @@ KTQTBASE_PORTING_NAMES(KTQTBASE_PORTING_PUSH)
 #undef MAKEINTRESOURCE
 #undef MAKEINTRESOURCEA
 #undef MAKEINTRESOURCEW
+#undef MAKELANGID
 #undef MAKELONG
 #undef MAKELRESULT
 #undef MAKEWORD
+#undef MAKE_HRESULT
 #undef MessageBoxW
 #undef MoveMemory
 #undef MulDiv
@@ -238,6 +266,7 @@ KTQTBASE_PORTING_NAMES(KTQTBASE_PORTING_PUSH)
 #undef PLOGFONTW
 #undef PLOGPALETTE
 #undef PLONG
+#undef POINTS
 #undef PPALETTEENTRY
 #undef PPOINT
 #undef PRECT
@@ -285,6 +314,7 @@ KTQTBASE_PORTING_NAMES(KTQTBASE_PORTING_PUSH)
 #undef UINT64
 #undef UINT8
 #undef UINT_PTR
+#undef ULARGE_INTEGER
 #undef ULONG
 #undef ULONG32
 #undef ULONG64
@@ -316,8 +346,14 @@ KTQTBASE_PORTING_NAMES(KTQTBASE_PORTING_POP)
 #undef KTQTBASE_PORTING_COMMA
 #undef KTQTBASE_PORTING_COMMA_FOR
 #undef KTQTBASE_PORTING_COMMA_
+#undef KTQTBASE_PORTING_COMMA_0
 #undef KTQTBASE_PORTING_COMMA_1
+#undef KTQTBASE_PORTING_COMMA_ON
+#undef KTQTBASE_PORTING_COMMA_true
 #undef KTQTBASE_PORTING_SKIP
+#undef KTQTBASE_PORTING_CHECK
+#undef KTQTBASE_PORTING_TEXT
+#undef KTQTBASE_PORTING_TEXT_OF
 #undef KTQTBASE_PORTING_TYPE
 #undef KTQTBASE_PORTING_ADD_TYPE
 #undef KTQTBASE_PORTING_CONSTANT

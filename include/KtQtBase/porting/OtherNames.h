@@ -35,38 +35,63 @@ KTQTBASE_PORTING_FUNCTION(SendMessageW, SendMessage);
 
 // ---- Functions that do nothing here ------------------------------------------------------------
 
-// A mention is a use, and these mentions are not the host's.
+// Each with its function's own sentence. A mention is a use, and these mentions are not the host's.
 #pragma GCC diagnostic push
 #pragma GCC diagnostic ignored "-Wdeprecated-declarations"
 
-KTQTBASE_PORTING_INERT(CompareStringW, CompareString);
-KTQTBASE_PORTING_INERT(CreateFileW, CreateFile);
-KTQTBASE_PORTING_INERT(CreateFontIndirect, CreateFontIndirectW);
-KTQTBASE_PORTING_INERT(DeleteFileW, DeleteFile);
-KTQTBASE_PORTING_INERT(DeviceCapabilities, DeviceCapabilitiesW);
-KTQTBASE_PORTING_INERT(DocumentProperties, DocumentPropertiesW);
-KTQTBASE_PORTING_INERT(EnumFontFamiliesExW, EnumFontFamiliesEx);
-KTQTBASE_PORTING_INERT(EnumForms, EnumFormsW);
-KTQTBASE_PORTING_INERT(ExtTextOutW, ExtTextOut);
-KTQTBASE_PORTING_INERT(FindFirstChangeNotification, FindFirstChangeNotificationW);
-KTQTBASE_PORTING_INERT(FindFirstFile, FindFirstFileW);
-KTQTBASE_PORTING_INERT(FindNextFile, FindNextFileW);
-KTQTBASE_PORTING_INERT(GetEnvironmentVariableW, GetEnvironmentVariable);
-KTQTBASE_PORTING_INERT(GetNumberFormatW, GetNumberFormat);
-KTQTBASE_PORTING_INERT(GetPrinter, GetPrinterW);
-KTQTBASE_PORTING_INERT(GetPrivateProfileSectionNamesW, GetPrivateProfileSectionNames);
-KTQTBASE_PORTING_INERT(GetUserName, GetUserNameW);
-KTQTBASE_PORTING_INERT(GetVersionEx, GetVersionExW);
-KTQTBASE_PORTING_INERT(MessageBoxW, MessageBox);
-KTQTBASE_PORTING_INERT(OpenPrinter, OpenPrinterW);
-KTQTBASE_PORTING_INERT(OutputDebugStringW, OutputDebugString);
-KTQTBASE_PORTING_INERT(PathMatchSpecW, PathMatchSpec);
-KTQTBASE_PORTING_INERT(RegisterClipboardFormat, RegisterClipboardFormatW);
-KTQTBASE_PORTING_INERT(SHGetFolderPathW, SHGetFolderPath);
-KTQTBASE_PORTING_INERT(SHGetSpecialFolderPathW, SHGetSpecialFolderPath);
-KTQTBASE_PORTING_INERT(SetCurrentDirectory, SetCurrentDirectoryW);
-KTQTBASE_PORTING_INERT(SetEnvironmentVariable, SetEnvironmentVariableW);
-KTQTBASE_PORTING_INERT(WritePrivateProfileStringW, WritePrivateProfileString);
+KTQTBASE_PORTING_INERT(CompareStringW, CompareString,
+                       "returns 0, which is none of the CSTR_ results; the texts are not read.");
+KTQTBASE_PORTING_INERT(CreateFileW, CreateFile, "returns null; no file is opened, created or cut.");
+KTQTBASE_PORTING_INERT(CreateFontIndirect, CreateFontIndirectW,
+                       "returns null; the record is not read.");
+KTQTBASE_PORTING_INERT(DeleteFileW, DeleteFile, "returns 0; the file stays.");
+KTQTBASE_PORTING_INERT(DeviceCapabilities, DeviceCapabilitiesW,
+                       "returns 0 for every capability; the output is not written.");
+KTQTBASE_PORTING_INERT(DocumentProperties, DocumentPropertiesW,
+                       "returns 0; the settings are not written and no dialog is shown.");
+KTQTBASE_PORTING_INERT(EnumFontFamiliesExW, EnumFontFamiliesEx,
+                       "returns 0; the callback is never called.");
+KTQTBASE_PORTING_INERT(EnumForms, EnumFormsW,
+                       "returns 0; neither the buffer, the size needed nor the count is written.");
+KTQTBASE_PORTING_INERT(ExtTextOutW, ExtTextOut, "returns 0; nothing is drawn.");
+KTQTBASE_PORTING_INERT(FindFirstChangeNotification, FindFirstChangeNotificationW,
+                       "returns null; nothing is watched.");
+KTQTBASE_PORTING_INERT(FindFirstFile, FindFirstFileW, "returns null; the record is not written.");
+KTQTBASE_PORTING_INERT(FindNextFile, FindNextFileW,
+                       "returns 0, no further file; the record is not written.");
+KTQTBASE_PORTING_INERT(GetEnvironmentVariableW, GetEnvironmentVariable,
+                       "returns 0, so every variable reads as absent; the buffer is not written.");
+KTQTBASE_PORTING_INERT(GetNumberFormatW, GetNumberFormat, "returns 0; the text is not written.");
+KTQTBASE_PORTING_INERT(GetPrinter, GetPrinterW,
+                       "returns 0; neither the buffer nor the size needed is written.");
+KTQTBASE_PORTING_INERT(
+    GetPrivateProfileSectionNamesW, GetPrivateProfileSectionNames,
+    "returns 0 and reads nothing; read_profile_string without a section gives the names.");
+KTQTBASE_PORTING_INERT(GetUserName, GetUserNameW,
+                       "returns 0; neither the buffer nor its size is written.");
+KTQTBASE_PORTING_INERT(GetVersionEx, GetVersionExW, "returns 0; the record is not filled.");
+KTQTBASE_PORTING_INERT(
+    MessageBoxW, MessageBox,
+    "returns 0, which is none of the ID results; no box is shown. AfxMessageBox shows one.");
+KTQTBASE_PORTING_INERT(OpenPrinter, OpenPrinterW, "returns 0; the handle is not written.");
+KTQTBASE_PORTING_INERT(OutputDebugStringW, OutputDebugString,
+                       "returns nothing; nothing is printed, to a console either.");
+KTQTBASE_PORTING_INERT(
+    PathMatchSpecW, PathMatchSpec,
+    "returns 0, so that nothing matches, not even a name that equals the pattern.");
+KTQTBASE_PORTING_INERT(RegisterClipboardFormat, RegisterClipboardFormatW,
+                       "returns 0, which is no format; nothing is registered.");
+KTQTBASE_PORTING_INERT(SHGetFolderPathW, SHGetFolderPath,
+                       "returns 0; the path buffer is not written.");
+KTQTBASE_PORTING_INERT(
+    SHGetSpecialFolderPathW, SHGetSpecialFolderPath,
+    "returns 0, a failure; the path buffer is not written and no folder is made.");
+KTQTBASE_PORTING_INERT(SetCurrentDirectory, SetCurrentDirectoryW,
+                       "returns 0; the working directory stays.");
+KTQTBASE_PORTING_INERT(SetEnvironmentVariable, SetEnvironmentVariableW,
+                       "returns 0; the environment stays as it is.");
+KTQTBASE_PORTING_INERT(WritePrivateProfileStringW, WritePrivateProfileString,
+                       "returns 1; no file is made or changed.");
 
 #pragma GCC diagnostic pop
 

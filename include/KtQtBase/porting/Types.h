@@ -13,6 +13,8 @@
 #include <KtQtBase/windows/Records.h>
 #include <KtQtBase/windows/Scalars.h>
 
+#include <cstddef>
+
 #include <KtQtBase/porting/HostMacros.h> // sets the host's macros aside
 
 // ---- Characters and texts ----------------------------------------------------------------------
@@ -68,8 +70,8 @@ KTQTBASE_PORTING_TYPE(UINT_PTR, unsigned long long);  // a pointer's size
 KTQTBASE_PORTING_TYPE(LONG_PTR, long long);           // a pointer's size
 KTQTBASE_PORTING_TYPE(ULONG_PTR, unsigned long long); // a pointer's size
 KTQTBASE_PORTING_TYPE(DWORD_PTR, unsigned long long); // a pointer's size
-KTQTBASE_PORTING_TYPE(SIZE_T, unsigned long long);    // a number of bytes
-KTQTBASE_PORTING_TYPE(SSIZE_T, long long);            // a number of bytes, with a sign
+KTQTBASE_PORTING_TYPE(SIZE_T, std::size_t);           // a number of bytes
+KTQTBASE_PORTING_TYPE(SSIZE_T, std::ptrdiff_t);       // a number of bytes, with a sign
 KTQTBASE_PORTING_TYPE(ATOM, WORD);                    // the number of a registered text
 KTQTBASE_PORTING_TYPE(LANGID, WORD);                  // a language
 KTQTBASE_PORTING_TYPE(LCID, DWORD);                   // a locale, such as LOCALE_USER_DEFAULT
@@ -181,6 +183,70 @@ KTQTBASE_PORTING_TYPE(LPPRINTER_DEFAULTSW, PRINTER_DEFAULTSW*);     // to open a
 KTQTBASE_PORTING_TYPE(LPPRINTER_DEFAULTS, PRINTER_DEFAULTSW*);      // to open a printer
 KTQTBASE_PORTING_TYPE(LPOPENFILENAMEW, OPENFILENAMEW*);             // a file dialog
 KTQTBASE_PORTING_TYPE(LPOPENFILENAME, OPENFILENAMEW*);              // a file dialog
+
+// ---- Records -----------------------------------------------------------------------------------
+
+namespace KtPorting {
+
+// A position in two short numbers, 4 bytes.
+struct POINTS
+{
+    short x;
+    short y;
+};
+
+// A number of 64 bits and its two halves, 8 bytes.
+struct LARGE_INTEGER
+{
+    __extension__ union
+    {
+        __extension__ struct
+        {
+            DWORD LowPart;
+            LONG HighPart;
+        };
+        struct
+        {
+            DWORD LowPart;
+            LONG HighPart;
+        } u;
+        long long QuadPart;
+    };
+};
+
+struct ULARGE_INTEGER
+{
+    __extension__ union
+    {
+        __extension__ struct
+        {
+            DWORD LowPart;
+            DWORD HighPart;
+        };
+        struct
+        {
+            DWORD LowPart;
+            DWORD HighPart;
+        } u;
+        unsigned long long QuadPart;
+    };
+};
+
+// A number that is given to one thing only, 16 bytes.
+struct GUID
+{
+    DWORD Data1;
+    WORD Data2;
+    WORD Data3;
+    BYTE Data4[8];
+};
+
+} // namespace KtPorting
+
+KTQTBASE_PORTING_USING(KtPorting, POINTS);
+KTQTBASE_PORTING_USING(KtPorting, LARGE_INTEGER);
+KTQTBASE_PORTING_USING(KtPorting, ULARGE_INTEGER);
+KTQTBASE_PORTING_USING(KtPorting, GUID);
 
 #include <KtQtBase/porting/HostMacros.h> // gives them back
 
