@@ -3,6 +3,7 @@
 #include "BinaryFile.h"
 #include "CompileCommands.h"
 #include "LowerCase.h"
+#include "TextFile.h"
 
 #include <algorithm>
 #include <cerrno>
@@ -54,6 +55,7 @@ private:
     void addFolder(const fs::path& path);
     void addFound(const fs::directory_entry& entry);
     void addFoundFile(const std::string& path);
+    bool isFile(const std::string& path);
     bool readBeginning(const std::string& path, std::string& beginning);
     void add(const std::string& path, InputKind kind);
     void addProblem(const std::string& path, const std::string& reason);
@@ -145,8 +147,21 @@ void Search::addFoundFile(const std::string& path)
         add(path, InputKind::Source);
 }
 
+bool Search::isFile(const std::string& path)
+{
+    try {
+        checkIsFile(path);
+        return true;
+    } catch (const std::exception& error) {
+        addProblem(path, error.what());
+        return false;
+    }
+}
+
 bool Search::readBeginning(const std::string& path, std::string& beginning)
 {
+    if (!isFile(path))
+        return false;
     std::ifstream file(path, std::ios::binary);
     if (!file) {
         addProblem(path, reason(errno));

@@ -14,6 +14,7 @@ namespace ktqtbase::audit {
 namespace {
 
 constexpr int kMostContinuedLines = 1000;
+constexpr int kDeepestNumber = 10000;
 
 std::string decoded(std::string text)
 {
@@ -46,6 +47,28 @@ void checkContinuedLines(const std::string& text)
     }
 }
 
+// Part of a number, or of what the lexer takes for one, at which it calls itself again.
+bool goesDeeper(char ch)
+{
+    return std::strchr("+-'\\", ch) || static_cast<unsigned char>(ch) >= 0x80;
+}
+
+bool endsNumber(char ch)
+{
+    return std::strchr(" \t\v\f\r\n\"(),;", ch);
+}
+
+void checkNumbers(const std::string& text)
+{
+    int depth = 0;
+    for (const char ch : text) {
+        if (endsNumber(ch))
+            depth = 0;
+        else if (goesDeeper(ch) && ++depth > kDeepestNumber)
+            throw std::runtime_error("a number that goes on for more than 10,000 characters");
+    }
+}
+
 bool endsLine(char ch)
 {
     return ch == '\n' || ch == '\r';
@@ -57,6 +80,7 @@ std::string readSourceText(const std::string& path)
 {
     std::string text = decoded(readTextFile(path));
     checkContinuedLines(text);
+    checkNumbers(text);
     return text;
 }
 

@@ -3,6 +3,8 @@
 
 #include <gmock/gmock.h>
 
+#include <sys/stat.h>
+
 using namespace ktqtbase::test;
 using testing::ElementsAre;
 using testing::EndsWith;
@@ -82,6 +84,30 @@ TEST(Audit, TellsOfCompileCommandsThatAreNone)
     }
     writeFile(folder / "list.json", "[{");
     EXPECT_EQ(AuditRun({text(folder / "list.json")}).status(), 2);
+}
+
+TEST(Audit, TellsOfCompileCommandsThatAreNestedTooDeeply)
+{
+    const TemporaryFolder folder;
+    writeFile(folder / "list.json", R"(["\"]", )" + std::string(100000, '['));
+    const AuditRun run({text(folder / "list.json")});
+    EXPECT_EQ(run.status(), 2);
+    EXPECT_THAT(run.errors(), EndsWith("list.json: nested more than 500 levels deep\n"));
+}
+
+TEST(Audit, DoesNotWaitForAPipe)
+{
+    const SourceFolder sources({"a.c"});
+    ASSERT_EQ(mkfifo((sources.folder() / "pipe").c_str(), 0600), 0);
+    writeFile(sources.folder() / "list.json", R"([{"file": "pipe"}, {"file": "a.c"}])");
+    const AuditRun run({sources.path("list.json"), sources.path("pipe")});
+    EXPECT_EQ(run.status(), 2);
+    EXPECT_THAT(run.errors(), HasSubstr("pipe: neither a file nor a folder\n"));
+    EXPECT_THAT(run.places("CopyFile"), ElementsAre("a.c:1"));
+    const ProgramResult result =
+        runAudit({"--baseline", sources.path("pipe"), sources.path("a.c")});
+    EXPECT_EQ(result.status, 2);
+    EXPECT_THAT(result.err, EndsWith("pipe: neither a file nor a folder\n"));
 }
 
 TEST(Audit, NamesAFileThatIsMissingAndReadsTheOthers)

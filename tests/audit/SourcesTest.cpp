@@ -180,3 +180,16 @@ TEST(Audit, RefusesASourceOfContinuedLines)
                                                     "without anything in them\n"));
     }
 }
+
+TEST(Audit, RefusesANumberWithoutAnEnd)
+{
+    for (const char* const part : {"1e+", "1\xC3\xA9"}) {
+        std::string text;
+        for (int i = 0; i < 1000000; ++i)
+            text += part;
+        const AuditRun run = auditSource(text + ";\n");
+        EXPECT_EQ(run.status(), 2);
+        EXPECT_THAT(run.errors(), testing::EndsWith("main.cpp: a number that goes on for more than "
+                                                    "10,000 characters\n"));
+    }
+}
