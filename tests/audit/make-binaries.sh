@@ -21,6 +21,15 @@ import_library() {
     "$DLLTOOL" -m i386:x86-64 -d "$name.def" -l "$name.lib"
 }
 
+# Its function's name begins with an underscore, and the object's symbol with two.
+make_windows_program_of_32_bits() {
+    printf 'LIBRARY KERNEL32.dll\nEXPORTS\n_lopen\n' >low32.def
+    "$DLLTOOL" -m i386 -d low32.def -l low32.lib
+    compile i686-pc-windows-msvc "$sources/low.c" low32.obj
+    "$LLD_LINK" /nologo /nodefaultlib /entry:start /subsystem:console /safeseh:no \
+        /out:low32.exe low32.obj low32.lib
+}
+
 make_windows_program() {
     import_library KERNEL32.dll CopyFileW CreateThread
     import_library USER32.dll MessageBoxA
@@ -32,6 +41,9 @@ make_windows_program() {
     compile i686-pc-windows-msvc "$sources/program.c" program32.obj
     compile x86_64-pc-windows-msvc "$sources/frame.cpp" frame.obj
     "$AR" rc objects.lib program.obj frame.obj
+    rm -f thin.lib
+    "$AR" rcT thin.lib program.obj
+    make_windows_program_of_32_bits
 }
 
 make_mingw_program() {
