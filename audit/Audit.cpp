@@ -138,13 +138,11 @@ Report Auditor::report()
 
 } // namespace
 
-Report audit(Catalogue& catalogue, const std::vector<std::string>& paths)
+Report audit(Catalogue& catalogue, Inputs&& inputs)
 {
     Auditor auditor(catalogue);
-    auditor.read(findInputs(paths));
-    Report report = auditor.report();
-    report.inputs = paths;
-    return report;
+    auditor.read(std::move(inputs));
+    return auditor.report();
 }
 
 } // namespace ktqtbase::audit

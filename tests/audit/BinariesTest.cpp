@@ -91,6 +91,15 @@ TEST(Audit, ReadsAProgramAndALibraryOfMingw)
     }
 }
 
+TEST(Audit, TellsOfAMethodThatTheLibrarysClassLacks)
+{
+    for (const char* const name : {"lacking.o", "lacking.obj"}) {
+        const AuditRun run({binary(name), "--family", "files"});
+        EXPECT_THAT(run.names(),
+                    ElementsAre("CRbUiPathname works", "CRbUiPathname::Open not-here"));
+    }
+}
+
 TEST(Audit, NamesTheMemberOfALibrary)
 {
     const AuditRun run({binary("objects.lib")});

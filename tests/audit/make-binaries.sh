@@ -39,6 +39,7 @@ make_windows_program() {
     "$LLD_LINK" /nologo /nodefaultlib /entry:start /subsystem:console /delayload:USER32.dll \
         /out:late.exe program.obj KERNEL32.dll.lib USER32.dll.lib own.dll.lib mfc140u.dll.lib
     compile i686-pc-windows-msvc "$sources/program.c" program32.obj
+    compile x86_64-pc-windows-msvc "$sources/lacking.cpp" lacking.obj
     compile x86_64-pc-windows-msvc "$sources/frame.cpp" frame.obj
     "$AR" rc objects.lib program.obj frame.obj
     rm -f thin.lib
@@ -57,6 +58,7 @@ make_mingw_program() {
 make_elf() {
     compile x86_64-linux-gnu "$sources/host.cpp" host.o -fPIC
     "$LLD" -shared host.o -o libhost.so
+    compile x86_64-linux-gnu "$sources/lacking.cpp" lacking.o
     compile x86_64-linux-gnu "$sources/own.c" own.o
     compile x86_64-linux-gnu "$sources/sleep.c" sleep.o
     rm -f libown.a
