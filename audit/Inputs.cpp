@@ -30,6 +30,19 @@ bool isSourceName(const fs::path& path)
     return extensions.count(lowerCase(path.extension())) > 0;
 }
 
+// Files with these names are programs, or damaged.
+bool isProgramName(const fs::path& path)
+{
+    static const std::set<std::string> extensions = {".exe", ".dll", ".ocx"};
+    return extensions.count(lowerCase(path.extension())) > 0;
+}
+
+bool isBinaryName(const fs::path& path)
+{
+    static const std::set<std::string> extensions = {".obj", ".lib", ".o", ".a", ".so", ".dylib"};
+    return isProgramName(path) || extensions.count(lowerCase(path.extension())) > 0;
+}
+
 std::string reason(int error)
 {
     return std::generic_category().message(error);
@@ -55,6 +68,7 @@ private:
     void addFolder(const fs::path& path);
     void addFound(const fs::directory_entry& entry);
     void addFoundFile(const std::string& path);
+    void addUnknown(const std::string& path, const std::string& beginning);
     bool isFile(const std::string& path);
     bool readBeginning(const std::string& path, std::string& beginning);
     void add(const std::string& path, InputKind kind);
@@ -86,10 +100,16 @@ void Search::addNamedFile(const std::string& path)
         add(path, InputKind::Binary);
     else if (fs::path(path).extension() == ".json")
         addCompileCommands(path);
-    else if (isSourceName(path) || isText(beginning))
+    else if (isSourceName(path) || (isText(beginning) && !isBinaryName(path)))
         add(path, InputKind::Source);
     else
-        addProblem(path, "neither a program, a library, an object nor a source");
+        addUnknown(path, beginning);
+}
+
+void Search::addUnknown(const std::string& path, const std::string& beginning)
+{
+    addProblem(path, beginning.empty() ? "empty"
+                                       : "neither a program, a library, an object nor a source");
 }
 
 void Search::addCompileCommands(const std::string& path)
@@ -145,6 +165,8 @@ void Search::addFoundFile(const std::string& path)
         add(path, InputKind::Binary);
     else if (isSourceName(path))
         add(path, InputKind::Source);
+    else if (isProgramName(path))
+        addUnknown(path, beginning);
 }
 
 bool Search::isFile(const std::string& path)

@@ -13,6 +13,7 @@ namespace ktqtbase::audit {
 
 namespace {
 
+constexpr std::size_t kTextForControl = 20;
 constexpr int kMostContinuedLines = 1000;
 constexpr int kDeepestNumber = 10000;
 
@@ -25,6 +26,13 @@ std::string decoded(std::string text)
     if (!llvm::convertUTF16ToUTF8String(llvm::ArrayRef<char>(text.data(), text.size()), utf8))
         throw std::runtime_error("not UTF-16 text, though it begins with its mark");
     return utf8;
+}
+
+// Not the ends of lines, tabs and the like, nor the end of a file of DOS and the escape character.
+bool isControl(char ch)
+{
+    const auto byte = static_cast<unsigned char>(ch);
+    return byte < 0x08 || (byte >= 0x0E && byte < 0x20 && byte != 0x1A && byte != 0x1B);
 }
 
 // Clang's lexer calls itself for each of several lines that have a backslash and nothing else, and
@@ -82,6 +90,12 @@ std::string readSourceText(const std::string& path)
     checkContinuedLines(text);
     checkNumbers(text);
     return text;
+}
+
+bool isNoText(const std::string& text)
+{
+    const auto count = static_cast<std::size_t>(std::count_if(text.begin(), text.end(), isControl));
+    return text.find('\0') != std::string::npos || count > text.size() / kTextForControl;
 }
 
 const char* behindContinuedLine(const char* place)

@@ -142,6 +142,35 @@ TEST(Audit, NamesAFileOfNoKindOnlyWhereItIsGiven)
                 EndsWith("picture.png: neither a program, a library, an object nor a source\n"));
 }
 
+TEST(Audit, NamesASourceWithoutText)
+{
+    const std::vector<std::string> contents = {std::string(100, '\0'),
+                                               std::string("C\0o\0p\0y\0", 8), "\1\2\3\4\xFF\5\6\7",
+                                               "MZ" + std::string(100, '\0')};
+    for (const std::string& content : contents) {
+        const SourceFolder sources({"a.c"});
+        writeFile(sources.folder() / "b.c", content);
+        writeFile(sources.folder() / "list.json", R"([{"file": "b.c"}, {"file": "a.c"}])");
+        const AuditRun run({sources.path("list.json")});
+        EXPECT_EQ(run.status(), 2);
+        EXPECT_THAT(run.errors(), EndsWith("b.c: not text, though it is taken for a source\n"));
+        EXPECT_THAT(run.places("CopyFile"), ElementsAre("a.c:1"));
+    }
+}
+
+TEST(Audit, NamesAProgramThatIsNone)
+{
+    const TemporaryFolder folder;
+    writeFile(folder / "empty.exe", "");
+    writeFile(folder / "page.dll", "<html>");
+    const AuditRun run({text(folder.path())});
+    EXPECT_EQ(run.status(), 2);
+    EXPECT_THAT(run.errors(), HasSubstr("empty.exe: empty\n"));
+    EXPECT_THAT(run.errors(), HasSubstr("page.dll: neither a program, a library, an object nor "));
+    EXPECT_EQ(run.report()["summary"].toObject()["sources"].toInt(), 0);
+    EXPECT_EQ(AuditRun({text(folder / "empty.exe")}).status(), 2);
+}
+
 TEST(Audit, NamesWhatIsNoFile)
 {
     const AuditRun run({"/dev/null"});
