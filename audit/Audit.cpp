@@ -84,7 +84,10 @@ void Auditor::readBinaryInput(const std::string& path)
 void Auditor::readSourceInput(const std::string& path)
 {
     try {
-        findNames(path, readSourceText(path));
+        const std::string text = readSourceText(path);
+        findNames(path, text);
+        if (isNoText(text))
+            m_report.problems.push_back({path, "not text, though it is taken for a source"});
     } catch (const std::exception& error) {
         m_report.problems.push_back({path, error.what()});
     }
@@ -138,13 +141,11 @@ Report Auditor::report()
 
 } // namespace
 
-Report audit(Catalogue& catalogue, const std::vector<std::string>& paths)
+Report audit(Catalogue& catalogue, Inputs&& inputs)
 {
     Auditor auditor(catalogue);
-    auditor.read(findInputs(paths));
-    Report report = auditor.report();
-    report.inputs = paths;
-    return report;
+    auditor.read(std::move(inputs));
+    return auditor.report();
 }
 
 } // namespace ktqtbase::audit

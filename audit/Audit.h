@@ -5,14 +5,12 @@
 #define KTQTBASE_AUDIT_AUDIT_H
 
 #include "Catalogue.h"
+#include "Inputs.h"
 #include "Report.h"
-
-#include <string>
-#include <vector>
 
 namespace ktqtbase::audit {
 
-Report audit(Catalogue& catalogue, const std::vector<std::string>& paths);
+Report audit(Catalogue& catalogue, Inputs&& inputs);
 
 } // namespace ktqtbase::audit
 

@@ -1,8 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "Baseline.h"
+#include "JsonFile.h"
 #include "TextFile.h"
-
-#include <llvm/Support/JSON.h>
 
 #include <algorithm>
 #include <stdexcept>
@@ -70,10 +69,8 @@ EarlierUses earlierUses(const json::Array& names)
 
 EarlierUses readEarlierUses(const std::string& path)
 {
-    llvm::Expected<json::Value> value = json::parse(readTextFile(path));
-    if (!value)
-        throw std::runtime_error(llvm::toString(value.takeError()));
-    const json::Object* const report = value->getAsObject();
+    const json::Value value = parseJson(readTextFile(path));
+    const json::Object* const report = value.getAsObject();
     const json::Array* const names = report ? report->getArray("names") : nullptr;
     if (!names || textOf(*report, "tool") != "ktqt-audit")
         throw std::runtime_error("no report that --json wrote");

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "BinaryFile.h"
 #include "LowerCase.h"
+#include "TextFile.h"
 
 #include <llvm/BinaryFormat/Magic.h>
 #include <llvm/Object/Archive.h>
@@ -18,6 +19,10 @@ namespace ktqtbase::audit {
 
 namespace {
 
+// None that anybody looks for is as long. Many names may share their bytes in a file, so that they
+// may take more memory than the file.
+constexpr std::size_t kLongestName = 4096;
+
 // What is being read, and the symbol that is filled in for each of its names.
 class Reader
 {
@@ -29,6 +34,7 @@ public:
 private:
     void readArchive(const object::Archive& archive);
     void readChild(const object::Archive& archive, const object::Archive::Child& child);
+    bool isMemberFile(const object::Archive::Child& child);
     void readMember(llvm::MemoryBufferRef buffer);
     void readUniversal(const object::MachOUniversalBinary& universal);
     void readSlice(const object::MachOUniversalBinary::ObjectForArch& slice);
@@ -66,9 +72,10 @@ bool Reader::failed(llvm::Error error)
 
 void Reader::tell(llvm::StringRef name)
 {
+    if (name.empty() || name.size() > kLongestName)
+        return;
     m_symbol.name = name.str();
-    if (!m_symbol.name.empty())
-        m_visitor.symbol(m_symbol);
+    m_visitor.symbol(m_symbol);
 }
 
 void Reader::readFile(const object::Binary& binary)
@@ -104,6 +111,8 @@ void Reader::readChild(const object::Archive& archive, const object::Archive::Ch
     if (failed(name.takeError()))
         return;
     m_symbol.member += (m_symbol.member.empty() ? "" : ", ") + name->str();
+    if (archive.isThin() && !isMemberFile(child))
+        return;
     llvm::Expected<llvm::MemoryBufferRef> buffer = child.getMemoryBufferRef();
     if (failed(buffer.takeError()))
         return;
@@ -111,6 +120,21 @@ void Reader::readChild(const object::Archive& archive, const object::Archive::Ch
         m_visitor.problem(m_symbol.member, "cut off");
     else
         readMember(*buffer);
+}
+
+// A thin archive names the files of its members.
+bool Reader::isMemberFile(const object::Archive::Child& child)
+{
+    llvm::Expected<std::string> path = child.getFullName();
+    if (failed(path.takeError()))
+        return false;
+    try {
+        checkIsFile(*path);
+        return true;
+    } catch (const std::exception& error) {
+        m_visitor.problem(m_symbol.member, error.what());
+        return false;
+    }
 }
 
 void Reader::readMember(llvm::MemoryBufferRef buffer)
@@ -231,6 +255,7 @@ bool Reader::hasWholeSections(const object::COFFObjectFile& file)
 void Reader::readImage(const object::COFFObjectFile& file)
 {
     m_symbol.isDefined = false;
+    m_symbol.hasUnderscore = false; // tables of imports have the names as they are
     if (!hasWholeSections(file))
         return;
     for (const object::ImportDirectoryEntryRef& dll : file.import_directories())
@@ -316,7 +341,7 @@ bool isBinary(std::string_view beginning)
     return beginning.substr(0, 2) == "MZ" || isKnownKind(bytes) || whyUnreadable(bytes);
 }
 
-void readBinary(std::string_view content, const BinaryVisitor& visitor)
+void readBinary(std::string_view content, const std::string& path, const BinaryVisitor& visitor)
 {
     const llvm::StringRef bytes(content.data(), content.size());
     if (const char* const reason = whyUnreadable(bytes)) {
@@ -324,7 +349,7 @@ void readBinary(std::string_view content, const BinaryVisitor& visitor)
         return;
     }
     llvm::Expected<std::unique_ptr<object::Binary>> binary =
-        object::createBinary(llvm::MemoryBufferRef(bytes, ""));
+        object::createBinary(llvm::MemoryBufferRef(bytes, path));
     if (binary)
         Reader(visitor).readFile(**binary);
     else
@@ -337,7 +362,7 @@ void readBinaryFile(const std::string& path, const BinaryVisitor& visitor)
     constexpr bool endsInZero = false;
     const auto buffer = llvm::MemoryBuffer::getFile(path, isText, endsInZero);
     if (buffer)
-        readBinary(std::string_view((*buffer)->getBufferStart(), (*buffer)->getBufferSize()),
+        readBinary(std::string_view((*buffer)->getBufferStart(), (*buffer)->getBufferSize()), path,
                    visitor);
     else
         visitor.problem(std::string(), buffer.getError().message());

@@ -35,8 +35,8 @@ struct BinaryVisitor
 bool isBinary(std::string_view beginning);
 
 // Tells of each name that the file needs. In an archive names that it has itself are told of, too,
-// as defined ones.
-void readBinary(std::string_view content, const BinaryVisitor& visitor);
+// as defined ones. The members of a thin archive are looked for from the folder of its path on.
+void readBinary(std::string_view content, const std::string& path, const BinaryVisitor& visitor);
 void readBinaryFile(const std::string& path, const BinaryVisitor& visitor);
 
 } // namespace ktqtbase::audit

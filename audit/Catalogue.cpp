@@ -2,7 +2,6 @@
 #include "Catalogue.h"
 
 #include <algorithm>
-#include <set>
 #include <utility>
 
 namespace ktqtbase::audit {
@@ -56,6 +55,12 @@ std::string_view withoutArguments(std::string_view scope)
     return scope.substr(0, scope.find('<'));
 }
 
+// Not "~CString", "operator=" or "`vftable'".
+bool isMethodName(std::string_view name)
+{
+    return name.find_first_of("~`$ =") == std::string_view::npos && !startsWith(name, "operator");
+}
+
 } // namespace
 
 Catalogue::Catalogue(CatalogueFiles&& files)
@@ -99,12 +104,20 @@ bool Catalogue::countsDll(const std::string& dll) const
 
 const Entry* Catalogue::member(std::string_view scope, std::string_view name)
 {
+    const std::string fullName = std::string(scope).append("::").append(name);
     if (const Entry* const type = findClass(scope))
-        return type;
+        return lacks(*type, scope, name) ? &addUnknown(fullName, std::string(), type->family)
+                                         : type;
     const Entry* const type = find(withoutArguments(scope));
     const bool isOther = type && type->kind == "type";
-    return isOther ? &addUnknown(std::string(scope).append("::").append(name), std::string())
-                   : nullptr;
+    return isOther ? &addUnknown(fullName, std::string()) : nullptr;
+}
+
+// What a compiler makes itself has no entry. A class of which no method is listed may have any.
+bool Catalogue::lacks(const Entry& type, std::string_view scope, std::string_view name) const
+{
+    const bool isOwn = type.group != Group::NotHere && scope == type.name;
+    return isOwn && m_listedClasses.count(type.name) > 0 && name != type.name && isMethodName(name);
 }
 
 const Entry& Catalogue::imported(const std::string& dll, const std::string& name)
@@ -135,13 +148,28 @@ Entry Catalogue::withFamily(const Entry& entry) const
     return complete;
 }
 
-bool Catalogue::hasFamily(const std::string& id) const
+std::set<std::string> Catalogue::familyIds() const
 {
-    return id == "other" ||
-           std::any_of(m_families.all().begin(), m_families.all().end(),
-                       [&](const Family& family) { return family.id == id; }) ||
-           std::any_of(m_entries.begin(), m_entries.end(),
-                       [&](const Entry& entry) { return entry.family == id; });
+    std::set<std::string> ids = {"other"};
+    for (const Family& family : m_families.all())
+        ids.insert(family.id);
+    for (const Entry& entry : m_entries) {
+        if (!entry.family.empty())
+            ids.insert(entry.family);
+    }
+    return ids;
+}
+
+std::optional<std::string> Catalogue::familyId(const std::string& text) const
+{
+    const std::set<std::string> ids = familyIds();
+    if (ids.count(text) > 0)
+        return text;
+    for (const Family& family : m_families.all()) {
+        if (family.title == text)
+            return family.id;
+    }
+    return std::nullopt;
 }
 
 // The porting headers give again, under the other form of their names, what the library has.
@@ -195,6 +223,8 @@ void Catalogue::indexLetters(const Entry& entry)
 void Catalogue::indexScoped(const Entry& entry)
 {
     m_scopedNames.emplace(keep(fullName(entry)), &entry);
+    if (entry.kind == "method")
+        m_listedClasses.insert(entry.scope);
     if (mayHaveLetter(entry)) {
         m_scopedNames.emplace(keep(fullName(entry) + "A"), &entry);
         m_scopedNames.emplace(keep(fullName(entry) + "W"), &entry);
@@ -236,7 +266,8 @@ void Catalogue::addWindowsName(const WindowsName& name, bool hasBothLetters)
     m_names.emplace(keep(name.name), entry);
 }
 
-const Entry& Catalogue::addUnknown(const std::string& name, const std::string& dll)
+const Entry& Catalogue::addUnknown(const std::string& name, const std::string& dll,
+                                   const std::string& family)
 {
     const Entry*& entry = m_unknown[name];
     if (!entry) {
@@ -244,6 +275,7 @@ const Entry& Catalogue::addUnknown(const std::string& name, const std::string& d
         unknown.name = name;
         unknown.kind = "function";
         unknown.dll = dll;
+        unknown.family = family;
         m_entries.push_back(unknown);
         entry = &m_entries.back();
     }

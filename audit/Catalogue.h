@@ -13,6 +13,8 @@
 #include "Families.h"
 
 #include <deque>
+#include <optional>
+#include <set>
 #include <string>
 #include <string_view>
 #include <unordered_map>
@@ -35,8 +37,9 @@ public:
     // A name in a namespace or class of the library. Result: null if it is not known.
     const Entry* find(std::string_view scope, std::string_view name) const;
 
-    // What a symbol in a scope counts as: the class that it belongs to, or, where the library has
-    // that name for something else than MFC's class, a member that is not here. Result: null if the
+    // What a symbol in a scope counts as: the class that it belongs to, or a member that is not here
+    // where the library's class lacks it, or the library has that name for something else than MFC's
+    // class. Result: null if the
     // scope is not known.
     const Entry* member(std::string_view scope, std::string_view name);
 
@@ -54,11 +57,15 @@ public:
     Entry withFamily(const Entry& entry) const;
 
     const Family& family(const std::string& id) { return m_families.named(id); }
-    bool hasFamily(const std::string& id) const;
+    std::set<std::string> familyIds() const;
+
+    // The id of the family that has a text for its id or its title.
+    std::optional<std::string> familyId(const std::string& text) const;
 
 private:
     using Index = std::unordered_map<std::string_view, const Entry*>;
 
+    bool lacks(const Entry& type, std::string_view scope, std::string_view name) const;
     const Entry* findClass(std::string_view scope) const;
     void indexEntries();
     void indexOwnNames();
@@ -68,7 +75,8 @@ private:
     void addMfcClasses(std::vector<Entry>&& classes);
     void addWindowsNames(const std::vector<WindowsName>& names);
     void addWindowsName(const WindowsName& name, bool hasBothLetters);
-    const Entry& addUnknown(const std::string& name, const std::string& dll);
+    const Entry& addUnknown(const std::string& name, const std::string& dll,
+                            const std::string& family = std::string());
     std::string_view keep(std::string text);
 
     std::deque<std::string> m_texts;
@@ -77,6 +85,7 @@ private:
     Index m_names;
     Index m_scopedNames;
     std::unordered_set<std::string> m_dlls;
+    std::unordered_set<std::string> m_listedClasses; // those with methods in the catalogue
     std::unordered_map<std::string, const Entry*> m_unknown;
 };
 

@@ -1,9 +1,8 @@
 // SPDX-License-Identifier: MIT
 #include "CatalogueFiles.h"
+#include "JsonFile.h"
 #include "LowerCase.h"
 #include "TextFile.h"
-
-#include <llvm/Support/JSON.h>
 
 #include <algorithm>
 #include <filesystem>
@@ -137,14 +136,6 @@ void readNames(CatalogueFiles& files, const std::string& text)
     }
 }
 
-json::Value parsed(const std::string& text)
-{
-    llvm::Expected<json::Value> value = json::parse(text);
-    if (!value)
-        throw CatalogueError(llvm::toString(value.takeError()));
-    return std::move(*value);
-}
-
 // Reads one file, and puts its name in front of what is wrong in it.
 void readFile(const std::string& path, const std::function<void(const std::string&)>& read)
 {
@@ -177,9 +168,9 @@ CatalogueFiles readCatalogueFiles(const std::string& folder)
     CatalogueFiles files;
     const std::vector<std::string> paths = familyFiles(folder);
     readFile(folder + "/families.json",
-             [&](const std::string& text) { readFamilies(files, parsed(text)); });
+             [&](const std::string& text) { readFamilies(files, parseJson(text)); });
     for (const std::string& path : paths)
-        readFile(path, [&](const std::string& text) { readFamilyFile(files, parsed(text)); });
+        readFile(path, [&](const std::string& text) { readFamilyFile(files, parseJson(text)); });
     readFile(folder + "/windows-names.txt",
              [&](const std::string& text) { readNames(files, text); });
     return files;

@@ -1,8 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "CompileCommands.h"
+#include "JsonFile.h"
 #include "TextFile.h"
-
-#include <llvm/Support/JSON.h>
 
 #include <filesystem>
 #include <stdexcept>
@@ -28,10 +27,8 @@ std::string sourceOf(const json::Object& command, const fs::path& base)
 
 std::vector<std::string> readCompileCommands(const std::string& path)
 {
-    llvm::Expected<json::Value> value = json::parse(readTextFile(path));
-    if (!value)
-        throw std::runtime_error(llvm::toString(value.takeError()));
-    const json::Array* const commands = value->getAsArray();
+    const json::Value value = parseJson(readTextFile(path));
+    const json::Array* const commands = value.getAsArray();
     if (!commands)
         throw std::runtime_error("no list of compile commands");
     std::vector<std::string> sources;

@@ -20,6 +20,23 @@ namespace ktqtbase::audit {
 namespace {
 
 constexpr rlim_t kSeconds = 30;
+constexpr unsigned kSecondsOfWaiting = 120; // also for a slow disk
+constexpr rlim_t kBytes = rlim_t(4) << 30;
+constexpr std::size_t kBytesOfNames = 64 << 20;
+
+// Sanitizers reserve more addresses than any limit has.
+#if defined(__SANITIZE_ADDRESS__) || defined(__SANITIZE_THREAD__)
+constexpr bool kLimitsMemory = false;
+#elif defined(__has_feature)
+#if __has_feature(address_sanitizer) || __has_feature(thread_sanitizer) ||                         \
+    __has_feature(memory_sanitizer)
+constexpr bool kLimitsMemory = false;
+#else
+constexpr bool kLimitsMemory = true;
+#endif
+#else
+constexpr bool kLimitsMemory = true;
+#endif
 constexpr int kPatience = 200; // milliseconds
 
 // The kinds of records that the reading process sends: a name with the scope, the DLL and the
@@ -52,6 +69,7 @@ private:
     std::set<std::tuple<std::string, std::string, std::string, std::string>> m_names;
     std::set<std::pair<std::string, std::string>> m_defined;
     std::string m_problem;
+    std::size_t m_size = 0;
 };
 
 void Collector::add(const Symbol& symbol)
@@ -59,7 +77,10 @@ void Collector::add(const Symbol& symbol)
     const PlainName plain = plainName(symbol.name, symbol.hasUnderscore);
     if (!lookUp(m_catalogue, symbol, plain))
         return;
-    if (symbol.isDefined)
+    m_size += symbol.member.size() + symbol.dll.size() + symbol.name.size();
+    if (m_size > kBytesOfNames)
+        addProblem(std::string(), "damaged, or too large: it has more than 64 MB of names");
+    else if (symbol.isDefined)
         m_defined.emplace(plain.scope, plain.name);
     else
         m_names.emplace(symbol.member, symbol.dll, plain.scope, plain.name);
@@ -96,6 +117,10 @@ void prepareToCrash()
 {
     setLimit(RLIMIT_CORE, 0);
     setLimit(RLIMIT_CPU, kSeconds);
+    if (kLimitsMemory)
+        setLimit(RLIMIT_AS, kBytes);
+    std::signal(SIGALRM, SIG_DFL);
+    alarm(kSecondsOfWaiting);
     const int nowhere = open("/dev/null", O_WRONLY | O_CLOEXEC);
     dup2(nowhere, STDERR_FILENO);
 }
@@ -112,7 +137,7 @@ bool writeAll(int file, const std::string& bytes)
     return true;
 }
 
-[[noreturn]] void readInChild(Catalogue& catalogue, const std::string& path, int pipe)
+[[noreturn]] void readInChild(Catalogue& catalogue, const std::string& path, int pipe) noexcept
 {
     prepareToCrash();
     Collector collector(catalogue);
@@ -151,7 +176,8 @@ int waitForChild(pid_t child)
 
 std::string whyItEnded(int status)
 {
-    if (WIFSIGNALED(status) && (WTERMSIG(status) == SIGXCPU || WTERMSIG(status) == SIGKILL))
+    if (WIFSIGNALED(status) &&
+        (WTERMSIG(status) == SIGXCPU || WTERMSIG(status) == SIGALRM || WTERMSIG(status) == SIGKILL))
         return "damaged, or too large: reading it took more than " + std::to_string(kSeconds) +
                " seconds";
     return "damaged: what it says of itself cannot be true";

@@ -3,6 +3,7 @@
 #include "BinaryFile.h"
 #include "CompileCommands.h"
 #include "LowerCase.h"
+#include "TextFile.h"
 
 #include <algorithm>
 #include <cerrno>
@@ -27,6 +28,19 @@ bool isSourceName(const fs::path& path)
                                                      ".hh", ".hpp", ".hxx", ".inl", ".ipp",
                                                      ".rc", ".rc2", ".m",   ".mm"};
     return extensions.count(lowerCase(path.extension())) > 0;
+}
+
+// Files with these names are programs, or damaged.
+bool isProgramName(const fs::path& path)
+{
+    static const std::set<std::string> extensions = {".exe", ".dll", ".ocx"};
+    return extensions.count(lowerCase(path.extension())) > 0;
+}
+
+bool isBinaryName(const fs::path& path)
+{
+    static const std::set<std::string> extensions = {".obj", ".lib", ".o", ".a", ".so", ".dylib"};
+    return isProgramName(path) || extensions.count(lowerCase(path.extension())) > 0;
 }
 
 std::string reason(int error)
@@ -54,6 +68,8 @@ private:
     void addFolder(const fs::path& path);
     void addFound(const fs::directory_entry& entry);
     void addFoundFile(const std::string& path);
+    void addUnknown(const std::string& path, const std::string& beginning);
+    bool isFile(const std::string& path);
     bool readBeginning(const std::string& path, std::string& beginning);
     void add(const std::string& path, InputKind kind);
     void addProblem(const std::string& path, const std::string& reason);
@@ -84,10 +100,16 @@ void Search::addNamedFile(const std::string& path)
         add(path, InputKind::Binary);
     else if (fs::path(path).extension() == ".json")
         addCompileCommands(path);
-    else if (isSourceName(path) || isText(beginning))
+    else if (isSourceName(path) || (isText(beginning) && !isBinaryName(path)))
         add(path, InputKind::Source);
     else
-        addProblem(path, "neither a program, a library, an object nor a source");
+        addUnknown(path, beginning);
+}
+
+void Search::addUnknown(const std::string& path, const std::string& beginning)
+{
+    addProblem(path, beginning.empty() ? "empty"
+                                       : "neither a program, a library, an object nor a source");
 }
 
 void Search::addCompileCommands(const std::string& path)
@@ -143,10 +165,25 @@ void Search::addFoundFile(const std::string& path)
         add(path, InputKind::Binary);
     else if (isSourceName(path))
         add(path, InputKind::Source);
+    else if (isProgramName(path))
+        addUnknown(path, beginning);
+}
+
+bool Search::isFile(const std::string& path)
+{
+    try {
+        checkIsFile(path);
+        return true;
+    } catch (const std::exception& error) {
+        addProblem(path, error.what());
+        return false;
+    }
 }
 
 bool Search::readBeginning(const std::string& path, std::string& beginning)
 {
+    if (!isFile(path))
+        return false;
     std::ifstream file(path, std::ios::binary);
     if (!file) {
         addProblem(path, reason(errno));

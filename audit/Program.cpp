@@ -12,6 +12,7 @@
 #include <llvm/Support/FileSystem.h>
 
 #include <algorithm>
+#include <filesystem>
 #include <iostream>
 #include <memory>
 
@@ -130,10 +131,25 @@ void reduce(Report& report, const Arguments& arguments)
         report.shown.assign(kGroups.begin(), kGroups.end());
 }
 
-void checkFamily(const Catalogue& catalogue, const std::string& family)
+std::string familyList(const Catalogue& catalogue)
 {
-    if (!family.empty() && !catalogue.hasFamily(family))
-        throw std::runtime_error("--family: there is no family \"" + family + "\"");
+    std::string list;
+    for (const std::string& id : catalogue.familyIds())
+        list += (list.empty() ? "" : ", ") + id;
+    return list;
+}
+
+// A family is chosen by its id, or by its title, which is what reports show.
+Arguments withFamilyId(const Catalogue& catalogue, Arguments arguments)
+{
+    if (arguments.family.empty())
+        return arguments;
+    const std::optional<std::string> id = catalogue.familyId(arguments.family);
+    if (!id)
+        throw std::runtime_error("--family: there is no family \"" + arguments.family +
+                                 "\"; there are " + familyList(catalogue));
+    arguments.family = *id;
+    return arguments;
 }
 
 // An unreadable file comes first: what it needs is not known.
@@ -147,6 +163,57 @@ int status(const Report& report, const std::vector<Group>& failOn)
     return fails ? kFailed : 0;
 }
 
+bool isSameFile(const std::string& one, const std::string& other)
+{
+    std::error_code isMissing;
+    return std::filesystem::equivalent(one, other, isMissing);
+}
+
+void checkOutput(const Arguments& arguments, const Inputs& inputs)
+{
+    std::vector<std::string> paths = arguments.paths;
+    paths.push_back(arguments.baseline);
+    for (const Input& input : inputs.files)
+        paths.push_back(input.path);
+    const bool isRead = std::any_of(paths.begin(), paths.end(), [&](const std::string& path) {
+        return isSameFile(arguments.output, path);
+    });
+    if (isRead)
+        throw std::runtime_error("--output: " + arguments.output +
+                                 ": would overwrite what is read");
+}
+
+void report(Report& report, const Arguments& arguments)
+{
+    reduce(report, arguments);
+    Output output(arguments);
+    writeReport(report, arguments, output.stream());
+    output.close();
+}
+
+void tellProblems(const Report& report)
+{
+    for (const Problem& problem : report.problems)
+        std::cerr << "ktqt-audit: " << printable(problem.path + ": " + problem.reason) << "\n";
+}
+
+// What cannot be read is told of even if the report cannot be written.
+int auditInputs(Catalogue& catalogue, const Arguments& arguments)
+{
+    Inputs inputs = findInputs(arguments.paths);
+    checkOutput(arguments, inputs);
+    Report found = audit(catalogue, std::move(inputs));
+    found.inputs = arguments.paths;
+    try {
+        report(found, arguments);
+    } catch (const std::exception&) {
+        tellProblems(found);
+        throw;
+    }
+    tellProblems(found);
+    return status(found, arguments.failOn);
+}
+
 } // namespace
 
 int run(const Arguments& arguments)
@@ -154,15 +221,7 @@ int run(const Arguments& arguments)
     Catalogue catalogue(readCatalogueFiles(catalogueFolder(arguments)));
     if (!arguments.explain.empty())
         return explain(catalogue, arguments);
-    checkFamily(catalogue, arguments.family);
-    Report report = audit(catalogue, arguments.paths);
-    reduce(report, arguments);
-    Output output(arguments);
-    writeReport(report, arguments, output.stream());
-    output.close();
-    for (const Problem& problem : report.problems)
-        std::cerr << "ktqt-audit: " << printable(problem.path + ": " + problem.reason) << "\n";
-    return status(report, arguments.failOn);
+    return auditInputs(catalogue, withFamilyId(catalogue, arguments));
 }
 
 } // namespace ktqtbase::audit

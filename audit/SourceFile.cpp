@@ -1,5 +1,6 @@
 // SPDX-License-Identifier: MIT
 #include "SourceFile.h"
+#include "SourceText.h"
 
 #include <clang/Basic/IdentifierTable.h>
 #include <clang/Basic/LangOptions.h>
@@ -34,11 +35,23 @@ clang::LangOptions cppOptions()
 std::string joined(llvm::StringRef text)
 {
     std::string name;
-    for (const char ch : text) {
-        if (ch != '\\' && ch != '\n' && ch != '\r')
-            name += ch;
+    for (const char* place = text.begin(); place < text.end();) {
+        const char* const next = behindContinuedLine(place);
+        if (next == place)
+            name += *place++;
+        else
+            place = next;
     }
     return name;
+}
+
+// Lines that are continued may stand before a name, and belong to it for the lexer.
+const char* behindContinuedLines(const char* place)
+{
+    for (const char* next = behindContinuedLine(place); next != place;
+         next = behindContinuedLine(place))
+        place = next;
+    return place;
 }
 
 bool startsCharacter(char ch)
@@ -92,7 +105,7 @@ void SourceReader::next()
     if (!isName())
         return;
     m_text = m_token.getRawIdentifier();
-    m_place = m_text.data();
+    m_place = behindContinuedLines(m_text.data());
     if (m_token.needsCleaning())
         m_text = m_joined.emplace_back(joined(m_text));
 }
@@ -187,7 +200,7 @@ void SourceReader::readName()
 }
 
 // What stands before "::" is a name, the end of template arguments, or nothing of a scope, such as
-// the word "return".
+// the word "return" or, with a blank behind it, the sign for "greater than".
 llvm::StringRef SourceReader::scopeBefore() const
 {
     static const clang::IdentifierTable words(cppOptions());
@@ -195,7 +208,8 @@ llvm::StringRef SourceReader::scopeBefore() const
     const bool isKeyword = word != words.end() && word->second->getTokenID() != tok::identifier;
     if (isKeyword)
         return llvm::StringRef();
-    return m_before == tok::greater ? llvm::StringRef(">") : m_nameBefore;
+    const bool isRightBehind = !m_token.hasLeadingSpace() && !m_token.isAtStartOfLine();
+    return m_before == tok::greater && isRightBehind ? llvm::StringRef(">") : m_nameBefore;
 }
 
 void SourceReader::readOther()
@@ -216,19 +230,19 @@ void readSource(std::string_view text, const SourceVisitor& visitor)
     SourceReader(text, options, visitor).read();
 }
 
-PlaceCounter::PlaceCounter(std::string_view text) : m_lineStart(text.data()), m_place(text.data())
-{}
+PlaceCounter::PlaceCounter(std::string_view text) : m_place(text.data()) {}
 
 SourcePlace PlaceCounter::operator()(const char* place)
 {
     while (const void* const end =
                std::memchr(m_place, '\n', static_cast<std::size_t>(place - m_place))) {
-        m_place = m_lineStart = static_cast<const char*>(end) + 1;
+        m_place = static_cast<const char*>(end) + 1;
+        m_column = 1;
         ++m_line;
     }
+    m_column += static_cast<std::uint32_t>(std::count_if(m_place, place, startsCharacter));
     m_place = place;
-    const auto before = std::count_if(m_lineStart, place, startsCharacter);
-    return {m_line, static_cast<std::uint32_t>(before + 1)};
+    return {m_line, m_column};
 }
 
 } // namespace ktqtbase::audit

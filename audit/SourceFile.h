@@ -41,9 +41,9 @@ public:
     SourcePlace operator()(const char* place);
 
 private:
-    const char* m_lineStart;
     const char* m_place;
     std::uint32_t m_line = 1;
+    std::uint32_t m_column = 1;
 };
 
 } // namespace ktqtbase::audit

@@ -12,6 +12,13 @@ namespace ktqtbase::audit {
 // Throws a std::exception if the file cannot be read.
 std::string readSourceText(const std::string& path);
 
+// Whether a source has no text: zeros, or many of the other bytes that no text has.
+bool isNoText(const std::string& text);
+
+// The place behind a backslash that ends its line, and behind that end; the same place if there is
+// no such backslash. The text ends with a zero.
+const char* behindContinuedLine(const char* place);
+
 } // namespace ktqtbase::audit
 
 #endif

@@ -5,7 +5,10 @@
 #include <cstdio>
 #include <filesystem>
 #include <memory>
+#include <stdexcept>
 #include <system_error>
+
+#include <sys/stat.h>
 
 namespace ktqtbase::audit {
 
@@ -17,18 +20,30 @@ struct Closer
 };
 
 // std::system_error's own text has the reason behind the text that it is given.
-[[noreturn]] void fail()
+[[noreturn]] void fail(int error)
 {
-    throw std::system_error(errno, std::generic_category());
+    throw std::system_error(error, std::generic_category());
 }
 
 } // namespace
 
+void checkIsFile(const std::string& path)
+{
+    struct stat status = {};
+    if (stat(path.c_str(), &status) != 0)
+        fail(errno);
+    if (S_ISDIR(status.st_mode))
+        fail(EISDIR);
+    if (!S_ISREG(status.st_mode))
+        throw std::runtime_error("neither a file nor a folder");
+}
+
 std::string readTextFile(const std::string& path)
 {
+    checkIsFile(path);
     const std::unique_ptr<std::FILE, Closer> file(std::fopen(path.c_str(), "rbe"));
     if (!file)
-        fail();
+        fail(errno);
     std::string text;
     std::error_code unknown;
     const std::uintmax_t size = std::filesystem::file_size(path, unknown);
@@ -38,7 +53,7 @@ std::string readTextFile(const std::string& path)
     while (const std::size_t count = std::fread(buffer, 1, sizeof buffer, file.get()))
         text.append(buffer, count);
     if (std::ferror(file.get()))
-        fail();
+        fail(errno);
     return text;
 }
 

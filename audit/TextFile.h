@@ -8,7 +8,11 @@
 
 namespace ktqtbase::audit {
 
-// The bytes of a file. Throws std::system_error if it cannot be read.
+// Throws a std::exception if the path is not that of a file. Others, such as pipes, may keep their
+// reader waiting for ever.
+void checkIsFile(const std::string& path);
+
+// The bytes of a file. Throws a std::exception if it cannot be read.
 std::string readTextFile(const std::string& path);
 
 } // namespace ktqtbase::audit

@@ -17,6 +17,6 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
         return -1;
     const auto name = [](const Symbol& symbol) { plainName(symbol.name, symbol.hasUnderscore); };
     const auto problem = [](const std::string&, const std::string&) {};
-    readBinary(content, {name, problem});
+    readBinary(content, std::string(), {name, problem});
     return 0;
 }

@@ -51,9 +51,13 @@ TEST(Audit, RefusesArgumentsThatItDoesNotKnow)
         {{"--fail-on", "inert,", "a.c"}, "--fail-on: there is no group \"\"; see --help"},
         {{"--output", "", "a.c"}, "--output needs a value; see --help"},
         {{"--json", "--csv", "a.c"}, "a report has one form only; see --help"},
-        {{"--family", "nonsense", "a.c"}, "--family: there is no family \"nonsense\""},
+        {{"--family", "nonsense", "a.c"},
+         "--family: there is no family \"nonsense\"; there are files, mfc, other, porting, "
+         "threads, "
+         "types, windows"},
         {{"--explain", "nonsense"}, "nonsense: no name that is known"},
-        {{"--output", "/no/such/file", "/dev/null"}, "/no/such/file: No such file or directory"},
+        {{"--output", "/no/such/file", AUDIT_CATALOGUE},
+         "/no/such/file: No such file or directory"},
         {{"--output", "/dev/full", AUDIT_CATALOGUE}, "/dev/full: No space left on device"},
         {{"--baseline", "/no/such/file", AUDIT_CATALOGUE},
          "--baseline: /no/such/file: No such file or directory"},
@@ -65,6 +69,41 @@ TEST(Audit, RefusesArgumentsThatItDoesNotKnow)
         EXPECT_EQ(result.out, "");
         EXPECT_THAT(result.err, StartsWith("ktqt-audit: " + std::string(row.error) + "\n"));
     }
+}
+
+TEST(Audit, TakesAFamilyByItsTitle)
+{
+    EXPECT_EQ(statusWith({"--fail-on", "inert", "--family", "Files"}), 1);
+    EXPECT_EQ(statusWith({"--fail-on", "inert", "--family", "Threads"}), 0);
+}
+
+TEST(Audit, TellsOfUnreadableFilesWhereItCannotWriteItsReport)
+{
+    for (const char* const option : {"--output", "--baseline"}) {
+        const ProgramResult result = runAudit({option, "/no/such/folder/file", "/no/such/input"});
+        EXPECT_EQ(result.status, 2);
+        EXPECT_THAT(result.err,
+                    StartsWith("ktqt-audit: /no/such/input: No such file or directory\n"));
+        EXPECT_THAT(result.err, EndsWith("/no/such/folder/file: No such file or directory\n"));
+    }
+}
+
+TEST(Audit, OverwritesNothingThatItReads)
+{
+    const TemporaryFolder folder;
+    writeFile(folder / "main.cpp", "CopyFile(a);\n");
+    writeFile(folder / "before.json", "{}");
+    const QString source = text(folder / "main.cpp");
+    const QString before = text(folder / "before.json");
+    for (const QString& output : {source, before}) {
+        const ProgramResult result =
+            runAudit({"--output", output, "--baseline", before, text(folder.path())});
+        EXPECT_EQ(result.status, 2);
+        EXPECT_EQ(result.err, "ktqt-audit: --output: " + output.toStdString() +
+                                  ": would overwrite what is read\n");
+    }
+    EXPECT_EQ(readFile(folder / "main.cpp"), "CopyFile(a);\n");
+    EXPECT_EQ(readFile(folder / "before.json"), "{}");
 }
 
 TEST(Audit, TellsItsVersion)

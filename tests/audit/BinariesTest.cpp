@@ -4,6 +4,8 @@
 
 #include <gmock/gmock.h>
 
+#include <sys/stat.h>
+
 using namespace ktqtbase::test;
 using testing::Contains;
 using testing::Each;
@@ -52,6 +54,8 @@ const BinaryRow kRows[] = {
     {"WindowsObjectOfMingw", "window.obj", kWindow},
     {"WindowsLibraryOfMingw", "window.lib", kWindow},
     {"MembersOfMfc", "frame.obj", {"CFrameWnd not-here", "CWnd::ShowWindow not-here"}},
+    {"ThinLibrary", "thin.lib", kProgram},
+    {"WindowsProgramOf32Bits", "low32.exe", {"_lopen not-here"}},
     {"ImportLibrary", "KERNEL32.dll.lib", {"CopyFile differs", "CreateThread not-here"}},
     {"ImportLibraryWithNumbers", "mfc140u.dll.lib", {"mfc140u.dll#256 not-here"}},
     {"ImportLibraryOfAnOwnDll", "own.dll.lib", {}},
@@ -84,6 +88,15 @@ TEST(Audit, ReadsAProgramAndALibraryOfMingw)
         EXPECT_EQ(run.status(), 0) << run.errors();
         EXPECT_THAT(run.names(), IsSupersetOf(kWindow));
         EXPECT_THAT(run.names(), Each(Not(HasSubstr("malloc"))));
+    }
+}
+
+TEST(Audit, TellsOfAMethodThatTheLibrarysClassLacks)
+{
+    for (const char* const name : {"lacking.o", "lacking.obj"}) {
+        const AuditRun run({binary(name), "--family", "files"});
+        EXPECT_THAT(run.names(),
+                    ElementsAre("CRbUiPathname works", "CRbUiPathname::Open not-here"));
     }
 }
 
@@ -121,4 +134,14 @@ TEST(Audit, CountsWhatMfcHasOnlyNumbersFor)
 {
     EXPECT_THAT(runAudit({binary("late.exe"), "--only", "not-here"}).out,
                 HasSubstr("MFC by number\n  Look at the sources.\n  mfc140u.dll#256 1 use: "));
+}
+
+TEST(Audit, DoesNotWaitForAPipeInAThinLibrary)
+{
+    const TemporaryFolder folder;
+    std::filesystem::copy(BINARIES "/thin.lib", folder / "thin.lib");
+    ASSERT_EQ(mkfifo((folder / "program.obj").c_str(), 0600), 0);
+    const AuditRun run({text(folder / "thin.lib")});
+    EXPECT_EQ(run.status(), 2);
+    EXPECT_THAT(run.errors(), HasSubstr("thin.lib: program.obj: neither a file nor a folder\n"));
 }

@@ -8,6 +8,9 @@
 
 #include <QtCore/QJsonArray>
 
+#include <algorithm>
+#include <cstdint>
+#include <cstring>
 #include <random>
 
 using namespace ktqtbase::test;
@@ -42,6 +45,55 @@ std::vector<Binary> binaries()
 void PrintTo(const Binary& binary, std::ostream* out)
 {
     *out << binary.file;
+}
+
+template<class Number>
+void put(std::string& bytes, std::size_t place, Number value)
+{
+    std::memcpy(&bytes[place], &value, sizeof value);
+}
+
+// The headers of a program for x86-64 with one section, which begins with its table of imports.
+std::string headers(std::uint32_t size)
+{
+    std::string bytes(512, '\0');
+    bytes.replace(0, 2, "MZ");
+    put<std::uint32_t>(bytes, 60, 64);
+    bytes.replace(64, 4, std::string("PE\0\0", 4));
+    put<std::uint16_t>(bytes, 68, 0x8664);
+    put<std::uint16_t>(bytes, 70, 1);   // sections
+    put<std::uint16_t>(bytes, 84, 240); // size of what follows
+    put<std::uint16_t>(bytes, 86, 0x22);
+    put<std::uint16_t>(bytes, 88, 0x20B);
+    put<std::uint32_t>(bytes, 196, 16); // directories
+    put<std::uint32_t>(bytes, 208, 0x1000);
+    put<std::uint32_t>(bytes, 212, 40);
+    bytes.replace(328, 6, ".rdata");
+    for (const std::size_t place : {336, 344})
+        put<std::uint32_t>(bytes, place, size);
+    put<std::uint32_t>(bytes, 340, 0x1000);
+    put<std::uint32_t>(bytes, 348, 512);
+    put<std::uint32_t>(bytes, 364, 0x40000040);
+    return bytes;
+}
+
+// A program that imports names, each of which is that before without its first letter.
+std::string programWithNames(std::uint32_t count)
+{
+    const std::uint32_t table = 56;
+    const std::uint32_t names = table + 8 * (count + 1);
+    std::string section(names + count + 4098, 'A');
+    std::fill_n(section.begin(), names, '\0');
+    section.back() = '\0';
+    for (const std::uint32_t place : {0, 16})
+        put<std::uint32_t>(section, place, 0x1000 + table);
+    put<std::uint32_t>(section, 12, 0x1000 + 40);
+    section.replace(40, 12, "kernel32.dll");
+    for (std::uint32_t i = 0; i < count; ++i)
+        put<std::uint64_t>(section, table + 8 * i, 0x1000 + names + i);
+    for (std::uint32_t end = names + 4000; end < section.size(); end += 4000)
+        section[end] = '\0';
+    return headers(static_cast<std::uint32_t>(section.size())) + section;
 }
 
 class DamagedBinary : public testing::TestWithParam<Binary>
@@ -118,4 +170,15 @@ TEST(Audit, TellsOfAnObjectWithoutATableOfNames)
     const AuditRun run({text(folder / "code.o")});
     EXPECT_EQ(run.status(), 2);
     EXPECT_THAT(run.errors(), HasSubstr("code.o: compiled for link-time optimisation"));
+}
+
+// Each of its names begins one byte behind the one before.
+TEST(Audit, DoesNoHarmWithNamesThatShareTheirBytes)
+{
+    const TemporaryFolder folder;
+    writeFile(folder / "names.exe", programWithNames(40000));
+    const AuditRun run({text(folder / "names.exe")});
+    EXPECT_EQ(run.status(), 2);
+    EXPECT_THAT(run.errors(),
+                HasSubstr("names.exe: damaged, or too large: it has more than 64 MB of names"));
 }

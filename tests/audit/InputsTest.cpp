@@ -3,6 +3,8 @@
 
 #include <gmock/gmock.h>
 
+#include <sys/stat.h>
+
 using namespace ktqtbase::test;
 using testing::ElementsAre;
 using testing::EndsWith;
@@ -84,6 +86,30 @@ TEST(Audit, TellsOfCompileCommandsThatAreNone)
     EXPECT_EQ(AuditRun({text(folder / "list.json")}).status(), 2);
 }
 
+TEST(Audit, TellsOfCompileCommandsThatAreNestedTooDeeply)
+{
+    const TemporaryFolder folder;
+    writeFile(folder / "list.json", R"(["\"]", )" + std::string(100000, '['));
+    const AuditRun run({text(folder / "list.json")});
+    EXPECT_EQ(run.status(), 2);
+    EXPECT_THAT(run.errors(), EndsWith("list.json: nested more than 500 levels deep\n"));
+}
+
+TEST(Audit, DoesNotWaitForAPipe)
+{
+    const SourceFolder sources({"a.c"});
+    ASSERT_EQ(mkfifo((sources.folder() / "pipe").c_str(), 0600), 0);
+    writeFile(sources.folder() / "list.json", R"([{"file": "pipe"}, {"file": "a.c"}])");
+    const AuditRun run({sources.path("list.json"), sources.path("pipe")});
+    EXPECT_EQ(run.status(), 2);
+    EXPECT_THAT(run.errors(), HasSubstr("pipe: neither a file nor a folder\n"));
+    EXPECT_THAT(run.places("CopyFile"), ElementsAre("a.c:1"));
+    const ProgramResult result =
+        runAudit({"--baseline", sources.path("pipe"), sources.path("a.c")});
+    EXPECT_EQ(result.status, 2);
+    EXPECT_THAT(result.err, EndsWith("pipe: neither a file nor a folder\n"));
+}
+
 TEST(Audit, NamesAFileThatIsMissingAndReadsTheOthers)
 {
     const SourceFolder sources({"a.c"});
@@ -114,6 +140,35 @@ TEST(Audit, NamesAFileOfNoKindOnlyWhereItIsGiven)
     EXPECT_EQ(run.status(), 2);
     EXPECT_THAT(run.errors(),
                 EndsWith("picture.png: neither a program, a library, an object nor a source\n"));
+}
+
+TEST(Audit, NamesASourceWithoutText)
+{
+    const std::vector<std::string> contents = {std::string(100, '\0'),
+                                               std::string("C\0o\0p\0y\0", 8), "\1\2\3\4\xFF\5\6\7",
+                                               "MZ" + std::string(100, '\0')};
+    for (const std::string& content : contents) {
+        const SourceFolder sources({"a.c"});
+        writeFile(sources.folder() / "b.c", content);
+        writeFile(sources.folder() / "list.json", R"([{"file": "b.c"}, {"file": "a.c"}])");
+        const AuditRun run({sources.path("list.json")});
+        EXPECT_EQ(run.status(), 2);
+        EXPECT_THAT(run.errors(), EndsWith("b.c: not text, though it is taken for a source\n"));
+        EXPECT_THAT(run.places("CopyFile"), ElementsAre("a.c:1"));
+    }
+}
+
+TEST(Audit, NamesAProgramThatIsNone)
+{
+    const TemporaryFolder folder;
+    writeFile(folder / "empty.exe", "");
+    writeFile(folder / "page.dll", "<html>");
+    const AuditRun run({text(folder.path())});
+    EXPECT_EQ(run.status(), 2);
+    EXPECT_THAT(run.errors(), HasSubstr("empty.exe: empty\n"));
+    EXPECT_THAT(run.errors(), HasSubstr("page.dll: neither a program, a library, an object nor "));
+    EXPECT_EQ(run.report()["summary"].toObject()["sources"].toInt(), 0);
+    EXPECT_EQ(AuditRun({text(folder / "empty.exe")}).status(), 2);
 }
 
 TEST(Audit, NamesWhatIsNoFile)

@@ -47,6 +47,11 @@ const SourceRow kRows[] = {
     {"RawText", "f(R\"x(\")\nCopyFile\n)x\");\nCopyFile(a);\n", {"main.cpp:4"}},
     {"DigitSeparators", "int a = 1'000; CopyFile(a); int b = 1'000;\n", {"main.cpp:1"}},
     {"CutName", "Copy\\\nFile(a);\nCopyFile(b);\n", {"main.cpp:1", "main.cpp:3"}},
+    {"NameBehindAContinuedLine", "int a; \\\nCopyFile(a);\n", {"main.cpp:2"}},
+    {"NameBehindContinuedLines", "\\\r\n\\ \r\nCopyFile(a);\r\n", {"main.cpp:3"}},
+    {"GreaterThan",
+     "a > ::CopyFile(b); a >= ::CopyFile(b); a >=::CopyFile(b);\n",
+     {"main.cpp:1", "main.cpp:1", "main.cpp:1"}},
     {"HeaderName", "#include <CopyFile.h>\n#include \"CopyFile\"\n", {}},
     {"Error", "#error CopyFile isn't here\nCopyFile(a);\n", {"main.cpp:2"}},
     {"DeadCode",
@@ -147,4 +152,44 @@ TEST(Audit, TellsOfAResourceScriptThatIsCutOff)
     EXPECT_THAT(run.errors(),
                 testing::EndsWith("main.rc: not UTF-16 text, though it begins with its "
                                   "mark\n"));
+}
+
+TEST(Audit, TellsTheColumnsOfALongLine)
+{
+    const TemporaryFolder folder;
+    std::string line = "\xC3\xA4 ";
+    for (int i = 0; i < 60000; ++i)
+        line += "CreateFile(); ";
+    writeFile(folder / "main.cpp", "int a;\n" + line + "\n");
+    const std::string report = runAudit({"--sarif", text(folder / "main.cpp")}).out;
+    for (const char* const column : {"3", "17", "839989"})
+        EXPECT_TRUE(report.find(std::string("\"startColumn\":") + column + "}") !=
+                    std::string::npos)
+            << column;
+}
+
+TEST(Audit, RefusesASourceOfContinuedLines)
+{
+    for (const char* const line : {"\\\n", "\\ \r\n", "\\\r"}) {
+        std::string text;
+        for (int i = 0; i < 100000; ++i)
+            text += line;
+        const AuditRun run = auditSource(text + "CopyFile(a);\n");
+        EXPECT_EQ(run.status(), 2);
+        EXPECT_THAT(run.errors(), testing::EndsWith("main.cpp: more than 1,000 continued lines "
+                                                    "without anything in them\n"));
+    }
+}
+
+TEST(Audit, RefusesANumberWithoutAnEnd)
+{
+    for (const char* const part : {"1e+", "1\xC3\xA9"}) {
+        std::string text;
+        for (int i = 0; i < 1000000; ++i)
+            text += part;
+        const AuditRun run = auditSource(text + ";\n");
+        EXPECT_EQ(run.status(), 2);
+        EXPECT_THAT(run.errors(), testing::EndsWith("main.cpp: a number that goes on for more than "
+                                                    "10,000 characters\n"));
+    }
 }

@@ -21,6 +21,15 @@ import_library() {
     "$DLLTOOL" -m i386:x86-64 -d "$name.def" -l "$name.lib"
 }
 
+# Its function's name begins with an underscore, and the object's symbol with two.
+make_windows_program_of_32_bits() {
+    printf 'LIBRARY KERNEL32.dll\nEXPORTS\n_lopen\n' >low32.def
+    "$DLLTOOL" -m i386 -d low32.def -l low32.lib
+    compile i686-pc-windows-msvc "$sources/low.c" low32.obj
+    "$LLD_LINK" /nologo /nodefaultlib /entry:start /subsystem:console /safeseh:no \
+        /out:low32.exe low32.obj low32.lib
+}
+
 make_windows_program() {
     import_library KERNEL32.dll CopyFileW CreateThread
     import_library USER32.dll MessageBoxA
@@ -30,8 +39,12 @@ make_windows_program() {
     "$LLD_LINK" /nologo /nodefaultlib /entry:start /subsystem:console /delayload:USER32.dll \
         /out:late.exe program.obj KERNEL32.dll.lib USER32.dll.lib own.dll.lib mfc140u.dll.lib
     compile i686-pc-windows-msvc "$sources/program.c" program32.obj
+    compile x86_64-pc-windows-msvc "$sources/lacking.cpp" lacking.obj
     compile x86_64-pc-windows-msvc "$sources/frame.cpp" frame.obj
     "$AR" rc objects.lib program.obj frame.obj
+    rm -f thin.lib
+    "$AR" rcT thin.lib program.obj
+    make_windows_program_of_32_bits
 }
 
 make_mingw_program() {
@@ -45,6 +58,7 @@ make_mingw_program() {
 make_elf() {
     compile x86_64-linux-gnu "$sources/host.cpp" host.o -fPIC
     "$LLD" -shared host.o -o libhost.so
+    compile x86_64-linux-gnu "$sources/lacking.cpp" lacking.o
     compile x86_64-linux-gnu "$sources/own.c" own.o
     compile x86_64-linux-gnu "$sources/sleep.c" sleep.o
     rm -f libown.a
