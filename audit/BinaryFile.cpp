@@ -307,6 +307,9 @@ bool Reader::readImport(const object::ImportedSymbolRef& import)
         return false;
     if (failed(hasNumber ? import.getOrdinal(number) : import.getSymbolName(name)))
         return false;
+    if (name.size() > kLongestName)
+        m_visitor.problem(m_symbol.member,
+                          "damaged: it imports a name of more than 4,096 characters");
     tell(hasNumber ? "#" + std::to_string(number) : name.str());
     return true;
 }

@@ -62,7 +62,8 @@ void writeFunctions(const Count& count, const Style& style, llvm::raw_ostream& o
 
 void writeOthers(const Count& count, llvm::raw_ostream& out)
 {
-    out << counted(count.total(), "class, type or constant", "classes, types and constants")
+    out << counted(count.total(), "known class, type or constant",
+                   "known classes, types and constants")
         << " used: ";
     const char* separator = "";
     for (const Group group : bestFirst()) {

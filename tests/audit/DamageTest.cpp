@@ -77,12 +77,12 @@ std::string headers(std::uint32_t size)
     return bytes;
 }
 
-// A program that imports names, each of which is that before without its first letter.
-std::string programWithNames(std::uint32_t count)
+// A program that imports names up to a length, each of them that before without its first letter.
+std::string programWithNames(std::uint32_t count, std::uint32_t length)
 {
     const std::uint32_t table = 56;
     const std::uint32_t names = table + 8 * (count + 1);
-    std::string section(names + count + 4098, 'A');
+    std::string section(names + count + length + 98, 'A');
     std::fill_n(section.begin(), names, '\0');
     section.back() = '\0';
     for (const std::uint32_t place : {0, 16})
@@ -91,7 +91,7 @@ std::string programWithNames(std::uint32_t count)
     section.replace(40, 12, "kernel32.dll");
     for (std::uint32_t i = 0; i < count; ++i)
         put<std::uint64_t>(section, table + 8 * i, 0x1000 + names + i);
-    for (std::uint32_t end = names + 4000; end < section.size(); end += 4000)
+    for (std::uint32_t end = names + length; end < section.size(); end += length)
         section[end] = '\0';
     return headers(static_cast<std::uint32_t>(section.size())) + section;
 }
@@ -176,9 +176,19 @@ TEST(Audit, TellsOfAnObjectWithoutATableOfNames)
 TEST(Audit, DoesNoHarmWithNamesThatShareTheirBytes)
 {
     const TemporaryFolder folder;
-    writeFile(folder / "names.exe", programWithNames(40000));
+    writeFile(folder / "names.exe", programWithNames(40000, 4000));
     const AuditRun run({text(folder / "names.exe")});
     EXPECT_EQ(run.status(), 2);
     EXPECT_THAT(run.errors(),
                 HasSubstr("names.exe: damaged, or too large: it has more than 64 MB of names"));
+}
+
+TEST(Audit, TellsOfANameThatIsTooLong)
+{
+    const TemporaryFolder folder;
+    writeFile(folder / "name.exe", programWithNames(3, 5000));
+    const AuditRun run({text(folder / "name.exe")});
+    EXPECT_EQ(run.status(), 2);
+    EXPECT_THAT(run.errors(),
+                HasSubstr("name.exe: damaged: it imports a name of more than 4,096 "));
 }

@@ -62,7 +62,7 @@ TEST(Audit, SumsUpForAPerson)
     EXPECT_THAT(audited.text(), HasSubstr("0 binaries, 1 source\n\n5 functions used\n"));
     EXPECT_THAT(audited.text(), HasSubstr("  works         1   20 %  ████████\n"));
     EXPECT_THAT(audited.text(), HasSubstr("  inert         2   40 %  ▒▒▒▒▒▒▒▒▒▒▒▒▒▒▒▒\n"));
-    EXPECT_THAT(audited.text(), HasSubstr("1 class, type or constant used: 1 works\n"));
+    EXPECT_THAT(audited.text(), HasSubstr("1 known class, type or constant used: 1 works\n"));
     EXPECT_THAT(audited.text(),
                 HasSubstr("  Family   used     works   differs     inert  not here\n"
                           "  Files       3         1         1         1         0  ███"));
