@@ -8,14 +8,14 @@
 
 namespace {
 
-struct SizeRow
+struct ScalarRow
 {
     const char* name;
     std::size_t size;
     std::size_t published;
 };
 
-const SizeRow kScalars[] = {
+const ScalarRow kScalars[] = {
     {"BOOL", sizeof(BOOL), 4},         {"BYTE", sizeof(BYTE), 1},
     {"WORD", sizeof(WORD), 2},         {"DWORD", sizeof(DWORD), 4},
     {"UINT", sizeof(UINT), 4},         {"LONG", sizeof(LONG), 4},
