@@ -14,7 +14,7 @@ namespace {
 using Text = CStdStr<wchar_t>;
 
 // Before any test could touch the list.
-const int kSizeAtLoad = volumeList.size();
+const auto kSizeAtLoad = volumeList.size();
 
 // The list as one test sees it: filled by it, emptied at its end.
 class VolumeList : public testing::Test
