@@ -11,8 +11,10 @@ endif()
 
 set(host_options -fPIC -Wall -Wextra -Wpedantic -Wshadow -Wconversion
     -I${PROJECT_SOURCE_DIR}/include)
+# Qt 6 names the system's own folder too, which must keep its place behind the C++ library's.
 foreach(module IN ITEMS Core Gui Widgets)
     set(folders $<TARGET_PROPERTY:${KTQTBASE_QT}::${module},INTERFACE_INCLUDE_DIRECTORIES>)
+    set(folders $<FILTER:${folders},EXCLUDE,^/usr/include/?$>)
     list(APPEND host_options -isystem$<JOIN:${folders},$<SEMICOLON>-isystem>)
 endforeach()
 if(APPLE)
