@@ -2,8 +2,7 @@
 #include "Audit.h"
 #include "GuardedReading.h"
 #include "Progress.h"
-#include "SourceFile.h"
-#include "SourceText.h"
+#include "SourceReading.h"
 
 #include <algorithm>
 #include <tuple>
@@ -13,20 +12,7 @@ namespace ktqtbase::audit {
 
 namespace {
 
-bool hasCapital(std::string_view name)
-{
-    return std::any_of(name.begin(), name.end(), [](char ch) { return ch >= 'A' && ch <= 'Z'; });
-}
-
-// Functions without a capital, such as "lstrlen", have names that a program may give to anything.
-const Entry* lookUp(const Catalogue& catalogue, const SourceName& name)
-{
-    if (name.isMember)
-        return nullptr;
-    const Entry* const entry = catalogue.find(name.scope, name.name);
-    const bool isOther = entry && isFunction(*entry) && !name.isCalled && !hasCapital(name.name);
-    return isOther ? nullptr : entry;
-}
+constexpr std::size_t kSourcesAtOnce = 64;
 
 class Auditor
 {
@@ -39,8 +25,8 @@ public:
 private:
     void read(const Input& input);
     void readBinaryInput(const std::string& path);
-    void readSourceInput(const std::string& path);
-    void findNames(const std::string& path, std::string_view text);
+    void readWaitingSources();
+    void addSource(const SourceNames& source);
     std::uint32_t file(const std::string& path, const std::string& member);
     void addUse(const Entry& entry, const std::vector<Place>& places);
     void sortUses();
@@ -48,6 +34,7 @@ private:
     Catalogue& m_catalogue;
     Progress m_progress;
     Report m_report;
+    std::vector<std::string> m_waiting; // sources that are to be read
     std::unordered_map<const Entry*, std::vector<Place>> m_places;
 };
 
@@ -55,53 +42,53 @@ void Auditor::read(Inputs&& inputs)
 {
     m_report.problems = std::move(inputs.problems);
     m_progress.setTotal(inputs.files.size());
-    for (const Input& input : inputs.files) {
+    for (const Input& input : inputs.files)
         read(input);
-        m_progress.next();
-    }
+    readWaitingSources();
 }
 
 void Auditor::read(const Input& input)
 {
-    if (input.kind == InputKind::Binary) {
-        ++m_report.binaryCount;
-        readBinaryInput(input.path);
+    if (input.kind == InputKind::Source) {
+        m_waiting.push_back(input.path);
+        if (m_waiting.size() == kSourcesAtOnce)
+            readWaitingSources();
     } else {
-        ++m_report.sourceCount;
-        readSourceInput(input.path);
+        readWaitingSources();
+        readBinaryInput(input.path);
     }
 }
 
 void Auditor::readBinaryInput(const std::string& path)
 {
+    ++m_report.binaryCount;
     const BinaryNames found = readGuarded(m_catalogue, path, [this] { m_progress.show(); });
     for (const BinaryNames::Name& name : found.names)
         m_places[name.entry].push_back({file(path, name.member), 0, 0});
     if (!found.problem.empty())
         m_report.problems.push_back({path, found.problem});
+    m_progress.next();
 }
 
-void Auditor::readSourceInput(const std::string& path)
+void Auditor::readWaitingSources()
 {
-    try {
-        const std::string text = readSourceText(path);
-        findNames(path, text);
-        if (isNoText(text))
-            m_report.problems.push_back({path, "not text, though it is taken for a source"});
-    } catch (const std::exception& error) {
-        m_report.problems.push_back({path, error.what()});
-    }
+    if (m_waiting.empty())
+        return;
+    const auto show = [this] { m_progress.show(); };
+    for (const SourceNames& source : readSources(m_catalogue, m_waiting, show))
+        addSource(source);
+    m_waiting.clear();
 }
 
-void Auditor::findNames(const std::string& path, std::string_view text)
+void Auditor::addSource(const SourceNames& source)
 {
-    PlaceCounter placeOf(text);
-    readSource(text, [&](const SourceName& name) {
-        if (const Entry* const entry = lookUp(m_catalogue, name)) {
-            const SourcePlace place = placeOf(name.place);
-            m_places[entry].push_back({file(path, std::string()), place.line, place.column});
-        }
-    });
+    ++m_report.sourceCount;
+    for (const SourceNames::Name& name : source.names)
+        m_places[name.entry].push_back(
+            {file(source.path, std::string()), name.place.line, name.place.column});
+    if (!source.problem.empty())
+        m_report.problems.push_back({source.path, source.problem});
+    m_progress.next();
 }
 
 // The number of a file in the report. The same one is asked for again and again.

@@ -1,49 +1,22 @@
 // SPDX-License-Identifier: MIT
 #include "GuardedReading.h"
+#include "GuardedProcess.h"
 #include "Records.h"
 #include "SymbolLookup.h"
 
-#include <cerrno>
-#include <csignal>
-#include <cstring>
 #include <set>
 #include <tuple>
-
-#include <fcntl.h>
-#include <poll.h>
-#include <sys/resource.h>
-#include <sys/wait.h>
-#include <unistd.h>
 
 namespace ktqtbase::audit {
 
 namespace {
 
-constexpr rlim_t kSeconds = 30;
-constexpr unsigned kSecondsOfWaiting = 120; // also for a slow disk
-constexpr rlim_t kBytes = rlim_t(4) << 30;
 constexpr std::size_t kBytesOfNames = 64 << 20;
 
-// Sanitizers reserve more addresses than any limit has.
-#if defined(__SANITIZE_ADDRESS__) || defined(__SANITIZE_THREAD__)
-constexpr bool kLimitsMemory = false;
-#elif defined(__has_feature)
-#if __has_feature(address_sanitizer) || __has_feature(thread_sanitizer) ||                         \
-    __has_feature(memory_sanitizer)
-constexpr bool kLimitsMemory = false;
-#else
-constexpr bool kLimitsMemory = true;
-#endif
-#else
-constexpr bool kLimitsMemory = true;
-#endif
-constexpr int kPatience = 200; // milliseconds
-
 // The kinds of records that the reading process sends: a name with the scope, the DLL and the
-// member that it is in; what is wrong; and, at the end, that all was sent.
+// member that it is in; and what is wrong.
 constexpr const char* kName = "name";
 constexpr const char* kProblem = "problem";
-constexpr const char* kEnd = "end";
 
 // What is found in a file, each name once, and those that an archive has itself.
 class Collector
@@ -102,85 +75,7 @@ std::string Collector::records() const
     }
     if (!m_problem.empty())
         addRecord(records, {kProblem, m_problem});
-    addRecord(records, {kEnd});
     return records;
-}
-
-void setLimit(int resource, rlim_t value)
-{
-    const rlimit limit = {value, value};
-    setrlimit(static_cast<decltype(RLIMIT_CPU)>(resource), &limit);
-}
-
-// What a library says while it crashes is no help to anybody, nor is its memory on disk.
-void prepareToCrash()
-{
-    setLimit(RLIMIT_CORE, 0);
-    setLimit(RLIMIT_CPU, kSeconds);
-    if (kLimitsMemory)
-        setLimit(RLIMIT_AS, kBytes);
-    std::signal(SIGALRM, SIG_DFL);
-    alarm(kSecondsOfWaiting);
-    const int nowhere = open("/dev/null", O_WRONLY | O_CLOEXEC);
-    dup2(nowhere, STDERR_FILENO);
-}
-
-bool writeAll(int file, const std::string& bytes)
-{
-    std::size_t done = 0;
-    while (done < bytes.size()) {
-        const ssize_t count = write(file, bytes.data() + done, bytes.size() - done);
-        if (count < 0 && errno != EINTR)
-            return false;
-        done += static_cast<std::size_t>(count < 0 ? 0 : count);
-    }
-    return true;
-}
-
-[[noreturn]] void readInChild(Catalogue& catalogue, const std::string& path, int pipe) noexcept
-{
-    prepareToCrash();
-    Collector collector(catalogue);
-    readBinaryFile(path, collector.visitor());
-    _exit(writeAll(pipe, collector.records()) ? 0 : 1);
-}
-
-void wait(int pipe, const std::function<void()>& waiting)
-{
-    pollfd file = {pipe, POLLIN, 0};
-    while (poll(&file, 1, kPatience) == 0)
-        waiting();
-}
-
-std::string readAll(int pipe, const std::function<void()>& waiting)
-{
-    std::string bytes;
-    char buffer[65536];
-    for (;;) {
-        wait(pipe, waiting);
-        const ssize_t count = read(pipe, buffer, sizeof buffer);
-        if (count > 0)
-            bytes.append(buffer, static_cast<std::size_t>(count));
-        else if (count == 0 || errno != EINTR)
-            return bytes;
-    }
-}
-
-int waitForChild(pid_t child)
-{
-    int status = 0;
-    while (waitpid(child, &status, 0) < 0 && errno == EINTR)
-        ;
-    return status;
-}
-
-std::string whyItEnded(int status)
-{
-    if (WIFSIGNALED(status) &&
-        (WTERMSIG(status) == SIGXCPU || WTERMSIG(status) == SIGALRM || WTERMSIG(status) == SIGKILL))
-        return "damaged, or too large: reading it took more than " + std::to_string(kSeconds) +
-               " seconds";
-    return "damaged: what it says of itself cannot be true";
 }
 
 class Message
@@ -188,28 +83,24 @@ class Message
 public:
     Message(Catalogue& catalogue, BinaryNames& names) : m_catalogue(catalogue), m_names(names) {}
 
-    // Result: whether the message is complete.
-    bool read(const std::string& bytes);
+    void read(const std::string& bytes);
 
 private:
-    void readRecord(const std::vector<std::string>& record);
+    void readRecord(const Record& record);
 
     Catalogue& m_catalogue;
     BinaryNames& m_names;
     std::set<std::pair<std::string, const Entry*>> m_seen; // the members of a class count as one
-    bool m_isComplete = false;
 };
 
-bool Message::read(const std::string& bytes)
+void Message::read(const std::string& bytes)
 {
-    for (const std::vector<std::string>& record : readRecords(bytes))
+    for (const Record& record : readRecords(bytes))
         readRecord(record);
-    return m_isComplete;
 }
 
-void Message::readRecord(const std::vector<std::string>& record)
+void Message::readRecord(const Record& record)
 {
-    m_isComplete = record.front() == kEnd;
     if (record.front() == kProblem)
         m_names.problem = record.at(1);
     if (record.front() != kName)
@@ -221,21 +112,11 @@ void Message::readRecord(const std::vector<std::string>& record)
         m_names.names.push_back({record.at(1), entry});
 }
 
-BinaryNames failed(const char* what)
+// Why the reading ended before its time.
+const char* reason(Ending ending)
 {
-    return {{}, std::string(what) + ": " + std::strerror(errno)};
-}
-
-BinaryNames readFromChild(Catalogue& catalogue, pid_t child, int pipe,
-                          const std::function<void()>& waiting)
-{
-    BinaryNames names;
-    const std::string bytes = readAll(pipe, waiting);
-    close(pipe);
-    const int status = waitForChild(child);
-    if (!Message(catalogue, names).read(bytes) || status != 0)
-        return {{}, whyItEnded(status)};
-    return names;
+    return ending == Ending::TooLong ? "damaged, or too large: reading it took more than 30 seconds"
+                                     : "damaged: what it says of itself cannot be true";
 }
 
 } // namespace
@@ -243,17 +124,17 @@ BinaryNames readFromChild(Catalogue& catalogue, pid_t child, int pipe,
 BinaryNames readGuarded(Catalogue& catalogue, const std::string& path,
                         const std::function<void()>& waiting)
 {
-    int pipes[2] = {-1, -1};
-    if (pipe(pipes) != 0)
-        return failed("no pipe");
-    const pid_t child = fork();
-    if (child == 0)
-        readInChild(catalogue, path, pipes[1]);
-    close(pipes[1]);
-    if (child > 0)
-        return readFromChild(catalogue, child, pipes[0], waiting);
-    close(pipes[0]);
-    return failed("no process");
+    const auto read = [&] {
+        Collector collector(catalogue);
+        readBinaryFile(path, collector.visitor());
+        return collector.records();
+    };
+    BinaryNames names;
+    const Outcome outcome = runGuarded(read, waiting);
+    if (outcome.ending != Ending::Done)
+        return {{}, reason(outcome.ending)};
+    Message(catalogue, names).read(outcome.bytes);
+    return names;
 }
 
 } // namespace ktqtbase::audit

@@ -168,28 +168,43 @@ TEST(Audit, TellsTheColumnsOfALongLine)
             << column;
 }
 
-TEST(Audit, RefusesASourceOfContinuedLines)
+std::string repeated(const std::string& part, int times)
 {
-    for (const char* const line : {"\\\n", "\\ \r\n", "\\\r"}) {
-        std::string text;
-        for (int i = 0; i < 100000; ++i)
-            text += line;
-        const AuditRun run = auditSource(text + "CopyFile(a);\n");
-        EXPECT_EQ(run.status(), 2);
-        EXPECT_THAT(run.errors(), testing::EndsWith("main.cpp: more than 1,000 continued lines "
-                                                    "without anything in them\n"));
-    }
+    std::string text;
+    for (int i = 0; i < times; ++i)
+        text += part;
+    return text;
 }
 
-TEST(Audit, RefusesANumberWithoutAnEnd)
+// Clang's lexer calls itself for each of these parts.
+TEST(Audit, ReadsTheOtherSourcesWhereSomeCrashTheirReader)
 {
-    for (const char* const part : {"1e+", "1\xC3\xA9"}) {
-        std::string text;
-        for (int i = 0; i < 1000000; ++i)
-            text += part;
-        const AuditRun run = auditSource(text + ";\n");
-        EXPECT_EQ(run.status(), 2);
-        EXPECT_THAT(run.errors(), testing::EndsWith("main.cpp: a number that goes on for more than "
-                                                    "10,000 characters\n"));
-    }
+    const TemporaryFolder folder;
+    writeFile(folder / "a.cpp", "CopyFile(a);\n");
+    writeFile(folder / "b.cpp", repeated("\\\n", 100000));
+    writeFile(folder / "c.cpp", repeated("\\ \r\n", 100000));
+    writeFile(folder / "d.cpp", repeated("\\\r", 100000));
+    writeFile(folder / "e.cpp", repeated("1e+", 1000000));
+    writeFile(folder / "f.cpp", repeated("1\xC3\xA9", 1000000));
+    writeFile(folder / "g.cpp", "\nCopyFile(a);\n");
+    const AuditRun run({text(folder.path())});
+    EXPECT_EQ(run.status(), 2);
+    std::string expected;
+    for (const char* const name : {"b.cpp", "c.cpp", "d.cpp", "e.cpp", "f.cpp"})
+        expected += "ktqt-audit: " + (folder / name).string() + ": it makes its reader crash\n";
+    EXPECT_EQ(run.errors(), expected);
+    EXPECT_THAT(run.places("CopyFile"), testing::ElementsAre("a.cpp:1", "g.cpp:2"));
+}
+
+TEST(Audit, ReadsMoreSourcesThanOneProcessDoes)
+{
+    const TemporaryFolder folder;
+    for (int i = 100; i < 300; ++i)
+        writeFile(folder / (std::to_string(i) + ".cpp"), "CopyFile(a);\n");
+    const AuditRun run({text(folder.path())});
+    EXPECT_EQ(run.status(), 0);
+    const std::vector<std::string> places = run.places("CopyFile");
+    ASSERT_EQ(places.size(), 200u);
+    EXPECT_EQ(places.front(), "100.cpp:1");
+    EXPECT_EQ(places.back(), "299.cpp:1");
 }
