@@ -2,6 +2,7 @@
 # Installs the build, moves what was installed, and builds and runs an outside project with it: once
 # by its CMake package, once by its pkg-config module and the plain compiler.
 
+include(${CMAKE_CURRENT_LIST_DIR}/ConfigureHost.cmake)
 set(source ${CMAKE_CURRENT_LIST_DIR}/project)
 set(prefix ${WORK_DIR}/prefix)
 
@@ -10,13 +11,8 @@ execute_process(COMMAND ${CMAKE_COMMAND} --install ${BUILD_DIR} --config ${CONFI
     --prefix ${WORK_DIR}/staging COMMAND_ERROR_IS_FATAL ANY)
 file(RENAME ${WORK_DIR}/staging ${prefix})
 
-execute_process(COMMAND ${CMAKE_COMMAND} -S ${source} -B ${WORK_DIR}/build -G ${GENERATOR}
-    -DCMAKE_BUILD_TYPE=${CONFIG}
-    -DCMAKE_CXX_COMPILER=${COMPILER}
-    -DCMAKE_CXX_FLAGS=${FLAGS}
-    -DKtQtBase_DIR=${prefix}/${LIBDIR}/cmake/KtQtBase
-    -DKTQTBASE_QT_MAJOR=${QT_MAJOR}
-    -DQt${QT_MAJOR}_DIR=${QT_DIR} COMMAND_ERROR_IS_FATAL ANY)
+configure_host(${source} ${WORK_DIR}/build
+    ${prefix}/${LIBDIR}/cmake/KtQtBase)
 execute_process(COMMAND ${CMAKE_COMMAND} --build ${WORK_DIR}/build COMMAND_ERROR_IS_FATAL ANY)
 execute_process(COMMAND ${WORK_DIR}/build/consumer COMMAND_ERROR_IS_FATAL ANY)
 
@@ -41,4 +37,20 @@ set(data ${prefix}/${DATADIR}/KtQtBase)
 file(GLOB installed RELATIVE ${data} ${data}/catalogue/*)
 if(NOT installed OR NOT installed STREQUAL ours)
     message(FATAL_ERROR "The catalogue is not installed as it is: ${installed}")
+endif()
+
+# The programs find their data and their library from where they were moved to.
+if(EXISTS ${BUILD_DIR}/audit/ktqt-audit)
+    execute_process(COMMAND ${prefix}/${BINDIR}/ktqt-audit --explain CloseHandle
+        OUTPUT_VARIABLE said COMMAND_ERROR_IS_FATAL ANY)
+    if(NOT said MATCHES "^CloseHandle, function: inert")
+        message(FATAL_ERROR "The installed ktqt-audit says ${said}")
+    endif()
+endif()
+if(EXISTS ${BUILD_DIR}/trace/ktqt-trace)
+    execute_process(COMMAND ${prefix}/${BINDIR}/ktqt-trace ${WORK_DIR}/build/consumer
+        ERROR_VARIABLE said COMMAND_ERROR_IS_FATAL ANY)
+    if(NOT said MATCHES "consumer called none of the functions that are counted")
+        message(FATAL_ERROR "The installed ktqt-trace says ${said}")
+    endif()
 endif()

@@ -28,6 +28,7 @@ file(GLOB host_library ${WORK_DIR}/osbase/libKtOsBase.*)
 configure(${PROJECT_DIR} ${WORK_DIR}/library
     -DKTQTBASE_BUILD_TESTS=OFF
     -DKTQTBASE_BUILD_EXAMPLES=OFF
+    -DKTQTBASE_BUILD_TOOLS=OFF
     -DKTQTBASE_HOST_OSBASE=${host_library}
     -DKTQTBASE_HOST_OSBASE_INCLUDE=${host_source}/osbase/include
     -DCMAKE_INSTALL_PREFIX=${prefix}

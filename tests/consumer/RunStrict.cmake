@@ -2,15 +2,10 @@
 # Builds and runs an outside project that asks for a warning at each use of a function that does
 # nothing, and looks for the warning.
 
+include(${CMAKE_CURRENT_LIST_DIR}/ConfigureHost.cmake)
+
 file(REMOVE_RECURSE ${WORK_DIR})
-execute_process(COMMAND ${CMAKE_COMMAND} -S ${CMAKE_CURRENT_LIST_DIR}/strict -B ${WORK_DIR}
-    -G ${GENERATOR}
-    -DCMAKE_BUILD_TYPE=${CONFIG}
-    -DCMAKE_CXX_COMPILER=${COMPILER}
-    -DCMAKE_CXX_FLAGS=${FLAGS}
-    -DKtQtBase_DIR=${BUILD_DIR}
-    -DKTQTBASE_QT_MAJOR=${QT_MAJOR}
-    -DQt${QT_MAJOR}_DIR=${QT_DIR} COMMAND_ERROR_IS_FATAL ANY)
+configure_host(${CMAKE_CURRENT_LIST_DIR}/strict ${WORK_DIR} ${BUILD_DIR})
 execute_process(COMMAND ${CMAKE_COMMAND} --build ${WORK_DIR}
     OUTPUT_VARIABLE said ERROR_VARIABLE said COMMAND_ERROR_IS_FATAL ANY)
 string(REGEX MATCHALL "main.cpp:[0-9]+:[0-9]+: warning: [^\n]*" warnings "${said}")

@@ -2,6 +2,8 @@
 #include <KtQtBase/WindowsTypes.h>
 #include <KtQtBase/windows/MessageNumbers.h>
 
+#include "system/stubs/SizeRow.h"
+
 #include <gtest/gtest.h>
 
 #include <algorithm>
@@ -13,13 +15,6 @@
 #include <type_traits>
 
 namespace {
-
-struct SizeRow
-{
-    const char* name;
-    std::size_t size;
-    std::size_t published;
-};
 
 const SizeRow kRecords[] = {
     {"POINT", sizeof(POINT), 8},
@@ -51,8 +46,7 @@ const SizeRow kRecords[] = {
 
 TEST(Records, HaveThePublishedSizes)
 {
-    for (const auto& row : kRecords)
-        EXPECT_EQ(row.size, row.published) << row.name;
+    expectPublishedSizes(kRecords);
 }
 
 TEST(CRect, IsAllZeroByDefault)

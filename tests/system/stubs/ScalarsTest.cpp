@@ -1,21 +1,15 @@
 // SPDX-License-Identifier: MIT
 #include <KtQtBase/windows/Scalars.h>
 
+#include "system/stubs/SizeRow.h"
+
 #include <gtest/gtest.h>
 
-#include <cstddef>
 #include <type_traits>
 
 namespace {
 
-struct ScalarRow
-{
-    const char* name;
-    std::size_t size;
-    std::size_t published;
-};
-
-const ScalarRow kScalars[] = {
+const SizeRow kScalars[] = {
     {"BOOL", sizeof(BOOL), 4},         {"BYTE", sizeof(BYTE), 1},
     {"WORD", sizeof(WORD), 2},         {"DWORD", sizeof(DWORD), 4},
     {"UINT", sizeof(UINT), 4},         {"LONG", sizeof(LONG), 4},
@@ -35,8 +29,7 @@ const ScalarRow kScalars[] = {
 
 TEST(Scalars, HaveThePublishedSizes)
 {
-    for (const auto& row : kScalars)
-        EXPECT_EQ(row.size, row.published) << row.name;
+    expectPublishedSizes(kScalars);
 }
 
 TEST(Scalars, TakeAWidgetForAWindow)
