@@ -1,7 +1,7 @@
 # SPDX-License-Identifier: MIT
 # Builds a host's OS-base library, then this library against it, and runs a host program that ends
-# with 0 only where its own functions were called. Plain debug builds: what is asked here is which
-# library was linked, and the sanitizers would only slow that down.
+# with 0 only where its own functions were called. Plain debug builds, many sources at once: what is
+# asked here is which library was linked, and anything else would only slow that down.
 
 set(host_source ${CMAKE_CURRENT_LIST_DIR}/host)
 set(prefix ${WORK_DIR}/prefix)
@@ -29,6 +29,7 @@ configure(${PROJECT_DIR} ${WORK_DIR}/library
     -DKTQTBASE_BUILD_TESTS=OFF
     -DKTQTBASE_BUILD_EXAMPLES=OFF
     -DKTQTBASE_BUILD_TOOLS=OFF
+    -DCMAKE_UNITY_BUILD=ON
     -DKTQTBASE_HOST_OSBASE=${host_library}
     -DKTQTBASE_HOST_OSBASE_INCLUDE=${host_source}/osbase/include
     -DCMAKE_INSTALL_PREFIX=${prefix}
