@@ -96,6 +96,7 @@ std::vector<SourceNames> readEach(const Catalogue& catalogue, const std::vector<
     if (paths.size() == 1)
         return {{paths.front(), {}, reason(ending)}};
     std::vector<SourceNames> files;
+    files.reserve(paths.size());
     for (const std::string& path : paths)
         files.push_back(readSources(catalogue, {path}, waiting).front());
     return files;
