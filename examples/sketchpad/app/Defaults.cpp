@@ -50,5 +50,6 @@ CDefaults ReadDefaults(std::wstring& reason)
     defaults.paper.cx = ProfileNumber(L"PaperWidth", defaults.paper.cx, 100, 2000, file);
     defaults.paper.cy = ProfileNumber(L"PaperHeight", defaults.paper.cy, 100, 2000, file);
     defaults.grid = ProfileNumber(L"Grid", defaults.grid, 0, 200, file);
+    defaults.autosave = ProfileNumber(L"Autosave", defaults.autosave, 1, 3600, file);
     return defaults;
 }

@@ -10,7 +10,8 @@ struct CDefaults
 {
     CPenInfo pen;
     SIZE paper = {640, 400};
-    int grid = 20; // pixels between two lines; 0 for none
+    int grid = 20;     // pixels between two lines; 0 for none
+    int autosave = 20; // seconds between two autosaves
 };
 
 // If the file is missing or may not be written, the built-in defaults are used, and reason says so.

@@ -1,109 +1,141 @@
 // SPDX-License-Identifier: MIT
 #include "DocFile.h"
 
-#include "FileNames.h"
 #include "Narrow.h"
 #include "Reasons.h"
+#include "SafeFile.h"
 #include "ShapeText.h"
-
-#include <KtQtBase/WindowsFunctions.h>
 
 #include <cerrno>
 #include <filesystem>
 #include <fstream>
+#include <sstream>
+
+namespace fs = std::filesystem;
 
 namespace {
 
 constexpr char kSignature[] = "SKETCHPAD 1";
-constexpr std::size_t kLongestFolder = 1000; // GetTempFileName does not know its buffer's size
+constexpr char kByteOrderMark[] = "\xEF\xBB\xBF";
+constexpr std::uintmax_t kLargestFile = 8'000'000;
+constexpr std::size_t kMostShapes = 100'000;
+constexpr std::size_t kLongestLine = 2'000'000;
 
-std::wstring NumberedReason(int line, const std::wstring& what)
+constexpr wchar_t kTooLarge[] = L"it is larger than 8 MB, and no drawing is";
+constexpr wchar_t kTooLong[] = L"longer than 2,000,000 bytes";
+constexpr wchar_t kTooMuch[] = L"a drawing has at most 100,000 shapes, and 8 MB as a file";
+constexpr wchar_t kTooMany[] = L"a drawing has at most 100,000 shapes";
+
+std::wstring NumberedReason(std::size_t line, const std::wstring& what)
 {
     return L"line " + std::to_wstring(line) + L": " + what;
 }
 
-bool ReadLines(std::istream& stream, std::vector<CShape>& shapes, std::wstring& reason)
+// Reads no further than the longest line, whatever the file is.
+// Result: false at the end.
+bool ReadLine(std::istream& stream, std::string& line)
 {
-    std::string line;
-    if (!std::getline(stream, line) || line != kSignature) {
-        reason = L"it is not a drawing of this program";
+    line.clear();
+    std::streambuf& bytes = *stream.rdbuf();
+    int byte = bytes.sbumpc();
+    if (byte == EOF)
         return false;
-    }
-    for (int number = 2; std::getline(stream, line); ++number) {
-        CShape shape;
-        std::wstring problem;
-        if (!ShapeFromText(line, shape, problem)) {
-            reason = NumberedReason(number, problem);
-            return false;
-        }
-        shapes.push_back(shape);
-    }
+    for (; byte != EOF && byte != '\n' && line.size() <= kLongestLine; byte = bytes.sbumpc())
+        line += static_cast<char>(byte);
+    if (!line.empty() && line.back() == '\r')
+        line.pop_back();
     return true;
 }
 
-// A name in the same folder, so that the rename stays on one file system.
-std::wstring TemporaryNameFor(const std::wstring& path)
+bool IsSignature(std::string line)
 {
-    const std::wstring folder = FolderOf(path);
-    if (folder.size() > kLongestFolder)
-        return std::wstring();
-    wchar_t name[1024] = {};
-    GetTempFileName(folder.c_str(), L"sketch", 0, name);
-    return name;
+    if (line.rfind(kByteOrderMark, 0) == 0)
+        line.erase(0, sizeof kByteOrderMark - 1);
+    return line == kSignature;
 }
 
-// Only the stream, at its end, says whether it worked: no Windows call here reports a short write.
-bool WriteLines(const std::string& path, const std::vector<CShape>& shapes, std::wstring& reason)
+bool AddShape(const std::string& line, std::vector<CShape>& shapes, std::wstring& problem)
 {
-    errno = 0;
-    std::ofstream stream(path, std::ios::binary | std::ios::trunc);
-    stream << kSignature << '\n';
-    for (const CShape& shape : shapes)
-        stream << TextFromShape(shape) << '\n';
-    stream.close();
-    if (!stream)
-        reason = LastErrorReason();
-    return !stream.fail();
+    CShape shape;
+    if (line.size() > kLongestLine)
+        problem = kTooLong;
+    else if (shapes.size() == kMostShapes)
+        problem = kTooMany;
+    else if (ShapeFromText(line, shape, problem))
+        shapes.push_back(shape);
+    return problem.empty();
 }
 
-bool MoveIntoPlace(const std::string& from, const std::string& to, std::wstring& reason)
+// A pipe would be waited for, and a device may have no end.
+bool IsReadable(const std::string& name, std::wstring& reason)
 {
+    reason.clear();
     std::error_code error;
-    std::filesystem::rename(from, to, error);
+    const fs::file_status status = fs::status(name, error);
     if (error)
         reason = ReasonOf(error);
-    return !error;
+    else if (fs::is_directory(status))
+        reason = L"it is a folder";
+    else if (!fs::is_regular_file(status))
+        reason = L"it is a device or a pipe, not a file";
+    else if (fs::file_size(name, error) > kLargestFile)
+        reason = kTooLarge;
+    return reason.empty();
 }
 
 } // namespace
 
+bool ReadSketch(std::istream& stream, std::vector<CShape>& shapes, std::wstring& reason)
+{
+    std::string line;
+    if (!ReadLine(stream, line) || !IsSignature(line)) {
+        reason = L"it is not a drawing of this program";
+        return false;
+    }
+    std::wstring problem;
+    for (std::size_t number = 2; ReadLine(stream, line); ++number) {
+        if (!AddShape(line, shapes, problem)) {
+            reason = NumberedReason(number, problem);
+            return false;
+        }
+    }
+    return true;
+}
+
 bool ReadSketch(const std::wstring& path, std::vector<CShape>& shapes, std::wstring& reason)
 {
     const auto name = Narrow(path);
-    if (!name || IsFolder(path)) {
-        reason = name ? L"it is a folder" : kUnusableName;
+    if (!name) {
+        reason = kUnusableName;
         return false;
     }
+    if (!IsReadable(*name, reason))
+        return false;
     errno = 0;
     std::ifstream stream(*name, std::ios::binary);
     if (!stream) {
         reason = LastErrorReason();
         return false;
     }
-    return ReadLines(stream, shapes, reason);
+    return ReadSketch(stream, shapes, reason);
 }
 
+void WriteSketch(std::ostream& stream, const std::vector<CShape>& shapes)
+{
+    stream << kSignature << '\n';
+    for (const CShape& shape : shapes)
+        stream << TextFromShape(shape) << '\n';
+}
+
+// A drawing that could not be read again is not written.
 bool WriteSketch(const std::wstring& path, const std::vector<CShape>& shapes, std::wstring& reason)
 {
-    const auto name = Narrow(path);
-    const auto temporary = Narrow(TemporaryNameFor(path));
-    if (!name || !temporary || temporary->empty()) {
-        reason = kUnusableName;
+    std::ostringstream text;
+    WriteSketch(text, shapes);
+    const std::string bytes = text.str();
+    if (bytes.size() > kLargestFile || shapes.size() > kMostShapes) {
+        reason = kTooMuch;
         return false;
     }
-    if (WriteLines(*temporary, shapes, reason) && MoveIntoPlace(*temporary, *name, reason))
-        return true;
-    std::error_code ignored;
-    std::filesystem::remove(*temporary, ignored);
-    return false;
+    return WriteSafely(path, bytes, reason);
 }

@@ -2,6 +2,7 @@
 //
 // The commands that open, save and print.
 #include "FileNames.h"
+#include "SafeFile.h"
 #include "Settings.h"
 #include "Shell.h"
 #include "SketchApp.h"
@@ -9,6 +10,8 @@
 
 #include <KtQtBase/FileDialog.h>
 #include <KtQtBase/Messages.h>
+
+#include <algorithm>
 
 namespace {
 
@@ -31,12 +34,7 @@ private:
     CShell& m_shell;
 };
 
-// Every box has the buttons Yes and No, so only a question looks at the answer.
-void Report(const std::wstring& text)
-{
-    AfxMessageBox(text.c_str(), MB_OK | MB_ICONEXCLAMATION);
-}
-
+// Every box has the buttons Yes and No, and Return means Yes: ask so that Yes loses nothing.
 bool Ask(const std::wstring& text)
 {
     return AfxMessageBox(text.c_str(), MB_YESNO | MB_ICONQUESTION) == IDYES;
@@ -44,14 +42,15 @@ bool Ask(const std::wstring& text)
 
 } // namespace
 
-std::wstring CSketchApp::AskForName(bool open, TextId title, TextId filter)
+std::wstring CSketchApp::AskForName(bool open, TextId title, TextId filter,
+                                    const std::wstring& proposed)
 {
     const std::wstring caption = Text(title);
     const std::wstring filters = Text(filter);
     std::wstring folder = FolderOf(m_document.GetPathName());
+    std::wstring selected = proposed;
     if (folder.empty())
         folder = AbsoluteName(L".");
-    std::wstring selected;
     KtQtFileDialog dialog(open, kDrawing, nullptr, OFN_OVERWRITEPROMPT, filters.c_str(),
                           m_shell.GetMainWnd());
     dialog.GetOFN().lpstrTitle = caption.c_str();
@@ -63,24 +62,50 @@ std::wstring CSketchApp::AskForName(bool open, TextId title, TextId filter)
     return dialog.DoModal() == IDOK ? dialog.GetPathName() : std::wstring();
 }
 
+// The drawing's own name, with the extension of what is written.
+std::wstring CSketchApp::ProposedName(const wchar_t* extension) const
+{
+    const std::wstring path = m_document.GetPathName();
+    CRnUiPathname name;
+    if (name.Parse((path.empty() ? Text(IDS_UNTITLED) : path).c_str(), false) != 0)
+        return std::wstring();
+    name.ReplaceExtensionIfNoMatch(extension);
+    const std::wstring full = FullPath(name);
+    return full.substr(FolderOf(full).size());
+}
+
+void CSketchApp::OnFileNew(UINT)
+{
+    if (!SaveModified())
+        return;
+    m_autosave.Remove();
+    m_document.DeleteContents();
+    m_view.OnInitialUpdate();
+}
+
 void CSketchApp::OnFileOpen(UINT)
 {
-    const std::wstring name = AskForName(true, IDS_OPENTITLE, IDS_FILTER);
+    const std::wstring name = AskForName(true, IDS_OPENTITLE, IDS_FILTER, std::wstring());
     if (!name.empty())
         OpenFile(name);
 }
 
 void CSketchApp::OnFileSave(UINT)
 {
-    if (m_document.GetPathName().empty())
-        OnFileSaveAs(0);
-    else
-        WriteDocument(m_document.GetPathName());
+    Save();
+}
+
+bool CSketchApp::Save()
+{
+    if (!m_document.GetPathName().empty())
+        return WriteDocument(m_document.GetPathName());
+    const std::wstring name = AskForName(false, IDS_SAVETITLE, IDS_FILTER, ProposedName(kDrawing));
+    return !name.empty() && SaveFile(name, true);
 }
 
 void CSketchApp::OnFileSaveAs(UINT)
 {
-    const std::wstring name = AskForName(false, IDS_SAVETITLE, IDS_FILTER);
+    const std::wstring name = AskForName(false, IDS_SAVETITLE, IDS_FILTER, ProposedName(kDrawing));
     if (!name.empty())
         SaveFile(name, true);
 }
@@ -90,33 +115,79 @@ void CSketchApp::OnFileSaveCopy(UINT)
     SaveCopy();
 }
 
+void CSketchApp::OnFilePageSetup(UINT)
+{
+    m_shell.OnPrintCommand(ID_FILE_PAGE_SETUP);
+}
+
 void CSketchApp::OnFilePrint(UINT)
 {
-    const std::wstring name = AskForName(false, IDS_PRINTTITLE, IDS_PDFFILTER);
+    m_shell.OnPrintCommand(ID_FILE_PRINT);
+}
+
+void CSketchApp::OnFilePrintPreview(UINT)
+{
+    m_shell.OnPrintCommand(ID_FILE_PRINT_PREVIEW);
+}
+
+void CSketchApp::OnFilePrintPdf(UINT)
+{
+    const std::wstring name = AskForName(false, IDS_PRINTTITLE, IDS_PDFFILTER, ProposedName(kPdf));
     if (!name.empty())
         PrintFile(name, true);
 }
 
+// A copy of the name, since opening moves it in the list.
 void CSketchApp::OnRecentFile(UINT index)
 {
-    const std::vector<std::wstring> files = ReadRecentFiles();
+    const std::vector<std::wstring> files = m_recent;
     if (index < files.size())
         OpenFile(files[index]);
 }
 
+// What a killed program has left of this drawing is newer than the file.
 bool CSketchApp::OpenFile(const std::wstring& name)
 {
     std::wstring reason;
     if (!SaveModified())
         return false;
     if (!m_document.OnOpenDocument(name, reason)) {
-        Report(Text(IDS_CANNOTOPEN, DisplayName(name, kNameWidth), reason));
+        m_shell.Report(Text(IDS_CANNOTOPEN, DisplayName(name, kNameWidth), reason));
         return false;
     }
+    m_autosave.Remove();
     m_view.OnInitialUpdate();
     Remember(name);
     m_shell.ShowLine(Text(IDS_OPENED, name));
+    Recover(name);
     return true;
+}
+
+bool CSketchApp::Recover(const std::wstring& path)
+{
+    std::wstring reason;
+    const std::wstring shown = path.empty() ? Text(IDS_UNTITLED) : DisplayName(path, kNameWidth);
+    if (!m_autosave.Take(path))
+        return false;
+    if (!Ask(Text(IDS_RECOVER, shown)) ||
+        !m_document.Recover(m_autosave.NameFor(path), path, reason)) {
+        m_autosave.Remove();
+        return false;
+    }
+    m_view.OnInitialUpdate();
+    m_shell.ShowLine(Text(IDS_RECOVERED, shown));
+    return true;
+}
+
+// Only one drawing can be open: the others are offered when they are opened.
+void CSketchApp::OfferAutosaves()
+{
+    std::vector<std::wstring> paths = {std::wstring()};
+    paths.insert(paths.end(), m_recent.begin(), m_recent.end());
+    const bool found = std::any_of(paths.begin(), paths.end(),
+                                   [this](const std::wstring& path) { return Recover(path); });
+    if (found)
+        UpdateFrame();
 }
 
 // Turns what was typed into the name to write, and asks before a file is replaced.
@@ -126,14 +197,14 @@ bool CSketchApp::TakeName(const std::wstring& typed, const wchar_t* extension, b
     bool added = false;
     std::wstring reason;
     if (!TakeSaveName(typed, extension, name, added, reason)) {
-        Report(Text(IDS_BADNAME, typed, reason));
+        m_shell.Report(Text(IDS_BADNAME, typed, reason));
         return false;
     }
     // Qt's dialog has asked about the name as it was typed, which may be another one.
     const bool exists = name.Status() & kStatusExists;
     if (!exists || (asked && !added) || FullPath(name) == m_document.GetPathName())
         return true;
-    return Ask(Text(IDS_OVERWRITE, DisplayName(FullPath(name), kNameWidth)));
+    return !Ask(Text(IDS_OVERWRITE, DisplayName(FullPath(name), kNameWidth)));
 }
 
 bool CSketchApp::SaveFile(const std::wstring& typed, bool asked)
@@ -147,28 +218,27 @@ bool CSketchApp::WriteDocument(const std::wstring& path)
     std::wstring reason;
     m_view.FinishInput();
     if (!m_document.OnSaveDocument(path, reason)) {
-        Report(Text(IDS_CANNOTSAVE, DisplayName(path, kNameWidth), reason));
+        m_shell.Report(Text(IDS_CANNOTSAVE, DisplayName(path, kNameWidth), reason));
         return false;
     }
     m_document.SetPathName(path);
-    m_document.SetModifiedFlag(false);
+    m_document.SetSaved();
+    m_autosave.Remove();
     Remember(path);
-    m_shell.ShowLine(Text(IDS_SAVED, path, std::to_wstring(StatusOf(path))));
+    m_shell.ShowLine(Text(IDS_SAVED, path));
     return true;
 }
 
 bool CSketchApp::SaveCopy()
 {
     const std::wstring path = m_document.GetPathName();
-    if (path.empty()) {
-        OnFileSaveAs(0);
-        return !m_document.GetPathName().empty();
-    }
+    m_view.FinishInput();
+    if (path.empty())
+        return Save();
     const std::wstring copy = UniqueName(path);
     std::wstring reason = Text(IDS_NOCOPYNAME);
-    m_view.FinishInput();
     if (copy.empty() || !m_document.OnSaveDocument(copy, reason)) {
-        Report(Text(IDS_CANNOTSAVE, DisplayName(path, kNameWidth), reason));
+        m_shell.Report(Text(IDS_CANNOTSAVE, DisplayName(path, kNameWidth), reason));
         return false;
     }
     m_shell.ShowLine(Text(IDS_COPIED, copy));
@@ -178,26 +248,34 @@ bool CSketchApp::SaveCopy()
 bool CSketchApp::PrintFile(const std::wstring& typed, bool asked)
 {
     CRnUiPathname name;
-    if (!TakeName(typed, kPdf, asked, name))
-        return false;
+    return TakeName(typed, kPdf, asked, name) && WritePdf(FullPath(name));
+}
+
+bool CSketchApp::WritePdf(const std::wstring& path)
+{
+    std::wstring reason;
     m_view.FinishInput();
-    if (!m_shell.PrintTo(FullPath(name))) {
-        Report(Text(IDS_CANNOTPRINT, DisplayName(FullPath(name), kNameWidth)));
+    if (!WriteSafely(path, m_shell.MakePdf(), reason)) {
+        m_shell.Report(Text(IDS_CANNOTPRINT, DisplayName(path, kNameWidth), reason));
         return false;
     }
-    m_shell.ShowLine(Text(IDS_PRINTED, FullPath(name)));
+    m_shell.ShowLine(Text(IDS_PRINTED, path));
     return true;
 }
 
 bool CSketchApp::SaveModified()
 {
     m_view.FinishInput();
-    return !m_document.IsModified() || Ask(Text(IDS_DISCARD, NameForPeople()));
+    if (!m_document.IsModified())
+        return true;
+    const SaveChoice choice = m_shell.AskToSave(Text(IDS_ASKTOSAVE, NameForPeople()));
+    return choice == SaveChoice::Discard || (choice == SaveChoice::Save && Save());
 }
 
 void CSketchApp::Remember(const std::wstring& path)
 {
     AddRecentFile(path);
+    m_recent = ReadRecentFiles();
     UpdateFrame();
 }
 

@@ -11,6 +11,7 @@ namespace fs = std::filesystem;
 namespace {
 
 constexpr int kLongestSegment = 255;
+constexpr int kMenuWidth = 36;
 
 std::wstring SegmentTyped(const std::wstring& typed)
 {
@@ -80,13 +81,6 @@ bool TakeSaveName(const std::wstring& typed, const wchar_t* extension, CRnUiPath
     return true;
 }
 
-int StatusOf(const std::wstring& path)
-{
-    CRnUiPathname name;
-    name.Parse(path.c_str(), false);
-    return name.Status();
-}
-
 std::wstring UniqueName(const std::wstring& path)
 {
     CRnUiPathname name;
@@ -103,4 +97,12 @@ std::wstring DisplayName(const std::wstring& path, int width)
     if (name.Parse(path.c_str(), false) == 0)
         name.GetDisplayName(text, width);
     return text;
+}
+
+std::wstring MenuName(const std::wstring& path)
+{
+    std::wstring name = DisplayName(path, kMenuWidth);
+    for (std::size_t at = name.find(L'&'); at != name.npos; at = name.find(L'&', at + 2))
+        name.insert(at, 1, L'&');
+    return name;
 }

@@ -30,14 +30,14 @@ std::wstring BesideExecutable(const wchar_t* name);
 bool TakeSaveName(const std::wstring& typed, const wchar_t* extension, CRnUiPathname& name,
                   bool& added, std::wstring& reason);
 
-// The CRnUiPathname::Status of a name.
-int StatusOf(const std::wstring& path);
-
 // A free name in the same folder, or an empty text.
 std::wstring UniqueName(const std::wstring& path);
 
 // A name for people to read, cut to a width in characters.
 std::wstring DisplayName(const std::wstring& path, int width);
+
+// The same as a menu takes it, where an & would mark a key.
+std::wstring MenuName(const std::wstring& path);
 
 std::wstring FullPath(const CRnUiPathname& name);
 

@@ -11,6 +11,9 @@ constexpr wchar_t kUnusableName[] = L"the name is too long, or not valid in this
 
 std::wstring ReasonOf(const std::error_code& error);
 
+// Why the last module could not be loaded.
+std::wstring LoaderReason();
+
 // The reason of the last call of the standard library that failed.
 std::wstring LastErrorReason();
 

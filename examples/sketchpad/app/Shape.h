@@ -2,9 +2,10 @@
 #ifndef SKETCHPAD_SHAPE_H
 #define SKETCHPAD_SHAPE_H
 
+#include <KtQtBase/Porting.h>
 #include <KtQtBase/WindowsTypes.h>
-#include <KtQtBase/windows/Packing.h>
 
+#include <functional>
 #include <string>
 #include <vector>
 
@@ -21,24 +22,42 @@ enum class ShapeKind
 {
     Line,
     Polygon,
+    Ellipse,
     Text
 };
 
-// One figure of a drawing. Rectangles, ellipses and stars are polygons.
+// One figure of a drawing. Rectangles and stars are polygons.
 struct CShape
 {
     ShapeKind kind = ShapeKind::Line;
     CPenInfo pen;
-    std::vector<POINT> points; // a text has one: the left end of its baseline
+    std::vector<POINT> points; // an ellipse has two corners, a text the left end of its baseline
     std::wstring text;
 };
 
-// The smallest rectangle that holds a shape's points; a text's width is estimated.
-CRect BoundsOf(const CShape& shape);
+constexpr int kMostPoints = 100000; // of a shape
+constexpr LONG kFarthest = 30000;   // as many units of a printer still fit its coordinates
+constexpr int kTextHeight = 16;     // pixels of a letter with what is below the baseline
+
+// The width of a text in pixels, which only the window's system knows.
+using CTextMeasure = std::function<int(const std::wstring& text)>;
+
+// The smallest rectangle that holds a shape.
+CRect BoundsOf(const CShape& shape, const CTextMeasure& measure);
+
+// The corners of an ellipse, so many that a device of some pixels to a point shows no edge.
+//   corners    in: two opposite corners of its rectangle
+//   scale      in: the device's pixels to a point, in which the result counts
+std::vector<POINT> EllipseCorners(const std::vector<POINT>& corners, int scale);
 
 // The rectangle between two corners, whichever way they were dragged.
 CRect RectBetween(POINT from, POINT to);
 
 bool Intersect(const CRect& a, const CRect& b);
+
+bool IsTooFar(POINT point);
+
+// A shape that lies elsewhere; where that would be too far, it stays.
+CShape MovedBy(const CShape& shape, POINT offset);
 
 #endif

@@ -2,6 +2,8 @@
 #include "ShapePlugIn.h"
 
 #include "FileNames.h"
+#include "Reasons.h"
+#include "Texts.h"
 
 #include <KtQtBase/WindowsFunctions.h>
 
@@ -12,15 +14,20 @@ namespace {
 using MAKESHAPEPROC = int (*)(const RECT* bounds, POINT* points, int room);
 
 MAKESHAPEPROC makeShape = nullptr;
-constexpr int kMostPoints = 64;
+constexpr int kRoom = 64;
 
 } // namespace
 
-bool LoadShapePlugIn()
+std::wstring LoadShapePlugIn()
 {
     const HINSTANCE module = LoadLibrary(BesideExecutable(L"starshape.dll").c_str());
     if (module)
         makeShape = reinterpret_cast<MAKESHAPEPROC>(GetProcAddress(module, "MakeShape"));
+    return makeShape ? std::wstring() : Text(IDS_NOPLUGIN, LoaderReason());
+}
+
+bool HasShapePlugIn()
+{
     return makeShape != nullptr;
 }
 
@@ -29,8 +36,8 @@ std::vector<POINT> PlugInPoints(POINT from, POINT to)
     if (!makeShape)
         return {};
     const CRect bounds = RectBetween(from, to);
-    std::vector<POINT> points(kMostPoints);
-    const int count = makeShape(&bounds, points.data(), kMostPoints);
-    points.resize(static_cast<std::size_t>(std::clamp(count, 0, kMostPoints)));
+    std::vector<POINT> points(kRoom);
+    const int count = makeShape(&bounds, points.data(), kRoom);
+    points.resize(static_cast<std::size_t>(std::clamp(count, 0, kRoom)));
     return points;
 }

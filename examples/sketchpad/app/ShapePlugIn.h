@@ -11,8 +11,9 @@
 #include "Shape.h"
 
 // Loads starshape.dll from the executable's folder.
-// Result: whether the module is there and has the function.
-bool LoadShapePlugIn();
+// Result: an empty text, or why there is no such tool.
+std::wstring LoadShapePlugIn();
+bool HasShapePlugIn();
 
 // The module's polygon between two corners; empty without a module.
 std::vector<POINT> PlugInPoints(POINT from, POINT to);

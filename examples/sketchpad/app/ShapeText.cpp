@@ -10,9 +10,9 @@
 
 namespace {
 
-constexpr const char* kKinds[] = {"line", "polygon", "text"};
-constexpr int kMaxPoints = 100000;
+constexpr const char* kKinds[] = {"line", "polygon", "ellipse", "text"};
 constexpr int kMaxWidth = 100;
+constexpr std::size_t kEllipsePoints = 2;
 constexpr char kNoFill[] = "none";
 
 bool ReadKind(std::istream& stream, CShape& shape)
@@ -39,16 +39,16 @@ bool ReadPen(std::istream& stream, CPenInfo& pen)
 bool ReadPoints(std::istream& stream, CShape& shape)
 {
     int count = 0;
-    if (!(stream >> count) || count < 1 || count > kMaxPoints)
+    if (!(stream >> count) || count < 1 || count > kMostPoints)
         return false;
     for (int i = 0; i < count; ++i) {
         POINT point = {};
         char comma = 0;
-        if (!(stream >> point.x >> comma >> point.y) || comma != ',')
+        if (!(stream >> point.x >> comma >> point.y) || comma != ',' || IsTooFar(point))
             return false;
         shape.points.push_back(point);
     }
-    return true;
+    return shape.kind != ShapeKind::Ellipse || shape.points.size() == kEllipsePoints;
 }
 
 bool ReadText(std::istream& stream, CShape& shape)
@@ -96,9 +96,10 @@ bool ShapeFromText(const std::string& line, CShape& shape, std::wstring& problem
     if (!ReadKind(stream, shape))
         problem = L"no shape begins like this";
     else if (!ReadPen(stream, shape.pen))
-        problem = L"the pen or the fill is wrong";
+        problem = L"the pen or the fill is wrong (a width is at most 100)";
     else if (!ReadPoints(stream, shape))
-        problem = L"a point is missing or wrong";
+        problem = L"a point is missing or wrong (a shape has at most 100,000, none is farther than "
+                  L"30,000)";
     else if (!ReadText(stream, shape))
         problem = L"the text is missing, or there is one too many";
     return problem.empty();

@@ -1,10 +1,14 @@
 // SPDX-License-Identifier: MIT
+//
+// Which function does which command, and what the window shows of the program.
 #include "SketchApp.h"
 
-#include "Commands.h"
+#include "FileNames.h"
 #include "Settings.h"
 #include "Shell.h"
 #include "Texts.h"
+
+#include <algorithm>
 
 const CSketchApp::CommandEntry CSketchApp::kCommandMap[] = {
     {ID_FILE_NEW, ID_FILE_NEW, &CSketchApp::OnFileNew},
@@ -12,11 +16,27 @@ const CSketchApp::CommandEntry CSketchApp::kCommandMap[] = {
     {ID_FILE_SAVE, ID_FILE_SAVE, &CSketchApp::OnFileSave},
     {ID_FILE_SAVE_AS, ID_FILE_SAVE_AS, &CSketchApp::OnFileSaveAs},
     {ID_FILE_SAVE_COPY_AS, ID_FILE_SAVE_COPY_AS, &CSketchApp::OnFileSaveCopy},
+    {ID_FILE_PAGE_SETUP, ID_FILE_PAGE_SETUP, &CSketchApp::OnFilePageSetup},
     {ID_FILE_PRINT, ID_FILE_PRINT, &CSketchApp::OnFilePrint},
+    {ID_FILE_PRINT_PREVIEW, ID_FILE_PRINT_PREVIEW, &CSketchApp::OnFilePrintPreview},
+    {ID_FILE_PRINT_PDF, ID_FILE_PRINT_PDF, &CSketchApp::OnFilePrintPdf},
     {ID_FILE_MRU_FILE1, ID_FILE_MRU_LAST, &CSketchApp::OnRecentFile},
     {ID_EDIT_CLEAR, ID_EDIT_CLEAR, &CSketchApp::OnEditClear},
+    {ID_EDIT_CUT, ID_EDIT_CUT, &CSketchApp::OnEditCut},
+    {ID_EDIT_COPY, ID_EDIT_COPY, &CSketchApp::OnEditCopy},
+    {ID_EDIT_PASTE, ID_EDIT_PASTE, &CSketchApp::OnEditPaste},
+    {ID_EDIT_SELECT_ALL, ID_EDIT_SELECT_ALL, &CSketchApp::OnEditSelectAll},
+    {ID_EDIT_SELECT_NEXT, ID_EDIT_SELECT_NEXT, &CSketchApp::OnEditSelectNext},
+    {ID_EDIT_INSERT, ID_EDIT_INSERT, &CSketchApp::OnEditInsert},
     {ID_EDIT_UNDO, ID_EDIT_UNDO, &CSketchApp::OnEditUndo},
+    {ID_EDIT_REDO, ID_EDIT_REDO, &CSketchApp::OnEditRedo},
     {ID_APP_EXIT, ID_APP_EXIT, &CSketchApp::OnAppExit},
+    {ID_APP_ABOUT, ID_APP_ABOUT, &CSketchApp::OnAppAbout},
+    {ID_HELP_KEYS, ID_HELP_KEYS, &CSketchApp::OnHelpKeys},
+    {ID_VIEW_ZOOM_IN, ID_VIEW_ZOOM_IN, &CSketchApp::OnZoomIn},
+    {ID_VIEW_ZOOM_OUT, ID_VIEW_ZOOM_OUT, &CSketchApp::OnZoomOut},
+    {ID_VIEW_ZOOM_FULL, ID_VIEW_ZOOM_FULL, &CSketchApp::OnZoomFull},
+    {ID_VIEW_ZOOM_FIT, ID_VIEW_ZOOM_FIT, &CSketchApp::OnZoomFit},
     {ID_TOOL_FIRST, ID_TOOL_LAST, &CSketchApp::OnTool},
     {ID_PEN_STYLE_FIRST, ID_PEN_STYLE_LAST, &CSketchApp::OnPenStyle},
     {ID_PEN_WIDTH_FIRST, ID_PEN_WIDTH_LAST, &CSketchApp::OnPenWidth},
@@ -26,15 +46,17 @@ const CSketchApp::CommandEntry CSketchApp::kCommandMap[] = {
 };
 
 CSketchApp::CSketchApp(CShell& shell, const CDefaults& defaults)
-    : m_shell(shell), m_view(m_document, defaults)
+    : m_shell(shell), m_view(m_document, defaults), m_autosave(shell), m_recent(ReadRecentFiles())
 {
     m_view.SetChangedHandler([this] { UpdateFrame(); });
 }
 
+// A text that is being typed is part of the drawing for every command.
 bool CSketchApp::OnCommand(UINT id)
 {
     for (const CommandEntry& entry : kCommandMap) {
         if (id >= entry.first && id <= entry.last) {
+            m_view.FinishInput();
             (this->*entry.handler)(id - entry.first);
             UpdateFrame();
             return true;
@@ -45,9 +67,8 @@ bool CSketchApp::OnCommand(UINT id)
 
 void CSketchApp::UpdateFrame()
 {
-    const std::wstring changed = m_document.IsModified() ? L"*" : L"";
-    m_shell.SetWindowText(NameForPeople() + changed + L" - " + Text(IDS_APPTITLE));
-    m_shell.SetRecentFiles(ReadRecentFiles());
+    const bool changed = m_document.IsModified() || m_view.HasUnfinishedInput();
+    m_shell.SetWindowText(NameForPeople() + (changed ? L"*" : L"") + L" - " + Text(IDS_APPTITLE));
     ShowSelection();
     m_shell.Refresh();
 }
@@ -60,23 +81,59 @@ void CSketchApp::ShowSelection()
     m_nShownSelected = selected;
 }
 
-void CSketchApp::OnFileNew(UINT)
+namespace {
+
+CCommandState Named(std::optional<TextId> name, TextId text)
 {
-    if (!SaveModified())
-        return;
-    m_document.DeleteContents();
-    m_view.OnInitialUpdate();
+    if (!name)
+        return {false, false, std::wstring()};
+    return {true, false, Text(text, Text(*name))};
 }
 
-void CSketchApp::OnEditClear(UINT)
+bool IsOfSelection(UINT id)
 {
-    m_view.DeleteSelection();
+    return id == ID_EDIT_CLEAR || id == ID_EDIT_CUT || id == ID_EDIT_COPY;
 }
 
-void CSketchApp::OnEditUndo(UINT)
+bool IsOfPrinter(UINT id)
 {
-    m_view.FinishInput();
-    m_document.RemoveLast();
+    return id == ID_FILE_PAGE_SETUP || id == ID_FILE_PRINT || id == ID_FILE_PRINT_PREVIEW;
+}
+
+bool IsChosen(UINT id, const CPenInfo& pen)
+{
+    if (id >= ID_PEN_STYLE_FIRST && id <= ID_PEN_STYLE_LAST)
+        return pen.style == static_cast<int>(id - ID_PEN_STYLE_FIRST);
+    if (id >= ID_PEN_WIDTH_FIRST && id <= ID_PEN_WIDTH_LAST)
+        return pen.width == static_cast<int>(id - ID_PEN_WIDTH_FIRST);
+    if (id >= ID_PEN_COLOR_FIRST && id <= ID_PEN_COLOR_LAST)
+        return pen.color == kColors[id - ID_PEN_COLOR_FIRST];
+    if (id >= ID_FILL_COLOR_FIRST && id <= ID_FILL_COLOR_LAST)
+        return pen.filled && pen.fill == kColors[id - ID_FILL_COLOR_FIRST];
+    return id == ID_FILL_NONE && !pen.filled;
+}
+
+} // namespace
+
+CCommandState CSketchApp::OnUpdateCommand(UINT id) const
+{
+    if (id == ID_EDIT_UNDO && m_view.HasUnfinishedInput())
+        return Named(IDS_UNDO_TEXT, IDS_UNDO_NAMED);
+    if (id == ID_EDIT_UNDO)
+        return Named(m_document.GetUndoName(), IDS_UNDO_NAMED);
+    if (id == ID_EDIT_REDO)
+        return Named(m_document.GetRedoName(), IDS_REDO_NAMED);
+    if (IsOfSelection(id))
+        return {m_view.CountSelected() > 0, false, std::wstring()};
+    if (IsOfPrinter(id))
+        return {m_shell.CanPrint(), false, std::wstring()};
+    if (id >= ID_FILE_MRU_FILE1 && id <= ID_FILE_MRU_LAST) {
+        const std::size_t index = id - ID_FILE_MRU_FILE1;
+        const bool there = index < m_recent.size();
+        return {there, false, there ? MenuName(m_recent[index]) : std::wstring()};
+    }
+    return {true, id == CommandOf(m_view.GetTool()) || IsChosen(id, m_view.GetPen()),
+            std::wstring()};
 }
 
 void CSketchApp::OnAppExit(UINT)
@@ -84,43 +141,45 @@ void CSketchApp::OnAppExit(UINT)
     m_shell.Close();
 }
 
+void CSketchApp::OnAppAbout(UINT)
+{
+    m_shell.ShowAbout(Text(IDS_APPTITLE), Text(IDS_ABOUT));
+}
+
+void CSketchApp::OnHelpKeys(UINT)
+{
+    m_shell.ShowAbout(Text(IDS_APPTITLE), Text(IDS_KEYS));
+}
+
 void CSketchApp::OnTool(UINT tool)
 {
     m_view.WindowProc(WM_SKETCH_SETTOOL, tool, 0);
 }
 
-void CSketchApp::OnPenStyle(UINT style)
+void CSketchApp::Zoom(int percent)
 {
-    CPenInfo pen = m_view.GetPen();
-    pen.style = static_cast<int>(style);
-    m_view.SetPen(pen);
+    m_view.SetZoom(percent);
+    m_shell.ShowLine(Text(IDS_ZOOMED, std::to_wstring(m_view.GetZoom())));
 }
 
-void CSketchApp::OnPenWidth(UINT width)
+void CSketchApp::OnZoomIn(UINT)
 {
-    CPenInfo pen = m_view.GetPen();
-    pen.width = static_cast<int>(width);
-    m_view.SetPen(pen);
+    Zoom(m_view.GetZoom() * 5 / 4);
 }
 
-void CSketchApp::OnPenColor(UINT index)
+void CSketchApp::OnZoomOut(UINT)
 {
-    CPenInfo pen = m_view.GetPen();
-    pen.color = kColors[index];
-    m_view.SetPen(pen);
+    Zoom(m_view.GetZoom() * 4 / 5);
 }
 
-void CSketchApp::OnFillNone(UINT)
+void CSketchApp::OnZoomFull(UINT)
 {
-    CPenInfo pen = m_view.GetPen();
-    pen.filled = false;
-    m_view.SetPen(pen);
+    Zoom(100);
 }
 
-void CSketchApp::OnFillColor(UINT index)
+void CSketchApp::OnZoomFit(UINT)
 {
-    CPenInfo pen = m_view.GetPen();
-    pen.filled = true;
-    pen.fill = kColors[index];
-    m_view.SetPen(pen);
+    const SIZE room = m_shell.GetClientSize();
+    const SIZE extent = m_view.GetExtent();
+    Zoom(static_cast<int>(std::min(100 * room.cx / extent.cx, 100 * room.cy / extent.cy)));
 }

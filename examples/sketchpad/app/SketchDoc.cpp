@@ -5,44 +5,127 @@
 
 #include <algorithm>
 
+namespace {
+
+constexpr std::size_t kMostEdits = 100;
+constexpr long kNeverSaved = -1;
+
+auto Place(std::vector<CShape>& shapes, std::size_t index)
+{
+    return shapes.begin() + static_cast<std::ptrdiff_t>(index);
+}
+
+} // namespace
+
 void CSketchDoc::DeleteContents()
 {
-    m_shapes.clear();
-    m_strPathName.clear();
-    m_bModified = false;
+    TakeContents({}, std::wstring());
 }
 
-void CSketchDoc::AddShape(const CShape& shape)
+void CSketchDoc::TakeContents(std::vector<CShape>&& shapes, const std::wstring& path)
 {
-    m_shapes.push_back(shape);
-    SetModifiedFlag();
+    m_shapes = std::move(shapes);
+    m_strPathName = path;
+    m_edits.clear();
+    m_done = 0;
+    m_position = m_saved = 0;
+    ++m_revision;
 }
 
-bool CSketchDoc::RemoveLast()
+void CSketchDoc::AddShapes(TextId name, const std::vector<CShape>& shapes)
 {
-    if (m_shapes.empty())
+    CEdit edit = {name, {}};
+    for (const CShape& shape : shapes)
+        edit.changes.push_back({m_shapes.size() + edit.changes.size(), std::nullopt, shape});
+    Do(edit);
+}
+
+void CSketchDoc::RemoveShapes(TextId name, const CIndices& indices)
+{
+    CEdit edit = {name, {}};
+    for (std::size_t index : indices)
+        edit.changes.push_back({index, m_shapes.at(index), std::nullopt});
+    Do(edit);
+}
+
+void CSketchDoc::ChangeShapes(TextId name, const CIndices& indices,
+                              const std::function<CShape(const CShape&)>& change)
+{
+    CEdit edit = {name, {}};
+    for (std::size_t index : indices)
+        edit.changes.push_back({index, m_shapes.at(index), change(m_shapes.at(index))});
+    Do(edit);
+}
+
+// What was undone before can no longer be redone. If the saved state was among that, no number of
+// undos leads back to it.
+void CSketchDoc::Do(const CEdit& edit)
+{
+    if (edit.changes.empty())
+        return;
+    if (m_saved > m_position)
+        m_saved = kNeverSaved;
+    m_edits.erase(m_edits.begin() + static_cast<std::ptrdiff_t>(m_done), m_edits.end());
+    m_edits.push_back(edit);
+    if (m_edits.size() > kMostEdits)
+        m_edits.pop_front();
+    m_done = m_edits.size();
+    ++m_position;
+    Apply(edit);
+}
+
+bool CSketchDoc::Undo()
+{
+    if (m_done == 0)
         return false;
-    m_shapes.pop_back();
-    SetModifiedFlag();
+    --m_done;
+    --m_position;
+    TakeBack(m_edits[m_done]);
     return true;
 }
 
-int CSketchDoc::RemoveIf(const std::function<bool(const CShape&)>& wanted)
+bool CSketchDoc::Redo()
 {
-    const auto kept = std::remove_if(m_shapes.begin(), m_shapes.end(), wanted);
-    const auto removed = static_cast<int>(m_shapes.end() - kept);
-    m_shapes.erase(kept, m_shapes.end());
-    if (removed > 0)
-        SetModifiedFlag();
-    return removed;
+    if (m_done == m_edits.size())
+        return false;
+    Apply(m_edits[m_done]);
+    ++m_done;
+    ++m_position;
+    return true;
 }
 
-void CSketchDoc::ReplaceLast(const CShape& shape)
+// From the last change to the first where shapes go, so that the other indices still hold.
+void CSketchDoc::Apply(const CEdit& edit)
 {
-    if (m_shapes.empty())
-        return;
-    m_shapes.back() = shape;
-    SetModifiedFlag();
+    for (const CChange& change : edit.changes) {
+        if (change.before && change.after)
+            m_shapes[change.index] = *change.after;
+        else if (change.after)
+            m_shapes.insert(Place(m_shapes, change.index), *change.after);
+    }
+    for (auto change = edit.changes.rbegin(); change != edit.changes.rend(); ++change) {
+        if (!change->after)
+            m_shapes.erase(Place(m_shapes, change->index));
+    }
+    ++m_revision;
+}
+
+void CSketchDoc::TakeBack(const CEdit& edit)
+{
+    CEdit reverse = edit;
+    for (CChange& change : reverse.changes)
+        std::swap(change.before, change.after);
+    Apply(reverse);
+}
+
+std::optional<TextId> CSketchDoc::GetUndoName() const
+{
+    return m_done == 0 ? std::nullopt : std::optional(m_edits[m_done - 1].name);
+}
+
+std::optional<TextId> CSketchDoc::GetRedoName() const
+{
+    return m_done == m_edits.size() ? std::nullopt : std::optional(m_edits[m_done].name);
 }
 
 bool CSketchDoc::OnOpenDocument(const std::wstring& path, std::wstring& reason)
@@ -50,13 +133,21 @@ bool CSketchDoc::OnOpenDocument(const std::wstring& path, std::wstring& reason)
     std::vector<CShape> shapes;
     if (!ReadSketch(path, shapes, reason))
         return false;
-    m_shapes = std::move(shapes);
-    m_strPathName = path;
-    m_bModified = false;
+    TakeContents(std::move(shapes), path);
     return true;
 }
 
-bool CSketchDoc::OnSaveDocument(const std::wstring& path, std::wstring& reason)
+bool CSketchDoc::Recover(const std::wstring& autosave, const std::wstring& path,
+                         std::wstring& reason)
+{
+    if (!OnOpenDocument(autosave, reason))
+        return false;
+    m_strPathName = path;
+    m_saved = kNeverSaved;
+    return true;
+}
+
+bool CSketchDoc::OnSaveDocument(const std::wstring& path, std::wstring& reason) const
 {
     return WriteSketch(path, m_shapes, reason);
 }

@@ -1,13 +1,15 @@
 // SPDX-License-Identifier: MIT
+//
+// What the view does with its messages.
 #include "SketchView.h"
 
 #include <KtQtBase/Messages.h>
-#include <KtQtBase/windows/MessageNumbers.h>
-#include <KtQtBase/windows/Packing.h>
 
 #include <algorithm>
 
 namespace {
+
+constexpr int kNear = 3; // points between a click and the shape that it means
 
 // What lParam points to belongs to the sender and lives until SendMessage returns.
 template<class Record>
@@ -18,9 +20,9 @@ std::optional<Record> CopyFrom(LPARAM lParam)
     return *reinterpret_cast<const Record*>(lParam);
 }
 
-POINT PointFrom(LPARAM place)
+CRect Around(POINT point)
 {
-    return {GET_X_LPARAM(place), GET_Y_LPARAM(place)};
+    return CRect(point.x - kNear, point.y - kNear, point.x + kNear, point.y + kNear);
 }
 
 } // namespace
@@ -40,15 +42,21 @@ const CSketchView::MessageEntry CSketchView::kMessageMap[] = {
     {WM_SKETCH_SETTOOL, &CSketchView::OnSetTool},
     {WM_SKETCH_GETCOUNTS, &CSketchView::OnGetCounts},
     {WM_SKETCH_CHANGED, &CSketchView::OnChanged},
+    {WM_SKETCH_HITTEST, &CSketchView::OnHitTest},
+    {WM_SKETCH_DRAGBY, &CSketchView::OnDragBy},
+    {WM_SKETCH_MOVEBY, &CSketchView::OnMoveBy},
+    {WM_SKETCH_TAKETEXT, &CSketchView::OnTakeText},
+    {WM_SKETCH_ENDTEXT, &CSketchView::OnEndText},
 };
 
 CSketchView::CSketchView(CSketchDoc& document, const CDefaults& defaults)
     : m_document(document), m_defaults(defaults), m_pen(defaults.pen)
 {}
 
-void CSketchView::OnCreate(HWND window)
+void CSketchView::OnCreate(HWND window, const CTextMeasure& measure)
 {
     m_hWnd = window;
+    m_measure = measure;
     m_tool = MakeTool(m_toolId, m_hWnd);
 }
 
@@ -63,12 +71,24 @@ bool CSketchView::WindowProc(UINT message, WPARAM wParam, LPARAM lParam)
     return false;
 }
 
+void CSketchView::Changed()
+{
+    PostMessage(m_hWnd, WM_SKETCH_CHANGED, 0, 0);
+}
+
+// The messages of the mouse count in pixels of the window.
+POINT CSketchView::PointFrom(LPARAM place) const
+{
+    return {GET_X_LPARAM(place) * 100 / m_zoom, GET_Y_LPARAM(place) * 100 / m_zoom};
+}
+
 void CSketchView::OnLButtonDown(WPARAM, LPARAM place)
 {
     m_bButtonDown = true;
-    m_selection.reset();
+    if (m_toolId != TOOL_SELECT)
+        ClearSelection();
     m_tool->OnDown(PointFrom(place));
-    PostMessage(m_hWnd, WM_SKETCH_CHANGED, 0, 0);
+    Changed();
 }
 
 void CSketchView::OnMouseMove(WPARAM flags, LPARAM place)
@@ -84,28 +104,39 @@ void CSketchView::OnLButtonUp(WPARAM, LPARAM place)
     m_bButtonDown = false;
 }
 
-void CSketchView::OnKeyDown(WPARAM key, LPARAM)
+// The low word is how often the key counts.
+void CSketchView::OnKeyDown(WPARAM key, LPARAM repeat)
 {
+    const LONG step = std::max<LONG>(LOWORD(repeat), 1);
+    if (m_tool->OnKey(key))
+        return;
     if (key == VK_DELETE)
-        DeleteSelection();
+        DeleteSelection(IDS_UNDO_DELETE);
+    else if (key == VK_ESCAPE)
+        ClearSelection();
+    else if (key == VK_LEFT || key == VK_RIGHT)
+        MoveSelection({key == VK_LEFT ? -step : step, 0});
+    else if (key == VK_UP || key == VK_DOWN)
+        MoveSelection({0, key == VK_UP ? -step : step});
 }
 
 void CSketchView::OnChar(WPARAM character, LPARAM)
 {
     m_tool->OnChar(static_cast<wchar_t>(character));
+    Changed();
 }
 
 void CSketchView::OnAddShape(WPARAM, LPARAM shape)
 {
     if (const auto added = CopyFrom<CShape>(shape); added && !added->points.empty())
-        m_document.AddShape(*added);
-    PostMessage(m_hWnd, WM_SKETCH_CHANGED, 0, 0);
+        m_document.AddShapes(IDS_UNDO_ADD, {*added});
+    Changed();
 }
 
 void CSketchView::OnPreview(WPARAM, LPARAM shape)
 {
     m_preview = CopyFrom<CShape>(shape);
-    PostMessage(m_hWnd, WM_SKETCH_CHANGED, 0, 0);
+    Changed();
 }
 
 void CSketchView::OnGetPen(WPARAM, LPARAM pen)
@@ -121,14 +152,25 @@ void CSketchView::OnSetPen(WPARAM, LPARAM pen)
 
 void CSketchView::OnSelect(WPARAM, LPARAM rect)
 {
-    m_selection = CopyFrom<CRect>(rect);
-    PostMessage(m_hWnd, WM_SKETCH_CHANGED, 0, 0);
+    m_selection.clear();
+    if (const auto area = CopyFrom<CRect>(rect)) {
+        const bool one = area->left == area->right && area->top == area->bottom;
+        CSketchHit hit;
+        hit.point = {area->left, area->top};
+        FindShape(hit);
+        for (std::size_t i = 0; i < m_document.GetShapes().size() && !one; ++i)
+            if (Intersect(*area, BoundsOf(m_document.GetShapes()[i], m_measure)))
+                m_selection.push_back(i);
+        if (one && hit.index != kNoShape)
+            m_selection.push_back(static_cast<std::size_t>(hit.index));
+    }
+    Changed();
 }
 
 void CSketchView::OnDragRect(WPARAM, LPARAM rect)
 {
     m_dragRect = CopyFrom<CRect>(rect);
-    PostMessage(m_hWnd, WM_SKETCH_CHANGED, 0, 0);
+    Changed();
 }
 
 void CSketchView::OnSetTool(WPARAM tool, LPARAM)
@@ -139,7 +181,7 @@ void CSketchView::OnSetTool(WPARAM tool, LPARAM)
     m_bButtonDown = false;
     m_toolId = static_cast<ToolId>(tool);
     m_tool = MakeTool(m_toolId, m_hWnd);
-    PostMessage(m_hWnd, WM_SKETCH_CHANGED, 0, 0);
+    Changed();
 }
 
 void CSketchView::OnGetCounts(WPARAM, LPARAM counts)
@@ -155,36 +197,63 @@ void CSketchView::OnChanged(WPARAM, LPARAM)
         m_changed();
 }
 
-void CSketchView::DeleteSelection()
-{
-    m_document.RemoveIf([this](const CShape& shape) { return IsSelected(shape); });
-    m_selection.reset();
-    PostMessage(m_hWnd, WM_SKETCH_CHANGED, 0, 0);
-}
-
-void CSketchView::FinishInput()
-{
-    m_tool->Finish();
-}
-
-void CSketchView::OnInitialUpdate()
-{
-    m_preview.reset();
-    m_dragRect.reset();
-    m_selection.reset();
-    m_bButtonDown = false;
-    m_tool = MakeTool(m_toolId, m_hWnd);
-    PostMessage(m_hWnd, WM_SKETCH_CHANGED, 0, 0);
-}
-
-bool CSketchView::IsSelected(const CShape& shape) const
-{
-    return m_selection && Intersect(*m_selection, BoundsOf(shape));
-}
-
-int CSketchView::CountSelected() const
+// The one on top, which was drawn last.
+void CSketchView::FindShape(CSketchHit& hit) const
 {
     const auto& shapes = m_document.GetShapes();
-    return static_cast<int>(std::count_if(
-        shapes.begin(), shapes.end(), [this](const CShape& shape) { return IsSelected(shape); }));
+    hit.index = kNoShape;
+    for (std::size_t i = shapes.size(); i > 0 && hit.index == kNoShape; --i) {
+        if (Intersect(Around(hit.point), BoundsOf(shapes[i - 1], m_measure)))
+            hit.index = static_cast<int>(i - 1);
+    }
+}
+
+void CSketchView::OnHitTest(WPARAM, LPARAM lParam)
+{
+    auto* hit = reinterpret_cast<CSketchHit*>(lParam);
+    if (!hit)
+        return;
+    FindShape(*hit);
+    hit->selected = hit->index != kNoShape && IsSelected(static_cast<std::size_t>(hit->index));
+}
+
+void CSketchView::OnDragBy(WPARAM, LPARAM offset)
+{
+    m_dragOffset = CopyFrom<POINT>(offset);
+    Changed();
+}
+
+void CSketchView::OnMoveBy(WPARAM, LPARAM offset)
+{
+    MoveSelection(CopyFrom<POINT>(offset).value_or(POINT{}));
+}
+
+void CSketchView::OnTakeText(WPARAM, LPARAM lParam)
+{
+    auto* hit = reinterpret_cast<CSketchHit*>(lParam);
+    if (!hit)
+        return;
+    FindShape(*hit);
+    const auto index = static_cast<std::size_t>(hit->index);
+    if (hit->index == kNoShape || m_document.GetShapes()[index].kind != ShapeKind::Text) {
+        hit->index = kNoShape;
+        return;
+    }
+    hit->shape = m_document.GetShapes()[index];
+    m_hidden = index;
+}
+
+// A text without a character goes.
+void CSketchView::OnEndText(WPARAM, LPARAM lParam)
+{
+    const auto hit = CopyFrom<CSketchHit>(lParam);
+    m_hidden.reset();
+    if (!hit || hit->index == kNoShape)
+        return;
+    const CIndices index = {static_cast<std::size_t>(hit->index)};
+    if (hit->shape.text.empty())
+        m_document.RemoveShapes(IDS_UNDO_DELETE, index);
+    else if (hit->shape.text != m_document.GetShapes().at(index.front()).text)
+        m_document.ChangeShapes(IDS_UNDO_TEXT, index, [&](const CShape&) { return hit->shape; });
+    Changed();
 }

@@ -13,7 +13,8 @@
 // Result: an empty text, or why the built-in texts are used.
 std::wstring LoadTexts();
 
-std::wstring Text(TextId id);
+// The number is a TextId or a command's.
+std::wstring Text(unsigned int id);
 
 // The text with its %ls replaced.
 std::wstring Text(TextId id, const std::wstring& argument);

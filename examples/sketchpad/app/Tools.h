@@ -8,6 +8,18 @@
 #include "SketchMessages.h"
 
 #include <memory>
+#include <optional>
+
+// Keys that the library's headers have no name for.
+constexpr WPARAM kKeyEnd = 0x23;
+constexpr WPARAM kKeyHome = 0x24;
+
+// Where the next character of a text goes: behind so many characters.
+struct CCaret
+{
+    POINT start = {};
+    std::wstring before;
+};
 
 class CTool
 {
@@ -19,8 +31,12 @@ public:
     virtual void OnMove(POINT point) = 0;
     virtual void OnUp(POINT point) = 0;
     virtual void OnChar(wchar_t) {}
+    // Result: whether the key is one of this tool's.
+    virtual bool OnKey(WPARAM) { return false; }
     // Completes an unfinished shape before another tool is chosen or the drawing is saved.
     virtual void Finish() {}
+    virtual bool IsUnfinished() const { return false; }
+    virtual std::optional<CCaret> GetCaret() const { return std::nullopt; }
 
 protected:
     CPenInfo AskForPen() const;

@@ -2,6 +2,7 @@
 #include "BoxAnswerer.h"
 
 #include <QtCore/QEvent>
+#include <QtCore/QMap>
 #include <QtCore/QPointer>
 #include <QtCore/QTimer>
 #include <QtWidgets/QAbstractButton>
@@ -9,6 +10,19 @@
 #include <QtWidgets/QFileDialog>
 #include <QtWidgets/QLineEdit>
 #include <QtWidgets/QMessageBox>
+
+namespace {
+
+QMessageBox::StandardButton buttonOf(const QString& word)
+{
+    static const QMap<QString, QMessageBox::StandardButton> buttons = {
+        {"yes", QMessageBox::Yes},       {"no", QMessageBox::No},
+        {"save", QMessageBox::Save},     {"discard", QMessageBox::Discard},
+        {"cancel", QMessageBox::Cancel}, {"ok", QMessageBox::Ok}};
+    return buttons.value(word, QMessageBox::NoButton);
+}
+
+} // namespace
 
 BoxAnswerer::BoxAnswerer(QObject* parent) : QObject(parent)
 {
@@ -31,11 +45,11 @@ bool BoxAnswerer::eventFilter(QObject* object, QEvent* event)
 
 void BoxAnswerer::answer(QMessageBox* box)
 {
-    const bool expected = !m_answers.isEmpty();
-    const bool yes = expected && m_answers.takeFirst();
+    const QString word = m_answers.isEmpty() ? QString() : m_answers.takeFirst();
+    QAbstractButton* const button = box->button(buttonOf(word));
     if (answered)
-        answered(box->text(), yes, expected);
-    if (QAbstractButton* button = box->button(yes ? QMessageBox::Yes : QMessageBox::No))
+        answered(box->text(), button ? word : QString());
+    if (button)
         button->click();
     else
         box->reject();

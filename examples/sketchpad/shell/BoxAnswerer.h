@@ -19,14 +19,16 @@ public:
     explicit BoxAnswerer(QObject* parent);
 
     // The answers for the next boxes, and for the next file dialogs, in order.
-    void answerNext(bool yes) { m_answers.append(yes); }
+    //   answer    in: yes, no, save, discard, cancel or ok
+    void answerNext(const QString& answer) { m_answers.append(answer); }
     void chooseNext(const QString& name) { m_choices.append(name); }
 
     // Whether an answer or a choice is left over.
     bool hasLeftovers() const { return !m_answers.isEmpty() || !m_choices.isEmpty(); }
 
-    // Called with each box's text and its answer; expected is false if no answer was ready.
-    std::function<void(const QString& text, bool yes, bool expected)> answered;
+    // Called with each box's text and its answer; an empty one if none was ready that it has a
+    // button for.
+    std::function<void(const QString& text, const QString& answer)> answered;
 
 protected:
     bool eventFilter(QObject* object, QEvent* event) override;
@@ -35,7 +37,7 @@ private:
     void answer(QMessageBox* box);
     void choose(QFileDialog* dialog);
 
-    QList<bool> m_answers;
+    QStringList m_answers;
     QStringList m_choices;
     QObject* m_seen = nullptr; // the dialog that is being answered: it is shown twice
 };

@@ -2,24 +2,29 @@
 #include "MainWindow.h"
 
 #include "Canvas.h"
+#include "CanvasArea.h"
+#include "Menus.h"
 #include "PdfPrinter.h"
 #include "app/Commands.h"
-#include "app/FileNames.h"
 #include "app/Settings.h"
-#include "app/ShapePlugIn.h"
+#include "app/Texts.h"
 
 #include <KtQtBase/WindowsFunctions.h>
 
-#include <QActionGroup>
+#include <QtCore/QDir>
+#include <QtCore/QLockFile>
+#include <QtCore/QMimeData>
+#include <QtCore/QStandardPaths>
+#include <QtGui/QClipboard>
 #include <QtGui/QCloseEvent>
+#include <QtWidgets/QApplication>
 #include <QtWidgets/QLabel>
-#include <QtWidgets/QMenuBar>
+#include <QtWidgets/QMessageBox>
+#include <QtWidgets/QPushButton>
 #include <QtWidgets/QStatusBar>
-#include <QtWidgets/QToolBar>
 
 namespace {
 
-constexpr int kRecentWidth = 36;
 constexpr int kVisiblePart = 60; // pixels of the window that must be on screen at a stored place
 
 QString toQt(const std::wstring& text)
@@ -30,103 +35,45 @@ QString toQt(const std::wstring& text)
 } // namespace
 
 MainWindow::MainWindow(const CDefaults& defaults)
-    : m_app(*this, defaults), m_canvas(new Canvas(m_app.GetView(), this))
+    : m_app(*this, defaults), m_area(new CanvasArea(this)),
+      m_canvas(new Canvas(m_app.GetView(), m_area)), m_paperPrinter(m_app.GetView())
 {
-    setCentralWidget(m_canvas);
-    makeFileMenu();
-    makeEditMenu();
-    makeTools();
-    makePenMenu();
-    makeFillMenu();
-    statusBar()->showMessage(QString());
+    m_area->setWidget(m_canvas);
+    m_area->zoomTurned = [this](bool larger) {
+        m_app.OnCommand(larger ? ID_VIEW_ZOOM_IN : ID_VIEW_ZOOM_OUT);
+    };
+    m_canvas->setAccessibleName(toQt(Text(IDS_CANVAS)));
+    setCentralWidget(m_area);
+    makeStatusLine();
+    m_menus = new Menus(*this, m_app);
     placeWindow();
     m_canvas->setFocus();
     m_app.UpdateFrame();
+    ShowLine(Text(IDS_READY));
+    connect(&m_autosave, &QTimer::timeout, this, [this] { m_app.OnAutosave(); });
+    m_autosave.start(defaults.autosave * 1000);
 }
+
+MainWindow::~MainWindow() = default;
 
 HWND MainWindow::viewWindow() const
 {
     return reinterpret_cast<HWND>(m_canvas->winId());
 }
 
-QAction* MainWindow::addCommand(QWidget* place, const QString& text, UINT id,
-                                const QKeySequence& keys)
+// What a menu tells about a command covers the line only for a while.
+void MainWindow::makeStatusLine()
 {
-    auto* action = new QAction(text, this);
-    action->setData(id);
-    action->setShortcut(keys);
-    connect(action, &QAction::triggered, this, [this, id] { m_app.OnCommand(id); });
-    place->addAction(action);
-    return action;
+    m_line = new QLabel(this);
+    m_line->setAccessibleName(toQt(Text(IDS_READY)));
+    m_line->setMinimumWidth(1);
+    statusBar()->addWidget(m_line, 1);
 }
 
-void MainWindow::makeFileMenu()
+// So that the canvas needs no scroll bars.
+QSize MainWindow::sizeForAll() const
 {
-    QMenu* menu = menuBar()->addMenu("&File");
-    addCommand(menu, "&New", ID_FILE_NEW, QKeySequence("Ctrl+N"));
-    addCommand(menu, "&Open...", ID_FILE_OPEN, QKeySequence("Ctrl+O"));
-    m_recentMenu = menu->addMenu("&Recent Files");
-    menu->addSeparator();
-    addCommand(menu, "&Save", ID_FILE_SAVE, QKeySequence("Ctrl+S"));
-    addCommand(menu, "Save &As...", ID_FILE_SAVE_AS, QKeySequence("Ctrl+Shift+S"));
-    addCommand(menu, "Save a &Copy", ID_FILE_SAVE_COPY_AS);
-    menu->addSeparator();
-    addCommand(menu, "&Print to PDF...", ID_FILE_PRINT, QKeySequence("Ctrl+P"));
-    menu->addSeparator();
-    addCommand(menu, "E&xit", ID_APP_EXIT, QKeySequence("Ctrl+Q"));
-}
-
-void MainWindow::makeEditMenu()
-{
-    QMenu* menu = menuBar()->addMenu("&Edit");
-    addCommand(menu, "&Undo Last Shape", ID_EDIT_UNDO, QKeySequence("Ctrl+Z"));
-    addCommand(menu, "&Delete Selection", ID_EDIT_CLEAR);
-}
-
-void MainWindow::makeTools()
-{
-    const QStringList names = {"&Select", "&Freehand", "&Line", "&Rectangle", "&Ellipse", "&Text"};
-    QMenu* menu = menuBar()->addMenu("&Tools");
-    QToolBar* bar = addToolBar("Tools");
-    bar->setMovable(false);
-    m_tools = new QActionGroup(this);
-    addChoices(menu, names, ID_TOOL_FIRST);
-    if (LoadShapePlugIn())
-        addCommand(menu, "St&ar", CommandOf(TOOL_PLUGIN));
-    int number = 0;
-    for (QAction* action : menu->actions()) {
-        action->setCheckable(true);
-        action->setShortcut(QKeySequence(QString("Ctrl+%1").arg(++number)));
-        m_tools->addAction(action);
-        bar->addAction(action);
-    }
-}
-
-void MainWindow::addChoices(QMenu* menu, const QStringList& texts, UINT firstId, int step)
-{
-    UINT id = firstId;
-    for (const QString& text : texts) {
-        addCommand(menu, text, id);
-        id += static_cast<UINT>(step);
-    }
-}
-
-void MainWindow::makePenMenu()
-{
-    QMenu* menu = menuBar()->addMenu("&Pen");
-    addChoices(menu, {"Black", "Red", "Green", "Blue", "Yellow", "Light Blue"}, ID_PEN_COLOR_FIRST);
-    menu->addSeparator();
-    addChoices(menu, {"1 Pixel", "3 Pixels", "5 Pixels"}, ID_PEN_WIDTH_FIRST + 1, 2);
-    menu->addSeparator();
-    addChoices(menu, {"Solid", "Dashed", "Dotted"}, ID_PEN_STYLE_FIRST + PS_SOLID);
-}
-
-void MainWindow::makeFillMenu()
-{
-    QMenu* menu = menuBar()->addMenu("Fi&ll");
-    addCommand(menu, "None", ID_FILL_NONE);
-    addChoices(menu, {"Black", "Red", "Green", "Blue", "Yellow", "Light Blue"},
-               ID_FILL_COLOR_FIRST);
+    return sizeHint() - m_area->sizeHint() + m_canvas->sizeHint();
 }
 
 // Without its frame, whose size is not known before the window is shown.
@@ -134,7 +81,7 @@ void MainWindow::placeWindow()
 {
     const int screenWidth = GetSystemMetrics(SM_CXFULLSCREEN);
     const int screenHeight = GetSystemMetrics(SM_CYFULLSCREEN);
-    const QSize size = sizeHint();
+    const QSize size = sizeForAll().boundedTo(QSize(screenWidth, screenHeight));
     QRect rect((screenWidth - size.width()) / 2, (screenHeight - size.height()) / 2, size.width(),
                size.height());
     const auto place = ReadWindowPlace();
@@ -161,32 +108,115 @@ void MainWindow::SetWindowText(const std::wstring& title)
     setWindowTitle(toQt(title));
 }
 
-void MainWindow::SetRecentFiles(const std::vector<std::wstring>& names)
-{
-    m_recentMenu->clear();
-    m_recentMenu->setDisabled(names.empty());
-    UINT id = ID_FILE_MRU_FILE1;
-    for (const std::wstring& name : names)
-        addCommand(m_recentMenu, toQt(DisplayName(name, kRecentWidth)), id++);
-}
-
 void MainWindow::ShowLine(const std::wstring& line)
 {
-    statusBar()->showMessage(toQt(line));
+    m_line->setText(toQt(line));
     if (lineShown)
         lineShown(line);
 }
 
 void MainWindow::Refresh()
 {
-    for (QAction* action : m_tools->actions())
-        action->setChecked(action->data().toUInt() == CommandOf(m_app.GetView().GetTool()));
-    m_canvas->update();
+    if (m_menus)
+        m_menus->refresh();
+    m_canvas->adjustToZoom();
 }
 
-bool MainWindow::PrintTo(const std::wstring& path)
+SIZE MainWindow::GetClientSize()
 {
-    return printToPdf(m_app.GetView(), path);
+    const QSize size = m_area->maximumViewportSize();
+    return {size.width(), size.height()};
+}
+
+SaveChoice MainWindow::AskToSave(const std::wstring& text)
+{
+    QMessageBox box(QMessageBox::Question, windowTitle(), toQt(text),
+                    QMessageBox::Save | QMessageBox::Discard | QMessageBox::Cancel, this);
+    box.button(QMessageBox::Save)->setText(toQt(Text(IDS_SAVE)));
+    box.button(QMessageBox::Discard)->setText(toQt(Text(IDS_DISCARD)));
+    box.button(QMessageBox::Cancel)->setText(toQt(Text(IDS_CANCEL)));
+    box.setDefaultButton(QMessageBox::Save);
+    const int button = box.exec();
+    if (button == QMessageBox::Save)
+        return SaveChoice::Save;
+    return button == QMessageBox::Discard ? SaveChoice::Discard : SaveChoice::Cancel;
+}
+
+void MainWindow::Report(const std::wstring& text)
+{
+    QMessageBox(QMessageBox::Warning, toQt(Text(IDS_APPTITLE)), toQt(text), QMessageBox::Ok, this)
+        .exec();
+}
+
+// The tabs of a list need rich text.
+void MainWindow::ShowAbout(const std::wstring& title, const std::wstring& text)
+{
+    QString shown = toQt(text).toHtmlEscaped();
+    if (shown.contains('\t'))
+        shown = "<table cellspacing=6><tr><td><b>" +
+                shown.replace('\t', "</b></td><td>").replace('\n', "</td></tr><tr><td><b>") +
+                "</td></tr></table>";
+    else
+        shown.replace('\n', "<br>");
+    QMessageBox box(QMessageBox::Information, toQt(title), shown, QMessageBox::Ok, this);
+    box.setTextFormat(Qt::RichText);
+    box.exec();
+}
+
+std::string MainWindow::MakePdf()
+{
+    return pdfOf(m_app.GetView());
+}
+
+void MainWindow::OnPrintCommand(UINT id)
+{
+    if (id == ID_FILE_PAGE_SETUP)
+        m_paperPrinter.setUpPage(this);
+    else if (id == ID_FILE_PRINT_PREVIEW)
+        m_paperPrinter.preview(this);
+    else
+        m_paperPrinter.print(this);
+}
+
+void MainWindow::SetClipboard(const std::wstring& text)
+{
+    auto* what = new QMimeData;
+    what->setText(toQt(text));
+    what->setImageData(m_canvas->selectionPicture());
+    QApplication::clipboard()->setMimeData(what);
+}
+
+std::wstring MainWindow::GetClipboardText()
+{
+    return QApplication::clipboard()->text().toStdWString();
+}
+
+std::wstring MainWindow::GetDataFolder()
+{
+    const QString folder = QStandardPaths::writableLocation(QStandardPaths::AppLocalDataLocation);
+    QDir().mkpath(folder);
+    return (folder + '/').toStdWString();
+}
+
+// A lock that a killed program has left behind is known by its process, which is gone.
+bool MainWindow::HoldName(const std::wstring& path)
+{
+    m_lock.reset();
+    if (path.empty())
+        return true;
+    m_lock = std::make_unique<QLockFile>(toQt(path) + ".lock");
+    m_lock->setStaleLockTime(0);
+    const bool held = m_lock->tryLock(0);
+    if (!held)
+        m_lock.reset();
+    return held;
+}
+
+void MainWindow::changeEvent(QEvent* event)
+{
+    if (event->type() == QEvent::PaletteChange && m_menus)
+        m_menus->refreshIcons();
+    QMainWindow::changeEvent(event);
 }
 
 void MainWindow::closeEvent(QCloseEvent* event)
@@ -195,6 +225,7 @@ void MainWindow::closeEvent(QCloseEvent* event)
         event->ignore();
         return;
     }
+    m_app.OnClose();
     const QRect rect = geometry();
     WriteWindowPlace(CRect(rect.x(), rect.y(), rect.x() + rect.width(), rect.y() + rect.height()));
     event->accept();

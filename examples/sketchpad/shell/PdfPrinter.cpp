@@ -5,27 +5,46 @@
 
 #include <KtQtBase/PainterWrapper.h>
 
+#include <QtCore/QBuffer>
 #include <QtGui/QPainter>
 #include <QtGui/QPdfWriter>
 
+#include <algorithm>
+#include <cmath>
+
 namespace {
 
-constexpr int kPixelsPerInch = 80; // so that a paper of the usual size fills the sheet
+constexpr int kResolution = 1200;
+constexpr double kPointsPerInch = 80; // so that a paper of the usual size fills the sheet
 
 } // namespace
 
-bool printToPdf(const CSketchView& view, const std::wstring& path)
+// In whole points of the device, so that curves and the places of texts are as fine as it is.
+void drawSheet(const CSketchView& view, QPaintDevice& device)
 {
-    QPdfWriter writer(QString::fromStdWString(path));
-    writer.setPageSize(QPageSize(QPageSize::A4));
-    writer.setPageOrientation(QPageLayout::Landscape);
-    writer.setResolution(kPixelsPerInch);
-    KtQtPrinterPainter painter(&writer);
-    // beginDraw gives true even for a file that cannot be written.
-    const bool ready = painter.wrappedPainter()->isActive() && painter.beginDraw();
-    if (ready) {
-        view.OnPrint(painter);
-        painter.endDraw();
+    const double wanted = device.logicalDpiX() / kPointsPerInch;
+    const int scale = std::max(1, static_cast<int>(std::lround(wanted)));
+    const SIZE extent = view.GetExtent();
+    const double fit = std::min({wanted / scale, double(device.width()) / (extent.cx * scale),
+                                 double(device.height()) / (extent.cy * scale)});
+    KtQtPrinterPainter painter(&device);
+    painter.beginDraw();
+    painter.wrappedPainter()->scale(fit, fit);
+    view.OnPrint(painter, scale);
+    painter.endDraw();
+}
+
+// In memory first: whether a file was written to its end, the painter would not tell.
+std::string pdfOf(const CSketchView& view)
+{
+    QBuffer buffer;
+    buffer.open(QIODevice::WriteOnly);
+    {
+        QPdfWriter writer(&buffer);
+        writer.setPageSize(QPageSize(QPageSize::A4));
+        writer.setPageOrientation(QPageLayout::Landscape);
+        writer.setResolution(kResolution);
+        drawSheet(view, writer);
     }
-    return ready;
+    return buffer.data().toStdString();
 }

@@ -5,9 +5,13 @@
 #include <string>
 
 class CSketchView;
+class QPaintDevice;
 
 // Prints the drawing on one sheet of A4, lengthwise.
-// Result: false if the file cannot be written.
-bool printToPdf(const CSketchView& view, const std::wstring& path);
+// Result: the bytes of the file.
+std::string pdfOf(const CSketchView& view);
+
+// Draws the one sheet of a document; the drawing is as large as on the screen, or as fits.
+void drawSheet(const CSketchView& view, QPaintDevice& device);
 
 #endif

@@ -8,14 +8,17 @@
 #include "app/Narrow.h"
 #include "app/ShapeText.h"
 
-#include <KtQtBase/windows/MessageNumbers.h>
-#include <KtQtBase/windows/Packing.h>
+#include <QtGui/QClipboard>
+#include <QtWidgets/QApplication>
 
 #include <algorithm>
+#include <cstdlib>
 #include <iterator>
 #include <map>
 
 namespace {
+
+constexpr int kKilled = 3;
 
 // The rest of a line, which may hold blanks.
 std::string restOf(std::istream& arguments)
@@ -69,7 +72,13 @@ ScriptPlayer::Handler ScriptPlayer::handlerOf(const std::string& command)
         {"menu", &ScriptPlayer::command},
         {"answer", &ScriptPlayer::answer},
         {"choose", &ScriptPlayer::choose},
-        {"expect", &ScriptPlayer::expect}};
+        {"expect", &ScriptPlayer::expect},
+        {"paper", &ScriptPlayer::paper},
+        {"clipboard", &ScriptPlayer::clipboard},
+        {"resize", &ScriptPlayer::resize},
+        {"autosave", &ScriptPlayer::autosave},
+        {"recover", &ScriptPlayer::recover},
+        {"die", &ScriptPlayer::die}};
     const auto found = handlers.find(command);
     return found == handlers.end() ? nullptr : found->second;
 }
@@ -157,15 +166,19 @@ bool ScriptPlayer::type(std::istream& arguments)
 
 bool ScriptPlayer::key(std::istream& arguments)
 {
-    static const std::map<std::string, int> characters = {{"return", VK_RETURN},
-                                                          {"backspace", VK_BACK}};
+    static const std::map<std::string, WPARAM> characters = {{"return", VK_RETURN},
+                                                             {"backspace", VK_BACK}};
+    static const std::map<std::string, WPARAM> keys = {
+        {"delete", VK_DELETE}, {"escape", VK_ESCAPE}, {"left", VK_LEFT},  {"right", VK_RIGHT},
+        {"up", VK_UP},         {"down", VK_DOWN},     {"home", kKeyHome}, {"end", kKeyEnd}};
     const std::string name = restOf(arguments);
-    const auto found = characters.find(name);
-    if (found != characters.end())
-        send(WM_CHAR, static_cast<WPARAM>(found->second), 0);
-    else
-        send(WM_KEYDOWN, VK_DELETE, 0);
-    return found != characters.end() || name == "delete";
+    const auto character = characters.find(name);
+    const auto key = keys.find(name);
+    if (character != characters.end())
+        send(WM_CHAR, character->second, 0);
+    else if (key != keys.end())
+        send(WM_KEYDOWN, key->second, 1);
+    return character != characters.end() || key != keys.end();
 }
 
 bool ScriptPlayer::message(std::istream& arguments)
@@ -180,18 +193,71 @@ bool ScriptPlayer::message(std::istream& arguments)
 
 bool ScriptPlayer::command(std::istream& arguments)
 {
-    static const std::map<std::string, UINT> commands = {
-        {"new", ID_FILE_NEW},     {"open", ID_FILE_OPEN}, {"save-as", ID_FILE_SAVE_AS},
-        {"print", ID_FILE_PRINT}, {"undo", ID_EDIT_UNDO}, {"recent", ID_FILE_MRU_FILE1}};
+    static const std::map<std::string, UINT> commands = {{"new", ID_FILE_NEW},
+                                                         {"open", ID_FILE_OPEN},
+                                                         {"save-as", ID_FILE_SAVE_AS},
+                                                         {"print", ID_FILE_PRINT_PDF},
+                                                         {"recent", ID_FILE_MRU_FILE1},
+                                                         {"undo", ID_EDIT_UNDO},
+                                                         {"redo", ID_EDIT_REDO},
+                                                         {"cut", ID_EDIT_CUT},
+                                                         {"copy", ID_EDIT_COPY},
+                                                         {"paste", ID_EDIT_PASTE},
+                                                         {"delete", ID_EDIT_CLEAR},
+                                                         {"select-all", ID_EDIT_SELECT_ALL},
+                                                         {"select-next", ID_EDIT_SELECT_NEXT},
+                                                         {"insert", ID_EDIT_INSERT},
+                                                         {"zoom-in", ID_VIEW_ZOOM_IN},
+                                                         {"zoom-out", ID_VIEW_ZOOM_OUT},
+                                                         {"zoom-full", ID_VIEW_ZOOM_FULL},
+                                                         {"zoom-fit", ID_VIEW_ZOOM_FIT},
+                                                         {"red-pen", ID_PEN_COLOR_FIRST + 1},
+                                                         {"blue-fill", ID_FILL_COLOR_FIRST + 3}};
     const auto found = commands.find(restOf(arguments));
     return found != commands.end() && m_window.app().OnCommand(found->second);
 }
 
 bool ScriptPlayer::answer(std::istream& arguments)
 {
-    const std::string word = restOf(arguments);
-    m_answerer.answerNext(word == "yes");
-    return word == "yes" || word == "no";
+    m_answerer.answerNext(QString::fromStdString(restOf(arguments)));
+    return true;
+}
+
+bool ScriptPlayer::paper(std::istream& arguments)
+{
+    return m_window.paperPrinter().printToFile(QString::fromStdWString(nameIn(arguments)));
+}
+
+bool ScriptPlayer::clipboard(std::istream& arguments)
+{
+    QApplication::clipboard()->setText(QString::fromStdString(restOf(arguments)));
+    return true;
+}
+
+bool ScriptPlayer::resize(std::istream& arguments)
+{
+    POINT size = {};
+    const bool understood = readPoint(arguments, size);
+    m_window.resize(size.x, size.y);
+    return understood;
+}
+
+bool ScriptPlayer::autosave(std::istream&)
+{
+    m_window.app().OnAutosave();
+    return true;
+}
+
+bool ScriptPlayer::recover(std::istream&)
+{
+    m_window.app().OfferAutosaves();
+    return true;
+}
+
+// As if somebody killed the program.
+bool ScriptPlayer::die(std::istream&)
+{
+    std::_Exit(kKilled);
 }
 
 bool ScriptPlayer::choose(std::istream& arguments)
@@ -208,5 +274,6 @@ bool ScriptPlayer::expect(std::istream& arguments)
     CSketchCounts counts;
     send(WM_SKETCH_GETCOUNTS, 0, reinterpret_cast<LPARAM>(&counts));
     return (what == "shapes" && counts.shapes == number) ||
-           (what == "selected" && counts.selected == number);
+           (what == "selected" && counts.selected == number) ||
+           (what == "zoom" && m_window.app().GetView().GetZoom() == number);
 }

@@ -18,9 +18,10 @@ ScriptPlayer::ScriptPlayer(MainWindow& window)
     : QObject(&window), m_window(window), m_answerer(this)
 {
     m_window.lineShown = [this](const std::wstring& line) { say("line", NarrowForDisplay(line)); };
-    m_answerer.answered = [this](const QString& text, bool yes, bool expected) {
-        say("box", QString(text).replace('\n', ' ').toStdString() + (yes ? " [yes]" : " [no]"));
-        if (!expected)
+    m_answerer.answered = [this](const QString& text, const QString& answer) {
+        say("box",
+            QString(text).replace('\n', ' ').toStdString() + " [" + answer.toStdString() + ']');
+        if (answer.isEmpty())
             fail("no answer was ready for this box");
     };
 }

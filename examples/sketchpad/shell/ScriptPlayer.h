@@ -53,6 +53,12 @@ private:
     bool answer(std::istream& arguments);
     bool choose(std::istream& arguments);
     bool expect(std::istream& arguments);
+    bool paper(std::istream& arguments);
+    bool clipboard(std::istream& arguments);
+    bool resize(std::istream& arguments);
+    bool autosave(std::istream& arguments);
+    bool recover(std::istream& arguments);
+    bool die(std::istream& arguments);
 
     MainWindow& m_window;
     BoxAnswerer m_answerer;

@@ -5,10 +5,13 @@
 #include "ScriptPlayer.h"
 #include "app/FileNames.h"
 #include "app/Narrow.h"
+#include "app/ShapePlugIn.h"
 #include "app/Texts.h"
 
 #include <KtQtBase/WindowsFunctions.h>
 
+#include <QtCore/QTimer>
+#include <QtGui/QPalette>
 #include <QtWidgets/QApplication>
 
 #include <cstdlib>
@@ -17,12 +20,18 @@
 namespace {
 
 constexpr int kBadInput = 2;
-constexpr char kUsage[] = "Usage: sketchpad [--script FILE] [DRAWING]\n";
+constexpr char kUsage[] =
+    "Usage: sketchpad [--dark] [--script FILE] [DRAWING]\n"
+    "\n"
+    "  --dark           in dark colours, whatever the desktop's are\n"
+    "  --script FILE    plays a session and ends; docs/sketchpad.md lists the commands\n";
 
 struct Arguments
 {
     std::string script;
     std::string drawing;
+    bool dark = false;
+    bool help = false;
     bool understood = true;
 };
 
@@ -33,12 +42,25 @@ Arguments readArguments(int count, char** values)
         const std::string value = values[i];
         if (value == "--script" && i + 1 < count)
             arguments.script = values[++i];
+        else if (value == "--dark")
+            arguments.dark = true;
+        else if (value == "--help" || value == "-h")
+            arguments.help = true;
         else if (value.rfind("--", 0) == 0 || !arguments.drawing.empty())
             arguments.understood = false;
         else
             arguments.drawing = value;
     }
     return arguments;
+}
+
+void useDarkColors()
+{
+    QPalette palette(QColor(53, 53, 53));
+    palette.setColor(QPalette::Base, QColor(35, 35, 35));
+    palette.setColor(QPalette::Highlight, QColor(42, 130, 218));
+    QApplication::setStyle("Fusion");
+    QApplication::setPalette(palette);
 }
 
 void tell(MainWindow& window, const std::wstring& line)
@@ -61,6 +83,8 @@ int run(QApplication& application, MainWindow& window, const Arguments& argument
         player->start();
     }
     window.show();
+    if (!player)
+        QTimer::singleShot(0, &window, [&window] { window.app().OfferAutosaves(); });
     if (!arguments.drawing.empty())
         window.app().OpenFile(AbsoluteName(WidenForDisplay(arguments.drawing)));
     return application.exec();
@@ -70,19 +94,26 @@ int run(QApplication& application, MainWindow& window, const Arguments& argument
 
 int main(int argc, char** argv)
 {
+    // A screen of one and a half times the usual density gets just that.
+    QGuiApplication::setHighDpiScaleFactorRoundingPolicy(
+        Qt::HighDpiScaleFactorRoundingPolicy::PassThrough);
     QApplication application(argc, argv);
     const Arguments arguments = readArguments(argc, argv);
-    if (!arguments.understood) {
-        std::cerr << kUsage;
-        return kBadInput;
+    if (!arguments.understood || arguments.help) {
+        (arguments.help ? std::cout : std::cerr) << kUsage;
+        return arguments.help ? 0 : kBadInput;
     }
+    if (arguments.dark)
+        useDarkColors();
     const std::wstring textsMissing = LoadTexts();
+    const std::wstring plugInMissing = LoadShapePlugIn();
     std::wstring defaultsMissing;
     const CDefaults defaults = ReadDefaults(defaultsMissing);
     std::srand(GetTickCount()); // the digits of unique names come from rand
 
     MainWindow window(defaults);
     tell(window, textsMissing);
+    tell(window, plugInMissing);
     tell(window, defaultsMissing);
     return run(application, window, arguments);
 }

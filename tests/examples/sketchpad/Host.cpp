@@ -12,6 +12,18 @@ QString toQt(const fs::path& path)
     return QString::fromStdString(path.string());
 }
 
+SessionResult run(ChildProcess& process)
+{
+    SessionResult result;
+    if (process.start() && process->waitForFinished(30000) &&
+        process->exitStatus() == QProcess::NormalExit)
+        result.status = process->exitCode();
+    process.end();
+    result.out = process->readAllStandardOutput().toStdString();
+    result.err = process->readAllStandardError().toStdString();
+    return result;
+}
+
 } // namespace
 
 Host::Host(const std::string& folder)
@@ -26,11 +38,18 @@ Host::Host(const std::string& folder)
     fs::copy(fs::path(SKETCHPAD_FOLDER) / plugIn().filename(), m_program);
     environment.insert("HOME", toQt(m_folder.path()));
     environment.insert("XDG_CONFIG_HOME", toQt(m_folder / "config"));
+    environment.insert("XDG_DATA_HOME", toQt(m_folder / "data"));
+    environment.insert("QT_LOGGING_RULES", "*.warning=false");
 }
 
 fs::path Host::settings() const
 {
     return m_folder / "config" / "tarnex" / "Marrowfield.conf";
+}
+
+fs::path Host::data() const
+{
+    return m_folder / "data" / "sketchpad";
 }
 
 fs::path Host::textsModule() const
@@ -56,12 +75,22 @@ SessionResult Host::play(const std::string& script)
     writeFile("script", script);
     ChildProcess process;
     prepare(*process, {"--script", "script"});
-    SessionResult result;
-    if (process.start() && process->waitForFinished(30000) &&
-        process->exitStatus() == QProcess::NormalExit)
-        result.status = process->exitCode();
-    process.end();
-    result.out = process->readAllStandardOutput().toStdString();
-    result.err = process->readAllStandardError().toStdString();
-    return result;
+    return run(process);
+}
+
+SessionResult Host::playWithLimit(int kibibytes, const std::string& script)
+{
+    writeFile("script", script);
+    ChildProcess process;
+    prepare(*process, {"--script", "script"});
+    const QString limit = QString("trap '' XFSZ; ulimit -f %1; exec \"$0\" \"$@\"").arg(kibibytes);
+    process->setArguments(QStringList{"-c", limit, process->program()} + process->arguments());
+    process->setProgram("bash");
+    return run(process);
+}
+
+void Host::replaceFile(const fs::path& file, const std::string& content) const
+{
+    fs::remove(file);
+    ktqtbase::test::writeFile(file, content);
 }

@@ -27,6 +27,7 @@ public:
     std::filesystem::path work() const { return m_work; }       // the working directory
     std::filesystem::path settings() const;                     // the store's file
 
+    std::filesystem::path data() const; // the program's own folder
     std::filesystem::path textsModule() const;
     std::filesystem::path plugIn() const;
 
@@ -35,6 +36,12 @@ public:
 
     // Plays a script to its end.
     SessionResult play(const std::string& script);
+
+    // The same with files that must not grow beyond some KiB, as on a full disk.
+    SessionResult playWithLimit(int kibibytes, const std::string& script);
+
+    // Gives a file of the program another content; the program's own is left alone.
+    void replaceFile(const std::filesystem::path& file, const std::string& content) const;
 
     // Makes a process ready to start the program in the working directory.
     void prepare(QProcess& process, const QStringList& arguments) const;

@@ -72,6 +72,24 @@ bool Person::waitForEnd(int status)
     return m_program->waitForFinished(kPatience) && m_program->exitCode() == status;
 }
 
+bool Person::waitForBox() const
+{
+    return waitFor([this] { return xdotool({"getactivewindow"}) != m_window; });
+}
+
+bool Person::waitForNoBox() const
+{
+    return waitFor([this] { return xdotool({"getactivewindow"}) == m_window; });
+}
+
+void Person::turnWheelWithCtrl(const QPoint& point, int steps) const
+{
+    xdotool(QStringList{"mousemove", "--window", m_window} + place(point));
+    xdotool({"keydown", "ctrl"});
+    xdotool({"click", "--repeat", QString::number(steps), "4"});
+    xdotool({"keyup", "ctrl"});
+}
+
 void Person::press(const QString& keys) const
 {
     xdotool({"key", "--clearmodifiers", keys});
@@ -97,7 +115,8 @@ bool Person::answerDialog(const QString& title, const QString& name) const
 {
     if (!waitForTitle(title))
         return false;
-    type(name);
+    if (!name.isEmpty())
+        type(name);
     return waitFor([this, &title] {
         press("Return");
         QThread::msleep(100);

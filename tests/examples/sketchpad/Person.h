@@ -22,13 +22,19 @@ public:
     static bool waitFor(const std::function<bool()>& condition);
     bool waitForTitle(const QString& end) const; // of the active window
     bool waitForEnd(int status);
+    bool waitForBox() const; // a window of the program's before its main one
+    bool waitForNoBox() const;
 
     void press(const QString& keys) const;
     void type(const QString& text) const;
     // With the left button from one place of the main window to another.
     void drag(const QPoint& from, const QPoint& to) const;
 
-    // Types a name into the dialog of this title and waits until the dialog is gone.
+    // Away from the user, so many steps.
+    void turnWheelWithCtrl(const QPoint& place, int steps) const;
+
+    // Types a name into the dialog of this title and waits until the dialog is gone. Without a
+    // name, takes the one that it proposes.
     bool answerDialog(const QString& title, const QString& name) const;
 
     void moveWindow(const QPoint& place) const;

@@ -37,8 +37,8 @@ TEST(SketchpadSession, PlaysItsOwnScript)
     Host host;
     const SessionResult result = host.play(readFile(SESSION_SCRIPT));
     EXPECT_EQ(result.status, 0) << result.out << result.err;
-    EXPECT_THAT(result.out, HasSubstr("Discard the changes? [yes]"));
-    EXPECT_THAT(result.out, HasSubstr("Replace it? [no]"));
+    EXPECT_THAT(result.out, HasSubstr("Save them? [discard]"));
+    EXPECT_THAT(result.out, HasSubstr("Keep that file as it is? [yes]"));
     EXPECT_EQ(host.file("session.sketch"), host.file("session-by-dialog.sketch"));
     EXPECT_THAT(host.file("session.pdf"), StartsWith("%PDF-"));
     EXPECT_THAT(host.file("session.pdf"), EndsWith("%%EOF\n"));
@@ -62,7 +62,7 @@ TEST(SketchpadDocument, IsWhatWasDrawn)
     const SessionResult result = host.play(std::string(kSquare) + "save a.sketch\n");
     EXPECT_EQ(result.status, 0) << result.err;
     EXPECT_EQ(host.file("a.sketch"), kSquareFile);
-    EXPECT_THAT(result.out, HasSubstr("/work/a.sketch (status "));
+    EXPECT_THAT(result.out, HasSubstr("line: Saved " + host.work().string() + "/a.sketch\n"));
 }
 
 TEST(SketchpadDocument, KeepsTextOfEveryScript)
@@ -79,10 +79,10 @@ TEST(SketchpadDocument, IsReplacedOnlyWhenItsUserSaysSo)
 {
     Host host;
     host.writeFile("a.sketch", "former");
-    std::string script = std::string(kSquare) + "answer no\nsave a\nsave b\n";
+    std::string script = std::string(kSquare) + "answer yes\nsave a\nsave b\n";
     EXPECT_EQ(host.play(script).status, 0);
     EXPECT_EQ(host.file("a.sketch"), "former");
-    script = std::string(kSquare) + "answer yes\nsave a\n";
+    script = std::string(kSquare) + "answer no\nsave a\n";
     EXPECT_EQ(host.play(script).status, 0);
     EXPECT_EQ(host.file("a.sketch"), kSquareFile);
 }
@@ -91,7 +91,7 @@ TEST(SketchpadDocument, IsNotDiscardedWithoutAnAnswer)
 {
     Host host;
     const SessionResult result = host.play(std::string(kSquare) + "menu new\nexpect shapes 1\n" +
-                                           "answer yes\nmenu new\nexpect shapes 0\n");
+                                           "answer discard\nmenu new\nexpect shapes 0\n");
     EXPECT_EQ(result.status, 1);
     EXPECT_THAT(result.err, HasSubstr("no answer was ready for this box"));
     EXPECT_THAT(result.err, Not(HasSubstr("expect")));

@@ -6,6 +6,9 @@
 
 #include <gmock/gmock.h>
 
+#include <algorithm>
+#include <cstdio>
+
 using ktqtbase::test::readFile;
 using testing::HasSubstr;
 using testing::StartsWith;
@@ -54,7 +57,7 @@ TEST(SketchpadWindow, AsksBeforeItDiscardsAndReopensThroughTheDialog)
     EXPECT_TRUE(person.waitForTitle("mine.sketch* - Sketchpad"));
     person.press("ctrl+o");
     EXPECT_TRUE(person.answerDialog("Open a drawing", "mine.sketch"));
-    person.press("alt+y");
+    person.press("alt+d");
     EXPECT_TRUE(person.waitForTitle("mine.sketch - Sketchpad"));
     person.press("ctrl+shift+s");
     EXPECT_TRUE(person.answerDialog("Save the drawing", "again"));
@@ -67,7 +70,7 @@ TEST(SketchpadWindow, PrintsThroughTheDialogAndEndsWithItsSettingsStored)
     const Host host;
     Person person(host);
     drawAndSave(person);
-    person.press("ctrl+p");
+    person.press("ctrl+shift+p");
     EXPECT_TRUE(person.answerDialog("Print to a PDF file", "mine"));
     ASSERT_TRUE(appears(host.work() / "mine.pdf"));
     EXPECT_THAT(host.file("mine.pdf"), StartsWith("%PDF-"));
@@ -92,7 +95,7 @@ TEST(SketchpadWindow, TakesNoInputWhileADialogRuns)
         << Person::activeTitle().toStdString();
 }
 
-TEST(SketchpadWindow, KeepsTheDrawingWhenItsUserDoesNotDiscardIt)
+TEST(SketchpadWindow, KeepsTheDrawingWhenItsUserCancels)
 {
     const Host host;
     Person person(host);
@@ -100,13 +103,94 @@ TEST(SketchpadWindow, KeepsTheDrawingWhenItsUserDoesNotDiscardIt)
     person.drag({100, 150}, {250, 230});
     EXPECT_TRUE(person.waitForTitle("New drawing* - Sketchpad"));
     person.press("ctrl+q");
-    EXPECT_TRUE(Person::waitFor([] { return !Person::activeTitle().endsWith("Sketchpad"); }));
-    person.press("alt+n");
-    EXPECT_TRUE(person.waitForTitle("New drawing* - Sketchpad"));
+    EXPECT_TRUE(person.waitForBox());
+    person.press("Escape");
+    EXPECT_TRUE(person.waitForNoBox());
     person.press("ctrl+q");
-    EXPECT_TRUE(Person::waitFor([] { return !Person::activeTitle().endsWith("Sketchpad"); }));
-    person.press("alt+y");
+    EXPECT_TRUE(person.waitForBox());
+    person.press("alt+d");
     EXPECT_TRUE(person.waitForEnd(0));
+}
+
+TEST(SketchpadWindow, SavesWhenItsUserOnlyPressesReturn)
+{
+    const Host host;
+    Person person(host);
+    drawAndSave(person);
+    const std::string former = host.file("mine.sketch");
+    person.press("ctrl+4");
+    person.drag({300, 300}, {400, 400});
+    EXPECT_TRUE(person.waitForTitle("mine.sketch* - Sketchpad"));
+    person.press("ctrl+q");
+    EXPECT_TRUE(person.waitForBox());
+    person.press("Return");
+    EXPECT_TRUE(person.waitForEnd(0));
+    EXPECT_NE(host.file("mine.sketch"), former);
+}
+
+TEST(SketchpadWindow, ProposesANameToSaveUnder)
+{
+    const Host host;
+    const Person person(host);
+    person.press("ctrl+4");
+    person.drag({100, 150}, {250, 230});
+    person.press("ctrl+s");
+    EXPECT_TRUE(person.answerDialog("Save the drawing", ""));
+    EXPECT_TRUE(person.waitForTitle("New drawing.sketch - Sketchpad"));
+    EXPECT_TRUE(appears(host.work() / "New drawing.sketch"));
+}
+
+TEST(SketchpadWindow, ZoomsWithCtrlAndTheWheel)
+{
+    const Host host;
+    const Person person(host);
+    person.press("ctrl+4");
+    person.turnWheelWithCtrl({300, 250}, 1);
+    person.drag({200, 150}, {325, 275});
+    person.press("ctrl+s");
+    EXPECT_TRUE(person.answerDialog("Save the drawing", "zoomed"));
+    ASSERT_TRUE(appears(host.work() / "zoomed.sketch"));
+    int left = 0;
+    int top = 0;
+    int right = 0;
+    const std::string shape = host.file("zoomed.sketch").substr(12);
+    ASSERT_EQ(std::sscanf(shape.c_str(), "polygon 0 3 000000 none 4 %d,%d %d", &left, &top, &right),
+              3);
+    EXPECT_EQ(right - left, 100);
+}
+
+TEST(SketchpadWindow, DrawsMovesAndDeletesWithoutAMouse)
+{
+    const Host host;
+    const Person person(host);
+    person.press("ctrl+4");
+    person.press("Insert");
+    person.press("Right");
+    person.press("shift+Down");
+    person.press("Insert");
+    person.press("Tab");
+    person.press("Tab");
+    person.press("Delete");
+    person.press("ctrl+s");
+    EXPECT_TRUE(person.answerDialog("Save the drawing", "keys"));
+    ASSERT_TRUE(appears(host.work() / "keys.sketch"));
+    EXPECT_EQ(host.file("keys.sketch"),
+              "SKETCHPAD 1\npolygon 0 3 000000 none 4 327,216 427,216 427,276 327,276\n");
+}
+
+TEST(SketchpadWindow, CopiesCutsAndPastes)
+{
+    const Host host;
+    const Person person(host);
+    person.press("ctrl+4");
+    person.drag({100, 150}, {250, 230});
+    for (const char* keys : {"ctrl+a", "ctrl+x", "ctrl+v", "ctrl+v", "ctrl+z", "ctrl+y"})
+        person.press(keys);
+    person.press("ctrl+s");
+    EXPECT_TRUE(person.answerDialog("Save the drawing", "pasted"));
+    ASSERT_TRUE(appears(host.work() / "pasted.sketch"));
+    const std::string file = host.file("pasted.sketch");
+    EXPECT_EQ(std::count(file.begin(), file.end(), '\n'), 3);
 }
 
 TEST(SketchpadWindow, ComesBackWhereItWas)

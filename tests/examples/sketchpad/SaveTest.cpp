@@ -1,0 +1,182 @@
+// SPDX-License-Identifier: MIT
+//
+// What was drawn is never lost: full disks, killed programs, files of other people.
+#include "Host.h"
+
+#include <gmock/gmock.h>
+
+#include <unistd.h>
+
+using ktqtbase::test::readFile;
+using testing::EndsWith;
+using testing::HasSubstr;
+using testing::Not;
+using testing::StartsWith;
+
+namespace fs = std::filesystem;
+
+namespace {
+
+const std::string kDraw = "tool rectangle\ndrag 60,60 160,160\n";
+const std::string kSquareFile =
+    "SKETCHPAD 1\npolygon 0 3 000000 none 4 60,60 160,60 160,160 60,160\n";
+
+// More than a kibibyte of drawing.
+std::string drawMuch()
+{
+    std::string script = "tool freehand\ndrag";
+    for (int i = 0; i < 300; ++i)
+        script += " 1" + std::to_string(i % 90 + 10) + ",200";
+    return script + "\n";
+}
+
+int filesIn(const fs::path& folder)
+{
+    return static_cast<int>(std::distance(fs::directory_iterator(folder), {}));
+}
+
+} // namespace
+
+TEST(SketchpadSave, KeepsTheFilesPermissions)
+{
+    Host host;
+    host.writeFile("a.sketch", "SKETCHPAD 1\n");
+    const fs::path file = host.work() / "a.sketch";
+    fs::permissions(file, fs::perms::owner_read | fs::perms::owner_write);
+    ASSERT_EQ(host.play("open a.sketch\n" + kDraw + "save\n").status, 0);
+    EXPECT_EQ(readFile(file), kSquareFile);
+    EXPECT_EQ(fs::status(file).permissions(), fs::perms::owner_read | fs::perms::owner_write);
+}
+
+TEST(SketchpadSave, FollowsASymbolicLink)
+{
+    Host host;
+    fs::create_directory(host.work() / "far");
+    host.writeFile("far/real.sketch", "SKETCHPAD 1\n");
+    fs::create_symlink("far/real.sketch", host.work() / "a.sketch");
+    ASSERT_EQ(host.play("open a.sketch\n" + kDraw + "save\n").status, 0);
+    EXPECT_TRUE(fs::is_symlink(host.work() / "a.sketch"));
+    EXPECT_EQ(host.file("far/real.sketch"), kSquareFile);
+}
+
+TEST(SketchpadSave, OnAFullDiskSaysSoAndLeavesTheFormerFile)
+{
+    Host host;
+    ASSERT_EQ(host.play(kDraw + "save a\n").status, 0);
+    const SessionResult result = host.playWithLimit(
+        1, "open a.sketch\n" + drawMuch() + "answer ok\nsave\nanswer discard\nmenu new\n");
+    EXPECT_EQ(result.status, 0) << result.out << result.err;
+    EXPECT_THAT(result.out, HasSubstr("cannot be saved: the file would be too large. [ok]"));
+    EXPECT_EQ(host.file("a.sketch"), kSquareFile);
+    EXPECT_EQ(filesIn(host.work()), 2) << "the script and the drawing";
+}
+
+TEST(SketchpadPrint, OnAFullDiskSaysSoAndLeavesTheFormerFile)
+{
+    Host host;
+    host.writeFile("a.pdf", "the former one");
+    const SessionResult result = host.playWithLimit(
+        1, kDraw + "answer no\nanswer ok\nprint a.pdf\nanswer discard\nmenu new\n");
+    EXPECT_EQ(result.status, 0) << result.out << result.err;
+    EXPECT_THAT(result.out, HasSubstr("cannot be printed to: the file would be too large. [ok]"));
+    EXPECT_THAT(result.out, Not(HasSubstr("Printed to")));
+    EXPECT_EQ(host.file("a.pdf"), "the former one");
+    EXPECT_EQ(filesIn(host.work()), 2) << "the script and the former file";
+}
+
+TEST(SketchpadPrint, WritesAWholeFile)
+{
+    Host host;
+    ASSERT_EQ(host.play(kDraw + "print a\nanswer discard\nmenu new\n").status, 0);
+    EXPECT_THAT(host.file("a.pdf"), StartsWith("%PDF-"));
+    EXPECT_THAT(host.file("a.pdf"), EndsWith("%%EOF\n"));
+}
+
+// Asked when the program ends, too.
+TEST(SketchpadClose, SavesDiscardsOrStays)
+{
+    Host host;
+    ASSERT_EQ(host.play(kDraw + "save a\n").status, 0);
+    ASSERT_EQ(host.play("open a.sketch\nkey delete\n" + kDraw + "answer save\n").status, 0);
+    EXPECT_THAT(host.file("a.sketch"), StartsWith(kSquareFile));
+    const std::string saved = host.file("a.sketch");
+    EXPECT_NE(saved, kSquareFile);
+    ASSERT_EQ(host.play("open a.sketch\n" + kDraw + "answer discard\n").status, 0);
+    EXPECT_EQ(host.file("a.sketch"), saved);
+    const SessionResult stays = host.play("open a.sketch\n" + kDraw + "answer cancel\n");
+    EXPECT_EQ(stays.status, 1);
+    EXPECT_THAT(stays.err, HasSubstr("the window did not close"));
+}
+
+TEST(SketchpadClose, StaysWhereSavingFails)
+{
+    Host host;
+    ASSERT_EQ(host.play(kDraw + "save a\n").status, 0);
+    const SessionResult result =
+        host.playWithLimit(1, "open a.sketch\n" + drawMuch() +
+                                  "answer save\nanswer ok\nmenu new\nexpect shapes 2\n"
+                                  "answer discard\nmenu new\n");
+    EXPECT_EQ(result.status, 0) << result.out << result.err;
+}
+
+TEST(SketchpadAutosave, OutlivesAKilledProgramAndIsOfferedAtTheNextStart)
+{
+    Host host;
+    ASSERT_EQ(host.play(kDraw + "save a\n").status, 0);
+    ASSERT_EQ(host.play("open a.sketch\n" + drawMuch() + "autosave\ndie\n").status, 3);
+    EXPECT_EQ(host.file("a.sketch"), kSquareFile);
+    const SessionResult result =
+        host.play("answer yes\nrecover\nexpect shapes 2\nsave\nmenu new\n");
+    EXPECT_EQ(result.status, 0) << result.out << result.err;
+    EXPECT_THAT(result.out, HasSubstr("Go on with the drawing as it was? [yes]"));
+    EXPECT_NE(host.file("a.sketch"), kSquareFile);
+    EXPECT_EQ(filesIn(host.work()), 2) << "the script and the drawing";
+    EXPECT_EQ(host.play("recover\nexpect shapes 0\n").status, 0);
+}
+
+TEST(SketchpadAutosave, IsOfferedWhenItsDrawingIsOpened)
+{
+    Host host;
+    ASSERT_EQ(host.play(kDraw + "save a\n").status, 0);
+    ASSERT_EQ(host.play("open a.sketch\n" + drawMuch() + "autosave\ndie\n").status, 3);
+    const SessionResult result =
+        host.play("answer no\nopen a.sketch\nexpect shapes 1\nopen a.sketch\n");
+    EXPECT_EQ(result.status, 0) << result.out << result.err;
+    EXPECT_EQ(filesIn(host.work()), 2) << "the script and the drawing";
+}
+
+TEST(SketchpadAutosave, OfADrawingWithoutANameLiesInTheProgramsOwnFolder)
+{
+    Host host;
+    ASSERT_EQ(host.play(kDraw + "autosave\ndie\n").status, 3);
+    EXPECT_EQ(readFile(host.data() / "untitled.autosave"), kSquareFile);
+    const SessionResult result =
+        host.play("answer yes\nrecover\nexpect shapes 1\nanswer discard\nmenu new\n");
+    EXPECT_EQ(result.status, 0) << result.out << result.err;
+    EXPECT_EQ(filesIn(host.data()), 0);
+}
+
+TEST(SketchpadAutosave, IsNotWrittenWithoutAChangeAndGoesWithTheProgram)
+{
+    Host host;
+    ASSERT_EQ(host.play("autosave\n").status, 0);
+    EXPECT_FALSE(fs::exists(host.data() / "untitled.autosave"));
+    ASSERT_EQ(host.play(kDraw + "autosave\nanswer discard\nmenu new\n").status, 0);
+    EXPECT_EQ(filesIn(host.data()), 0);
+}
+
+TEST(SketchpadAutosave, OfAProgramThatStillRunsIsLeftAlone)
+{
+    Host host;
+    host.writeFile("other.script", kDraw + "autosave\n");
+    ASSERT_EQ(host.play(kDraw + "autosave\ndie\n").status, 3);
+    // The lock of a process that lives: this one's.
+    const fs::path lock = host.data() / "untitled.autosave.lock";
+    std::string content = readFile(lock);
+    content.replace(0, content.find('\n'), std::to_string(getpid()));
+    const std::size_t name = content.find('\n') + 1;
+    content.replace(name, content.find('\n', name) - name, TEST_PROGRAM);
+    ktqtbase::test::writeFile(lock, content);
+    EXPECT_EQ(host.play("recover\nexpect shapes 0\n").status, 0);
+    EXPECT_TRUE(fs::exists(host.data() / "untitled.autosave"));
+}
