@@ -3,23 +3,39 @@
 #define NAMEINFO_ARGUMENTS_H
 
 #include "NameReport.h"
-#include "NameSource.h"
 
-#include <optional>
+#include <stdexcept>
 #include <string>
 #include <vector>
+
+enum class Form
+{
+    Table,
+    WideTable,
+    Json,
+    Csv
+};
 
 // The arguments of the command line.
 struct Arguments
 {
-    NameSource source;
+    std::vector<std::string> names; // any bytes
+    std::vector<std::string> lists;
     Questions questions;
-    std::vector<std::string> columns; // the headings to show; empty for all
-    bool json = false;
-    bool hasNames = false;
+    std::vector<std::string> columns; // the headings to show
+    Form form = Form::Table;
+    bool help = false;
+    bool version = false;
 };
 
-// Result: none if the command line is not understood, or has neither a name nor a list.
-std::optional<Arguments> readArguments(int count, char** values);
+// A command line that is not understood; the text says why.
+class ArgumentError : public std::runtime_error
+{
+public:
+    using std::runtime_error::runtime_error;
+};
+
+// Throws an ArgumentError.
+Arguments readArguments(int count, char** values);
 
 #endif

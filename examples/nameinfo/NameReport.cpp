@@ -3,9 +3,13 @@
 
 #include <KtQtBase/PathName.h>
 
+#include <algorithm>
+
 namespace {
 
 using Answer = std::optional<std::wstring>;
+
+constexpr const char* kParts[] = {"work string", "prefix", "base name", "file name"};
 
 const wchar_t* categoryName(path_category category)
 {
@@ -156,11 +160,30 @@ Row describe(const std::wstring& text, const Questions& questions)
     return row;
 }
 
-const Cell* findCell(const Row& row, const std::string& heading)
+Row pick(const Row& row, const std::vector<std::string>& columns)
 {
-    for (const Cell& cell : row) {
-        if (cell.heading == heading)
-            return &cell;
-    }
-    return nullptr;
+    Row picked;
+    for (const std::string& heading : columns)
+        picked.push_back(*std::find_if(row.begin(), row.end(), [&heading](const Cell& cell) {
+            return cell.heading == heading;
+        }));
+    return picked;
+}
+
+std::vector<std::string> headingsFor(const Questions& questions)
+{
+    std::vector<std::string> headings;
+    for (const Cell& cell : describe(std::wstring(), questions))
+        headings.emplace_back(cell.heading);
+    return headings;
+}
+
+std::vector<std::string> tableHeadingsFor(const Questions& questions)
+{
+    std::vector<std::string> headings = headingsFor(questions);
+    const auto isPart = [](const std::string& heading) {
+        return std::count(std::begin(kParts), std::end(kParts), heading) > 0;
+    };
+    headings.erase(std::remove_if(headings.begin(), headings.end(), isPart), headings.end());
+    return headings;
 }

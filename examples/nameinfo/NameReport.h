@@ -30,7 +30,13 @@ struct Questions
 // What the library makes of a name, as one row.
 Row describe(const std::wstring& text, const Questions& questions);
 
-// Result: the cell of a heading, or null.
-const Cell* findCell(const Row& row, const std::string& heading);
+// The cells of a row in these columns, all of which it has.
+Row pick(const Row& row, const std::vector<std::string>& columns);
+
+// The headings of what describe answers.
+std::vector<std::string> headingsFor(const Questions& questions);
+
+// The same without those that show parts of others, which leave little room in a table.
+std::vector<std::string> tableHeadingsFor(const Questions& questions);
 
 #endif

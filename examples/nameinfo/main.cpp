@@ -2,32 +2,23 @@
 //
 // Shows how the library parses file names of a Windows program.
 #include "Arguments.h"
+#include "Complaints.h"
+#include "Help.h"
+#include "NameSource.h"
 #include "ReportPrinter.h"
 
 #include <KtQtBase/PathName.h>
 #include <KtQtBase/VolumeDescriptor.h>
 
 #include <clocale>
-#include <iostream>
+#include <system_error>
 
 namespace {
 
-const char* const kUsage =
-    "Usage: nameinfo [OPTION...] [--] NAME...\n"
-    "       nameinfo [OPTION...] --list FILE    a name a line; - is standard input\n"
-    "\n"
-    "  --json              print JSON instead of a table\n"
-    "  --columns A,B,...   print these columns only\n"
-    "Each of these adds a column:\n"
-    "  --parent            the folder that holds the name\n"
-    "  --extension LIST    the name with an extension of a list such as \"txt;docx\"\n"
-    "  --width N           the name cut to N characters for display; -1 for all of it\n"
-    "  --match OTHER       whether the name denotes the same path as OTHER\n"
-    "  --unique            the name, or where it is taken a free one beside it\n"
-    "  --status            the sum of 1 exists, 2 readable, 4 writable, 8 folder writable\n"
-    "  --validate          whether an NTFS volume takes the name\n";
-
+constexpr int kUnwritable = 1;
 constexpr int kBadInput = 2;
+
+constexpr int kWideName = 30; // for names that nobody has seen yet, which may be longer
 
 // The library converts names with LC_CTYPE; plain UTF-8 has different names on macOS and Linux.
 void useUtf8()
@@ -46,15 +37,96 @@ void setUpNames()
     ktuiSetCurrentDirPrefix();
 }
 
-Row answersFor(const std::wstring& name, const Arguments& arguments)
+// One run over the names that are given.
+class Run
 {
-    const Row row = describe(name, arguments.questions);
-    if (arguments.columns.empty())
-        return row;
-    Row picked;
-    for (const std::string& heading : arguments.columns)
-        picked.push_back(*findCell(row, heading));
-    return picked;
+public:
+    explicit Run(const Arguments& arguments)
+        : m_arguments(arguments), m_source(arguments.names, arguments.lists)
+    {}
+
+    // Result: the exit status.
+    int answer()
+    {
+        const std::unique_ptr<ReportPrinter> printer = makePrinter();
+        startAnswers();
+        Complaints complaints(m_output, m_progress);
+        m_source.read([&](const std::wstring& name) { printer->print(rowFor(name)); },
+                      [&](const std::string& error) { complaints.add(error); });
+        printer->end();
+        m_output.close();
+        return complaints.isEmpty() ? 0 : kBadInput;
+    }
+
+private:
+    Row rowFor(const std::wstring& name)
+    {
+        m_progress.next();
+        return pick(describe(name, m_arguments.questions), m_arguments.columns);
+    }
+
+    // Answers on a terminal show by themselves how far they are.
+    void startAnswers()
+    {
+        m_progress.start("answered");
+        if (m_output.isTerminal())
+            m_progress.stop();
+    }
+
+    std::unique_ptr<ReportPrinter> makePrinter()
+    {
+        switch (m_arguments.form) {
+        case Form::Json:
+            return jsonArray(m_output);
+        case Form::Csv:
+            return csvLines(m_output, m_arguments.columns);
+        case Form::WideTable:
+            return wideTable(m_output, m_arguments.columns, widths(kWideName));
+        case Form::Table:
+            break;
+        }
+        return makeShortTable(m_output.width());
+    }
+
+    std::unique_ptr<ReportPrinter> makeShortTable(int room)
+    {
+        const Columns& columns = m_arguments.columns;
+        const std::optional<Widths> fitting = fitted(widths(room), columns, room);
+        return fitting ? shortTable(m_output, columns, *fitting) : blocks(m_output, columns, room);
+    }
+
+    // The widths that the columns need, or such as do where the names can be had only once.
+    Widths widths(int nameWidth)
+    {
+        if (!m_source.canBeReadTwice())
+            return assumedWidths(m_arguments.columns, nameWidth);
+        Widths measured = headingWidths(m_arguments.columns);
+        m_progress.start("measured");
+        m_source.readAhead([&](const std::wstring& name) { widen(measured, rowFor(name)); });
+        return measured;
+    }
+
+    const Arguments& m_arguments;
+    NameSource m_source;
+    Output m_output;
+    Progress m_progress;
+};
+
+int print(std::string_view text)
+{
+    Output output;
+    output.write(text);
+    output.close();
+    return 0;
+}
+
+int runFor(const Arguments& arguments)
+{
+    if (arguments.help)
+        return print(kHelp);
+    if (arguments.version)
+        return print("nameinfo " NAMEINFO_VERSION "\n");
+    return Run(arguments).answer();
 }
 
 } // namespace
@@ -63,18 +135,15 @@ int main(int argc, char** argv)
 {
     useUtf8();
     setUpNames();
-    const std::optional<Arguments> arguments = readArguments(argc, argv);
-    if (!arguments) {
-        std::cerr << kUsage;
-        return kBadInput;
+    try {
+        return runFor(readArguments(argc, argv));
+    } catch (const ArgumentError& error) {
+        complain(std::string(error.what()) + "; see nameinfo --help");
+    } catch (const std::system_error& error) {
+        // Whoever read the output has seen enough.
+        if (error.code() != std::errc::broken_pipe)
+            complain(error.what());
+        return kUnwritable;
     }
-
-    std::vector<Row> rows;
-    for (const std::wstring& name : arguments->source.names)
-        rows.push_back(answersFor(name, *arguments));
-    (arguments->json ? printJson : printTable)(std::cout, rows);
-
-    for (const std::string& error : arguments->source.errors)
-        std::cerr << "nameinfo: " << error << '\n';
-    return arguments->source.errors.empty() ? 0 : kBadInput;
+    return kBadInput;
 }

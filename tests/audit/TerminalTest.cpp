@@ -1,56 +1,18 @@
 // SPDX-License-Identifier: MIT
+#include "support/Terminal.h"
 #include "AuditRun.h"
 
 #include <gmock/gmock.h>
 
 #include <QtCore/QProcessEnvironment>
 
-#include <cstdlib>
 #include <sstream>
-
-#include <fcntl.h>
-#include <sys/ioctl.h>
-#include <unistd.h>
 
 using namespace ktqtbase::test;
 using testing::HasSubstr;
 using testing::Not;
 
 namespace {
-
-// A terminal that a program may write some 4,000 characters to.
-class Terminal
-{
-public:
-    explicit Terminal(unsigned short width) : m_file(posix_openpt(O_RDWR | O_NOCTTY | O_CLOEXEC))
-    {
-        grantpt(m_file);
-        unlockpt(m_file);
-        const winsize size = {24, width, 0, 0};
-        ioctl(m_file, TIOCSWINSZ, &size);
-        m_kept = open(name(), O_RDWR | O_NOCTTY | O_CLOEXEC);
-    }
-    Terminal(const Terminal&) = delete;
-    Terminal& operator=(const Terminal&) = delete;
-    ~Terminal()
-    {
-        close(m_kept);
-        close(m_file);
-    }
-
-    const char* name() const { return ptsname(m_file); }
-
-    std::string text() const
-    {
-        char buffer[8192];
-        const ssize_t count = read(m_file, buffer, sizeof buffer);
-        return std::string(buffer, static_cast<std::size_t>(count > 0 ? count : 0));
-    }
-
-private:
-    int m_file;
-    int m_kept = -1; // what was written is gone when nobody has the terminal open
-};
 
 // What a terminal shows of a small report.
 std::string shownOn(const Terminal& terminal, const QString& variable, const QString& value)
