@@ -18,12 +18,13 @@ package_manager() {
     echo none
 }
 
-# The packages of one group (build, test, tools, check, bench, qt5, qt6, clang, libcxx or arm64) under
-# a package manager's names.
+# The packages of one group (build, test, tools, check, pictures, bench, qt5, qt6, clang, libcxx or
+# arm64) under a package manager's names.
 named_packages() {
     case "$1:$2" in
         # The fonts are those of the examples' pictures.
-        apt:build) echo build-essential cmake ninja-build pkg-config fonts-dejavu-core ;;
+        apt:build) echo build-essential cmake ninja-build pkg-config fonts-dejavu-core \
+            fonts-dejavu-extra ;;
         brew:build) echo cmake ninja pkg-config ;;
         dnf:build) echo gcc-c++ cmake ninja-build pkgconf-pkg-config dejavu-sans-fonts ;;
         pacman:build) echo gcc cmake ninja pkgconf ttf-dejavu ;;
@@ -63,6 +64,8 @@ named_packages() {
         # that of clang-tidy, since each version finds something new.
         apt:check) echo git clang clang-format-14 clang-tidy-14 libgnustep-gui-dev python3 reuse \
             unixodbc-dev ;;
+        # The terminal and the browser of pictures in docs/.
+        apt:pictures) echo xterm chromium ;;
         apt:bench) echo libbenchmark-dev libboost-filesystem-dev libglib2.0-dev libinih-dev \
             libsimpleini-dev python3 ;;
         brew:bench) echo google-benchmark boost glib inih simpleini python3 ;;
