@@ -216,13 +216,18 @@ check() {
     fi
 }
 
+# Each picture has a home of its own: Qt's file dialog remembers where it was.
+furnish() {
+    rm -rf "${work:?}"/*
+    mkdir "$work/files" "$work/home"
+    chmod 700 "$work/home"
+    choose_fonts
+}
+
 lay_out() {
     build=$(cd "$1" && pwd)
     work=$(mktemp -d)
     trap 'rm -rf "$work"' EXIT
-    mkdir -p "$work/files" "$work/home"
-    chmod 700 "$work/home"
-    choose_fonts
 }
 
 are_known() {
@@ -240,8 +245,8 @@ main() {
     [ $# -gt 0 ] || usage
     are_known "${@:2}"
     lay_out "$1"
-    # shellcheck disable=SC2086 # the names are words
-    for name in ${*:2:$#}; do
+    for name in "${@:2}"; do
+        furnish
         renew "$name"
     done
 }
@@ -257,6 +262,7 @@ case "${1:-}" in
         [ $# -eq 3 ] || usage
         are_known "$3"
         lay_out "$2"
+        furnish
         check "$3"
         ;;
     *)

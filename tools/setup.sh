@@ -132,7 +132,7 @@ install_packages() {
 
 # The command that installs packages, for the user to copy.
 install_command() {
-    local manager=$1 sudo= architecture=
+    local manager=$1 sudo='' architecture=''
     shift
     if [ "$(id -u)" -ne 0 ] && command -v sudo >/dev/null; then
         sudo="sudo "

@@ -201,6 +201,16 @@ AuditsNothingWithoutAFile() {
     expect "The exit status" "$status" 2
 }
 
+MakesThePicturesThatAreNamed() {
+    lay_out_debian
+    recorded pictures.sh
+    mv "$work/bin/pictures.sh" "$work/project/tools"
+    play ./run pictures gallery nameinfo
+    expect_end "" "cmake --preset release
+cmake --build --preset release --parallel 2 --target examples/all ktqt-audit picture-tool
+pictures.sh build/release gallery nameinfo" 0
+}
+
 # The build folder holds no programs, which is where this run ends.
 InstallsTheOtherArchitecture() {
     lay_out_debian
