@@ -4,7 +4,7 @@
 # Qt 5: another system has other fonts.
 #
 #     tools/pictures.sh BUILD_DIR [NAME...]     makes docs/NAME.png; without a name all of them
-#     tools/pictures.sh --check BUILD_DIR NAME  exit status 1 if docs/NAME.png is stale
+#     tools/pictures.sh --check BUILD_DIR NAME  says whether docs/NAME.png is stale, and fails then
 #
 # What a terminal or a browser shows depends on their versions, so of these pictures the text behind
 # them is compared: docs/pictures.txt has its hash.
@@ -199,17 +199,17 @@ allowed_pixels() {
 }
 
 is_current() {
-    text "$1" >"$work/text"
     if [ -s "$work/text" ]; then
         grep -qxF "$1 $(hash_of "$work/text")" "$project/docs/pictures.txt"
     else
-        make "$1" "$work/now.png"
         platform=offscreen alone "$build/tests/pictures/picture-tool" compare \
             "$project/docs/$1.png" "$work/now.png" "$(allowed_pixels "$1")"
     fi
 }
 
 check() {
+    text "$1" >"$work/text"
+    [ -s "$work/text" ] || make "$1" "$work/now.png"
     if ! is_current "$1"; then
         echo "docs/$1.png is stale; ./run pictures $1 makes it anew" >&2
         exit 1

@@ -50,7 +50,7 @@ QImage screenAtRest()
     QImage last = screen();
     while (timer.elapsed() < kPatience) {
         QThread::msleep(kRest);
-        const QImage now = screen();
+        QImage now = screen();
         if (now == last && !windows(now).isEmpty())
             return now;
         last = now;

@@ -4,6 +4,7 @@
 #
 #     tests/pictures/check-staleness.sh BUILD_DIR
 set -euo pipefail
+export QT_QPA_PLATFORM=offscreen
 project=$(cd "$(dirname "$0")/../.." && pwd)
 work=$(mktemp -d)
 trap 'rm -r "$work"' EXIT

@@ -33,7 +33,7 @@ export DISPLAY
 export DBUS_SESSION_BUS_ADDRESS=disabled:
 export QT_XCB_GL_INTEGRATION=none
 
-openbox --startup "sh -c 'echo ready >$work/managed'" >>"$work/log" 2>&1 &
+openbox --startup "sh -c 'echo ready >\"$work/managed\"'" >>"$work/log" 2>&1 &
 started+=($!)
 await "$work/managed" openbox
 
