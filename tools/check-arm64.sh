@@ -10,7 +10,7 @@ if [ $# -ne 1 ]; then
     exit 2
 fi
 starts_programs=(
-    "ChildProcess.IsKilledAtItsEnd" "ExecutablePath.*" "FirstSteps.*" "Gallery.*" "Nameinfo.*"
+    "ChildProcess.IsKilledAtItsEnd" "ExecutablePath.*" "FirstSteps.*" "Gallery*" "Nameinfo.*"
     "ParseElsewhere.*" "Pdf.*" "Sketchpad*" "Unload.*"
 )
 

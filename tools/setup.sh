@@ -18,28 +18,34 @@ package_manager() {
     echo none
 }
 
-# The packages of one group (build, tools, check, bench, qt5, qt6, clang, libcxx or arm64) under a
-# package manager's names.
+# The packages of one group (build, test, tools, check, pictures, bench, qt5, qt6, clang, libcxx or
+# arm64) under a package manager's names.
 named_packages() {
     case "$1:$2" in
+        # The fonts are those of the examples' pictures.
+        apt:build) echo build-essential cmake ninja-build pkg-config fonts-dejavu-core \
+            fonts-dejavu-extra ;;
+        brew:build) echo cmake ninja pkg-config ;;
+        dnf:build) echo gcc-c++ cmake ninja-build pkgconf-pkg-config dejavu-sans-fonts ;;
+        pacman:build) echo gcc cmake ninja pkgconf ttf-dejavu ;;
+        zypper:build) echo gcc-c++ cmake ninja pkg-config dejavu-fonts ;;
         # poppler-utils reads printed pages, Python the headers; the packages after them show the
         # tests' windows on an invisible display.
-        apt:build) echo build-essential cmake ninja-build pkg-config libgtest-dev libgmock-dev \
-            poppler-utils python3 xvfb xauth openbox xdotool fonts-dejavu-core ;;
-        brew:build) echo cmake ninja pkg-config googletest poppler python3 ;;
-        dnf:build) echo gcc-c++ cmake ninja-build pkgconf-pkg-config gtest-devel gmock-devel \
-            poppler-utils python3 xorg-x11-server-Xvfb openbox xdotool dejavu-sans-fonts ;;
-        pacman:build) echo gcc cmake ninja pkgconf gtest poppler python xorg-server-xvfb \
-            xorg-xauth openbox xdotool ttf-dejavu ;;
-        zypper:build) echo gcc-c++ cmake ninja pkg-config gtest gmock poppler-tools python3 \
-            xorg-x11-server-Xvfb xauth openbox xdotool dejavu-fonts ;;
-        # Everything behind LLVM and Clang makes the programs that the tests of ktqt-audit read.
-        apt:tools) echo llvm-14-dev libclang-14-dev llvm-14 clang-14 lld-14 \
+        apt:test) echo libgtest-dev libgmock-dev poppler-utils python3 xvfb xauth openbox xdotool ;;
+        brew:test) echo googletest poppler python3 ;;
+        dnf:test) echo gtest-devel gmock-devel poppler-utils python3 xorg-x11-server-Xvfb openbox \
+            xdotool ;;
+        pacman:test) echo gtest poppler python xorg-server-xvfb xorg-xauth openbox xdotool ;;
+        zypper:test) echo gtest gmock poppler-tools python3 xorg-x11-server-Xvfb xauth openbox \
+            xdotool ;;
+        # ktqt-trace is made by Python. Everything behind LLVM and Clang makes the programs that the
+        # tests of ktqt-audit read.
+        apt:tools) echo python3 llvm-14-dev libclang-14-dev llvm-14 clang-14 lld-14 \
             g++-mingw-w64-x86-64 ;;
-        brew:tools) echo llvm ;;
-        dnf:tools) echo llvm-devel clang-devel ;;
-        pacman:tools) echo llvm clang ;;
-        zypper:tools) echo llvm-devel clang-devel ;;
+        brew:tools) echo python3 llvm ;;
+        dnf:tools) echo python3 llvm-devel clang-devel ;;
+        pacman:tools) echo python llvm clang ;;
+        zypper:tools) echo python3 llvm-devel clang-devel ;;
         apt:qt5) echo qtbase5-dev ;;
         brew:qt5) echo qt@5 ;;
         dnf:qt5) echo qt5-qtbase-devel ;;
@@ -58,6 +64,8 @@ named_packages() {
         # that of clang-tidy, since each version finds something new.
         apt:check) echo git clang clang-format-14 clang-tidy-14 libgnustep-gui-dev python3 reuse \
             unixodbc-dev ;;
+        # The terminal and the browser of pictures in docs/.
+        apt:pictures) echo xterm chromium ;;
         apt:bench) echo libbenchmark-dev libboost-filesystem-dev libglib2.0-dev libinih-dev \
             libsimpleini-dev python3 ;;
         brew:bench) echo google-benchmark boost glib inih simpleini python3 ;;
@@ -68,12 +76,16 @@ qt_group() {
     echo "qt${KTQTBASE_QT_MAJOR:-5}"
 }
 
-# The packages of one group; to build takes Qt, too.
+# The packages of groups; to build takes Qt, too.
 packages() {
-    named_packages "$1" "$2"
-    if [ "$2" = build ]; then
-        named_packages "$1" "$(qt_group)"
-    fi
+    local manager=$1 group
+    shift
+    for group in "$@"; do
+        named_packages "$manager" "$group"
+        if [ "$group" = build ]; then
+            named_packages "$manager" "$(qt_group)"
+        fi
+    done
 }
 
 is_installed() {
@@ -120,7 +132,7 @@ install_packages() {
 
 # The command that installs packages, for the user to copy.
 install_command() {
-    local manager=$1 sudo= architecture=
+    local manager=$1 sudo='' architecture=''
     shift
     if [ "$(id -u)" -ne 0 ] && command -v sudo >/dev/null; then
         sudo="sudo "
@@ -192,15 +204,15 @@ find_homebrew_package() {
     export PKG_CONFIG_PATH="$prefix/lib/pkgconfig${PKG_CONFIG_PATH:+:$PKG_CONFIG_PATH}"
 }
 
-# Sees to the packages of one group that are not installed yet. The build group has Qt 5, or Qt 6
-# where KTQTBASE_QT_MAJOR is 6.
+# Sees to the packages of groups that are not installed yet. The build group has Qt 5, or Qt 6 where
+# KTQTBASE_QT_MAJOR is 6.
 setup() {
     local manager names package missing=()
     manager=$(package_manager)
-    names=$(packages "$manager" "$1")
+    names=$(packages "$manager" "$@")
     if [ -z "$names" ]; then
         manager=none
-        names=$(packages apt "$1")
+        names=$(packages apt "$@")
     fi
     for package in $names; do
         is_installed "$manager" "$package" || missing+=("$package")

@@ -91,9 +91,13 @@ void rotateClip(KtQtPainterWrapper& painter)
 Cells clipCells()
 {
     return {
-        {L"setClipRect", clipToRect},      {L"IntersectClip", clipToIntersection},
-        {L"setClipRegion", clipToSquares}, {L"region of a star", clipToStar},
-        {L"region removed", removeClip},   {L"rotated clip", rotateClip},
-        {L"Rotate", rotateAround},         {L"save, restore", saveAndRestore},
+        {L"ReplaceClip", L"setClipRect(rect, mode)", clipToRect},
+        {L"IntersectClip", L"setClipRect(rect, mode)", clipToIntersection},
+        {L"two squares", L"setClipRegion(points)", clipToSquares},
+        {L"a star", L"setClipRegion(points)", clipToStar},
+        {L"region removed", L"setClipRegion(nullptr)", removeClip},
+        {L"clip, rotated", L"Rotate, setClipRect", rotateClip},
+        {L"30 degrees, 12 times", L"Rotate(angle, x, y)", rotateAround},
+        {L"pen saved, then back", L"save(), restore()", saveAndRestore},
     };
 }

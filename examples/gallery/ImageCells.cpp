@@ -10,6 +10,12 @@ namespace {
 
 constexpr QImage::Format kFormat = QImage::Format_ARGB32_Premultiplied;
 
+// An image of a cell has as many pixels as the cell has there, or it would be blurred.
+double ratioOf(const KtQtPainterWrapper& painter)
+{
+    return painter.wrappedDevice()->devicePixelRatioF();
+}
+
 // Rows of opaque 0xAARRGGBB pixels.
 std::vector<unsigned int> rainbow(int width, int height)
 {
@@ -38,8 +44,11 @@ void drawScaled(KtQtPainterWrapper& painter)
 
 void drawDoubleBuffer(KtQtPainterWrapper& painter)
 {
+    const double ratio = ratioOf(painter);
     KtGrQtDoubleBufferImage buffer(nullptr);
-    buffer.createImages(kCellWidth, kCellHeight, 4);
+    buffer.createImages(int(kCellWidth * ratio), int(kCellHeight * ratio), 4);
+    buffer.memImage()->setDevicePixelRatio(ratio);
+    buffer.frontImage()->setDevicePixelRatio(ratio);
     buffer.memPainter()->beginDraw();
     buffer.memPainter()->drawAlphaRect(CRect(8, 8, 70, 46), 0x000080FF, 255);
     buffer.memPainter()->drawAlphaRect(CRect(40, 24, 104, 64), 0x00808000, 255);
@@ -54,7 +63,9 @@ void drawDoubleBuffer(KtQtPainterWrapper& painter)
 template<int mode>
 void drawComposition(KtQtPainterWrapper& painter)
 {
-    QImage image(kCellWidth, kCellHeight, kFormat);
+    const double ratio = ratioOf(painter);
+    QImage image(QSize(kCellWidth, kCellHeight) * ratio, kFormat);
+    image.setDevicePixelRatio(ratio);
     image.fill(mode < QPainter::RasterOp_SourceOrDestination ? Qt::transparent : Qt::white);
     QPainterPath left;
     left.addEllipse(8, 4, 62, 62);
@@ -77,21 +88,23 @@ void drawComposition(KtQtPainterWrapper& painter)
 Cells imageCells()
 {
     return {
-        {L"drawImage(bits)", drawRaw},
-        {L"drawImage, larger", drawScaled<4, 4, 104, 64>},
-        {L"drawImage, stretched", drawScaled<4, 24, 104, 20>},
-        {L"double buffer", drawDoubleBuffer},
-        {L"SourceOver", drawComposition<QPainter::CompositionMode_SourceOver>},
-        {L"DestinationOver", drawComposition<QPainter::CompositionMode_DestinationOver>},
-        {L"SourceAtop", drawComposition<QPainter::CompositionMode_SourceAtop>},
-        {L"Xor", drawComposition<QPainter::CompositionMode_Xor>},
-        {L"Plus", drawComposition<QPainter::CompositionMode_Plus>},
-        {L"Multiply", drawComposition<QPainter::CompositionMode_Multiply>},
-        {L"Screen", drawComposition<QPainter::CompositionMode_Screen>},
-        {L"Darken", drawComposition<QPainter::CompositionMode_Darken>},
-        {L"Difference", drawComposition<QPainter::CompositionMode_Difference>},
-        {L"Exclusion", drawComposition<QPainter::CompositionMode_Exclusion>},
-        {L"SourceXorDestination", drawComposition<QPainter::RasterOp_SourceXorDestination>},
-        {L"NotSource", drawComposition<QPainter::RasterOp_NotSource>},
+        {L"pixels in place", L"drawImage(bits)", drawRaw},
+        {L"larger", L"drawImage(rect, image)", drawScaled<4, 4, 104, 64>},
+        {L"stretched", L"drawImage(rect, image)", drawScaled<4, 24, 104, 20>},
+        {L"double buffer", L"repairFrontBuffer()", drawDoubleBuffer},
+        {L"SourceOver", L"setROP2(mode)", drawComposition<QPainter::CompositionMode_SourceOver>},
+        {L"DestinationOver", L"setROP2(mode)",
+         drawComposition<QPainter::CompositionMode_DestinationOver>},
+        {L"SourceAtop", L"setROP2(mode)", drawComposition<QPainter::CompositionMode_SourceAtop>},
+        {L"Xor", L"setROP2(mode)", drawComposition<QPainter::CompositionMode_Xor>},
+        {L"Plus", L"setROP2(mode)", drawComposition<QPainter::CompositionMode_Plus>},
+        {L"Multiply", L"setROP2(mode)", drawComposition<QPainter::CompositionMode_Multiply>},
+        {L"Screen", L"setROP2(mode)", drawComposition<QPainter::CompositionMode_Screen>},
+        {L"Darken", L"setROP2(mode)", drawComposition<QPainter::CompositionMode_Darken>},
+        {L"Difference", L"setROP2(mode)", drawComposition<QPainter::CompositionMode_Difference>},
+        {L"Exclusion", L"setROP2(mode)", drawComposition<QPainter::CompositionMode_Exclusion>},
+        {L"SourceXorDestination", L"setROP2(mode)",
+         drawComposition<QPainter::RasterOp_SourceXorDestination>},
+        {L"NotSource", L"setROP2(mode)", drawComposition<QPainter::RasterOp_NotSource>},
     };
 }

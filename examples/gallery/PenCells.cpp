@@ -3,13 +3,17 @@
 
 namespace {
 
-// A bent line in a pen, wide enough that its pattern can be seen.
+// Long lines of three widths: a pattern repeats several times on each, so that it can be told.
 template<int style>
 void drawStyle(KtQtPainterWrapper& painter)
 {
-    const POINT line[] = {{6, 60}, {40, 12}, {70, 56}, {106, 14}};
-    painter.setPen(style, 2, 0x00A04000);
-    painter.drawPolyline(line, 4);
+    POINT line[] = {{8, 14}, {kWideCell - 8, 14}};
+    for (int width : {1, 2, 6}) {
+        painter.setPen(style, width, 0x00A04000);
+        painter.drawPolyline(line, 2);
+        line[0].y += 21;
+        line[1].y += 21;
+    }
 }
 
 template<int width>
@@ -30,7 +34,7 @@ void drawNullPen(KtQtPainterWrapper& painter)
 
 void drawPenColor(KtQtPainterWrapper& painter)
 {
-    POINT line[] = {{8, 12}, {104, 12}};
+    POINT line[] = {{8, 12}, {kWideCell - 8, 12}};
     painter.setPen(PS_DOT, 4, 0);
     for (unsigned int color : {0x000000FFu, 0x0000C000u, 0x00FF0000u, 0x0000A0FFu}) {
         painter.setPenColor(color);
@@ -49,29 +53,33 @@ void drawQtPen(KtQtPainterWrapper& painter)
 
 } // namespace
 
-Cells penCells()
+Cells penStyleCells()
 {
     return {
-        {L"PS_SOLID", drawStyle<PS_SOLID>},
-        {L"PS_DASH", drawStyle<PS_DASH>},
-        {L"PS_DOT", drawStyle<PS_DOT>},
-        {L"PS_DASHDOT", drawStyle<PS_DASHDOT>},
-        {L"PS_DASHDOTDOT", drawStyle<PS_DASHDOTDOT>},
-        {L"PS_NULL", drawNullPen},
-        {L"PS_INSIDEFRAME", drawStyle<PS_INSIDEFRAME>},
-        {L"PS_USERSTYLE", drawStyle<PS_USERSTYLE>},
-        {L"width 0", drawWidth<0>},
-        {L"width 1", drawWidth<1>},
-        {L"width 4", drawWidth<4>},
-        {L"width 10", drawWidth<10>},
-        {L"width 20", drawWidth<20>},
-        {L"setPenColor", drawPenColor},
-        {L"setPen(QPen)", drawQtPen},
-        {L"PS_DASH, width 6",
-         [](KtQtPainterWrapper& painter) {
-             const POINT line[] = {{4, 36}, {108, 36}};
-             painter.setPen(PS_DASH, 6, 0x00C00060);
-             painter.drawPolyline(line, 2);
-         }},
+        {L"PS_SOLID, widths 1, 2 and 6", L"setPen(PS_SOLID, width, colour)", drawStyle<PS_SOLID>},
+        {L"PS_DASH, widths 1, 2 and 6", L"setPen(PS_DASH, width, colour)", drawStyle<PS_DASH>},
+        {L"PS_DOT, widths 1, 2 and 6", L"setPen(PS_DOT, width, colour)", drawStyle<PS_DOT>},
+        {L"PS_DASHDOT, widths 1, 2 and 6", L"setPen(PS_DASHDOT, width, colour)",
+         drawStyle<PS_DASHDOT>},
+        {L"PS_DASHDOTDOT, widths 1, 2 and 6", L"setPen(PS_DASHDOTDOT, width, colour)",
+         drawStyle<PS_DASHDOTDOT>},
+        {L"PS_INSIDEFRAME, widths 1, 2 and 6", L"setPen(PS_INSIDEFRAME, width, colour)",
+         drawStyle<PS_INSIDEFRAME>},
+        {L"PS_USERSTYLE, widths 1, 2 and 6", L"setPen(PS_USERSTYLE, width, colour)",
+         drawStyle<PS_USERSTYLE>},
+        {L"PS_DOT in four colours", L"setPenColor(colour)", drawPenColor},
+    };
+}
+
+Cells penWidthCells()
+{
+    return {
+        {L"width 0", L"setPen(style, 0, colour)", drawWidth<0>},
+        {L"width 1", L"setPen(style, 1, colour)", drawWidth<1>},
+        {L"width 4", L"setPen(style, 4, colour)", drawWidth<4>},
+        {L"width 10", L"setPen(style, 10, ...)", drawWidth<10>},
+        {L"width 20", L"setPen(style, 20, ...)", drawWidth<20>},
+        {L"round ends", L"setPen(QPen)", drawQtPen},
+        {L"PS_NULL", L"setPen(PS_NULL, ...)", drawNullPen},
     };
 }

@@ -78,24 +78,25 @@ void drawOwnPath(KtQtPainterWrapper& painter)
 Cells shapeCells()
 {
     return {
-        {L"drawPoint", drawPoints},
-        {L"drawPolyline", [](KtQtPainterWrapper& painter) { painter.drawPolyline(kZigzag, 4); }},
-        {L"drawPolygon",
+        {L"points, pen width 5", L"drawPoint(x, y)", drawPoints},
+        {L"open line", L"drawPolyline(points)",
+         [](KtQtPainterWrapper& painter) { painter.drawPolyline(kZigzag, 4); }},
+        {L"closed figure", L"drawPolygon(points)",
          [](KtQtPainterWrapper& painter) {
              painter.setBrush(0x0040C0FFu);
              painter.drawPolygon(kStar, 5);
          }},
-        {L"fillRect", fillRects},
-        {L"drawAlphaRect", drawAlphaRects},
-        {L"alpha 40", drawAlpha<40>},
-        {L"alpha 200", drawAlpha<200>},
-        {L"corners exchanged",
+        {L"named colours", L"fillRect(rect, colour)", fillRects},
+        {L"alpha 128, twice", L"drawAlphaRect(alpha)", drawAlphaRects},
+        {L"alpha 40", L"drawAlphaRect(alpha)", drawAlpha<40>},
+        {L"alpha 200", L"drawAlphaRect(alpha)", drawAlpha<200>},
+        {L"corners exchanged", L"drawAlphaRect(alpha)",
          [](KtQtPainterWrapper& painter) {
              painter.drawAlphaRect(CRect(92, 60, 20, 12), 0x00C000C0, 90);
          }},
-        {L"fillPath", drawFilledPath},
-        {L"strokePath", drawStrokedPath},
-        {L"strokeAndFillPath", drawWholePath},
-        {L"setPainterPath", drawOwnPath},
+        {L"path, filled", L"fillPath(path)", drawFilledPath},
+        {L"path, stroked", L"strokePath(path)", drawStrokedPath},
+        {L"path, both", L"strokeAndFillPath(path)", drawWholePath},
+        {L"the host's own path", L"setPainterPath(path)", drawOwnPath},
     };
 }

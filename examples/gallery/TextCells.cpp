@@ -84,18 +84,18 @@ void drawOpaque(KtQtPainterWrapper& painter)
 Cells textCells()
 {
     return {
-        {L"FW_NORMAL", drawWeight<FW_NORMAL>},
-        {L"FW_BOLD", drawWeight<FW_BOLD>},
-        {L"lfItalic", drawItalic},
-        {L"FIXED_PITCH", drawFixedPitch},
-        {L"lfHeight below 0", drawNegativeHeight},
-        {L"above U+FFFF", drawBeyondThePlane},
-        {L"by length, by NUL", drawLength},
-        {L"OPAQUE", drawOpaque},
-        {L"12 pixels", drawHeight<12>},
-        {L"18 pixels", drawHeight<18>},
-        {L"28 pixels", drawHeight<28>},
-        {L"Rotate",
+        {L"FW_NORMAL", L"setFontIndirect(font)", drawWeight<FW_NORMAL>},
+        {L"FW_BOLD", L"setFontIndirect(font)", drawWeight<FW_BOLD>},
+        {L"lfItalic", L"setFontIndirect(font)", drawItalic},
+        {L"FIXED_PITCH", L"setFontIndirect(font)", drawFixedPitch},
+        {L"lfHeight below 0", L"setFontIndirect(font)", drawNegativeHeight},
+        {L"above U+FFFF", L"drawText(x, y, text)", drawBeyondThePlane},
+        {L"by length, by NUL", L"drawText(..., length)", drawLength},
+        {L"OPAQUE text", L"setBkMode(mode)", drawOpaque},
+        {L"12 pixels", L"setFontIndirect(font)", drawHeight<12>},
+        {L"18 pixels", L"setFontIndirect(font)", drawHeight<18>},
+        {L"28 pixels", L"setFontIndirect(font)", drawHeight<28>},
+        {L"text, rotated", L"Rotate(angle, x, y)",
          [](KtQtPainterWrapper& painter) {
              const LOGFONTW font = record(painter, 18, L"DejaVu Sans");
              painter.setFontIndirect(&font);

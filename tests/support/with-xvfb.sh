@@ -22,8 +22,9 @@ await() {
     exit 1
 }
 
-# The server picks a free display by itself and writes its number when it is ready.
-Xvfb -displayfd 3 -screen 0 1024x768x24 -nolisten tcp 3>"$work/display" 2>>"$work/log" &
+# The server picks a free display by itself and writes its number when it is ready. Its background is
+# white, since the frames of windows are black.
+Xvfb -displayfd 3 -screen 0 1024x768x24 -wr -nolisten tcp 3>"$work/display" 2>>"$work/log" &
 started+=($!)
 await "$work/display" Xvfb
 DISPLAY=:$(cat "$work/display")
@@ -32,7 +33,7 @@ export DISPLAY
 export DBUS_SESSION_BUS_ADDRESS=disabled:
 export QT_XCB_GL_INTEGRATION=none
 
-openbox --startup "sh -c 'echo ready >$work/managed'" >>"$work/log" 2>&1 &
+openbox --startup "sh -c 'echo ready >\"$work/managed\"'" >>"$work/log" 2>&1 &
 started+=($!)
 await "$work/managed" openbox
 

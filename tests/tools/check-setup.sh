@@ -3,7 +3,7 @@
 # Checks what ./run does on a machine that is not like this one. Besides a few tools, every command
 # there is a fake one; those that would change something, or build, write down how they were called.
 #
-#     tests/tools/check-setup.sh CASE      CASE is one of the functions with a capital
+#     tests/tools/check-setup.sh CASE [BUILD_DIR]    CASE is one of the functions with a capital
 # shellcheck disable=SC2016 # the fake commands expand it
 set -euo pipefail
 project=$(cd "$(dirname "$0")/../.." && pwd)
@@ -40,7 +40,7 @@ lay_out_machine() {
     mkdir "$work/bin" "$work/project" "$work/project/tools"
     cp "$project/run" "$work/project"
     cp "$project/tools/setup.sh" "$work/project/tools"
-    for tool in bash cat chmod dirname env grep ls mkdir rm; do
+    for tool in bash cat chmod dirname env grep mkdir od rm; do
         ln -s "$(type -P "$tool")" "$work/bin/$tool"
     done
     for tool in c++ ninja pkg-config; do
@@ -95,8 +95,8 @@ InstallsWhatRootLacks() {
     fake id "echo 0"
     lacks xdotool qtbase5-dev
     play ./run test
-    expect_end "Installing: xdotool qtbase5-dev" "apt-get update
-apt-get install -y --no-install-recommends xdotool qtbase5-dev
+    expect_end "Installing: qtbase5-dev xdotool" "apt-get update
+apt-get install -y --no-install-recommends qtbase5-dev xdotool
 $built" 0
 }
 
@@ -127,7 +127,7 @@ TellsWhatRootHasToInstall() {
     fake tty
     lacks xdotool qtbase5-dev
     play ./run test
-    expect_end "$(apt_message "" "xdotool qtbase5-dev")" "" 1
+    expect_end "$(apt_message "" "qtbase5-dev xdotool")" "" 1
 }
 
 TellsWhatSudoHasToInstallWithoutATerminal() {
@@ -201,6 +201,16 @@ AuditsNothingWithoutAFile() {
     expect "The exit status" "$status" 2
 }
 
+MakesThePicturesThatAreNamed() {
+    lay_out_debian
+    recorded pictures.sh
+    mv "$work/bin/pictures.sh" "$work/project/tools"
+    play ./run pictures gallery nameinfo
+    expect_end "" "cmake --preset release
+cmake --build --preset release --parallel 2 --target examples/all ktqt-audit picture-tool
+pictures.sh build/release gallery nameinfo" 0
+}
+
 # The build folder holds no programs, which is where this run ends.
 InstallsTheOtherArchitecture() {
     lay_out_debian
@@ -240,7 +250,7 @@ NamesFedorasPackages() {
     lay_out_distribution dnf
     lacks gcc-c++ gmock-devel qt5-qtbase-devel
     play ./run test
-    expect_end "$(message "sudo dnf install gcc-c++ gmock-devel qt5-qtbase-devel")" "$built" 0
+    expect_end "$(message "sudo dnf install gcc-c++ qt5-qtbase-devel gmock-devel")" "$built" 0
     lacks qt5-qtbase-devel qt6-qtbase-devel
     play ./run test qt6
     expect_end "$(message "sudo dnf install qt6-qtbase-devel")" "${built//release/qt6}" 0
@@ -251,7 +261,7 @@ NamesOpenSusesPackages() {
     recorded dnf
     lacks gmock libqt5-qtbase-devel
     play ./run test
-    expect_end "$(message "sudo zypper install gmock libqt5-qtbase-devel")" "$built" 0
+    expect_end "$(message "sudo zypper install libqt5-qtbase-devel gmock")" "$built" 0
     lacks libqt5-qtbase-devel qt6-base-devel
     play ./run test qt6
     expect_end "$(message "sudo zypper install qt6-base-devel")" "${built//release/qt6}" 0
@@ -262,7 +272,7 @@ NamesArchsPackages() {
     fake pacman '[ "$1" = -T ] && ! grep -qxF "$2" "$lacking"'
     lacks gtest qt5-base
     play ./run test
-    expect_end "$(message "sudo pacman -S --needed gtest qt5-base")" "$built" 0
+    expect_end "$(message "sudo pacman -S --needed qt5-base gtest")" "$built" 0
     lacks qt5-base qt6-base
     play ./run test qt6
     expect_end "$(message "sudo pacman -S --needed qt6-base")" "${built//release/qt6}" 0
@@ -319,7 +329,7 @@ the names"
 NamesDebiansPackagesToUnknownSystems() {
     lay_out_machine
     play KTQTBASE_QT_MAJOR=6 ./run test
-    expect_names_of_debian "build-essential cmake .* qt6-base-dev" "$built"
+    expect_names_of_debian "build-essential cmake .* qt6-base-dev libgtest-dev .*" "$built"
 }
 
 NamesDebiansPackagesForTheBenchmarks() {
@@ -367,28 +377,39 @@ GoesOnWithoutHomebrew() {
     without brew
     recorded cmake
     play ./run test
-    expect_names_of_debian "build-essential cmake .* qtbase5-dev" "$built"
+    expect_names_of_debian "build-essential cmake .* qtbase5-dev libgtest-dev .*" "$built"
 }
 
 # The display
 
+# A fake program of the demo that leaves a file: PROGRAM FILE COMMANDS
+fake_example() {
+    local folder=$work/project/build/examples/examples/$1
+    mkdir -p "$folder"
+    recorded "$1" "cat ../../picture >$2
+${3:-}"
+    mv "$work/bin/$1" "$folder/$1"
+}
+
+# The first bytes of a PNG of 640 by 480 pixels are all that is read of the pictures.
 lay_out_demo() {
-    local examples="$work/project/build/release/examples"
+    local nameinfo=$work/project/build/examples/examples/nameinfo
     lay_out_debian
     fake timeout 'shift
 "$@"'
     fake cmake
-    mkdir -p "$examples/nameinfo" "$examples/gallery" "$examples/sketchpad"
-    recorded sketchpad ': >session.png
-echo "platform: ${QT_QPA_PLATFORM:-from Qt}, key: $XAUTHORITY" >>"$calls"'
-    mv "$work/bin/sketchpad" "$examples/sketchpad"
-    cp "$work/bin/cmake" "$examples/nameinfo/nameinfo"
-    cp "$work/bin/cmake" "$examples/gallery/gallery"
+    mkdir -p "$nameinfo"
+    printf '\211PNG\r\n\032\n\0\0\0\rIHDR\0\0\002\200\0\0\001\340' >"$work/project/picture"
+    cp "$work/bin/cmake" "$nameinfo/nameinfo"
+    fake_example gallery gallery.png
+    fake_example sketchpad session.png \
+        'echo "platform: ${QT_QPA_PLATFORM:-from Qt}, key: $XAUTHORITY" >>"$calls"'
 }
 
 # What a session on the platform calls; the key is in the home of the user, not of the program.
 session() {
-    echo "sketchpad --script ../../examples/sketchpad/session.script
+    echo "gallery --png gallery.png
+sketchpad --script ../../examples/sketchpad/session.script
 platform: $1, key: ${2:-$work/home/.Xauthority}"
 }
 
@@ -442,6 +463,64 @@ OpensAWindowOnADisplayThatAnswers() {
 platform: from Qt, key: $work/home/.Xauthority" 0
 }
 
+SetsNothingUpThatOnlyTestsNeed() {
+    lay_out_demo
+    recorded cmake
+    lacks libgtest-dev libgmock-dev poppler-utils python3 xvfb xauth openbox xdotool
+    play ./run demo
+    expect "What was called first" "$(head -n 2 "$work/calls")" "cmake --preset release\
+ -B build/examples -DKTQTBASE_BUILD_TESTS=OFF -DKTQTBASE_BUILD_TOOLS=OFF
+cmake --build build/examples --parallel 2 --target examples/all"
+    expect "The exit status" "$status" 0
+}
+
+ShowsPicturesByPathAndSize() {
+    lay_out_demo
+    play ./run demo
+    grep -qxF "    build/demo/gallery.png, 640 by 480 pixels" "$work/output"
+    grep -qxF "    build/demo/session.png, 640 by 480 pixels" "$work/output"
+}
+
+FailsWhereTheSessionFails() {
+    lay_out_demo
+    fake_example sketchpad session.png "exit 3"
+    play ./run demo
+    expect "The exit status" "$status" 3
+}
+
+# The examples themselves, as the build folder has them; all else is fake. A link to a program stands
+# for it where its modules are, too.
+lay_out_real_demo() {
+    lay_out_demo
+    rm -r "$work/project/build"
+    mkdir -p "$work/project/build/examples" "$work/home" "$work/tmp"
+    touch "$work/calls" "$work/output"
+    ln -s "$1/examples" "$work/project/build/examples/examples"
+    cp -r "$project/examples" "$work/project"
+    rm "$work/project/picture"
+}
+
+FitsOnAScreen() {
+    lay_out_real_demo "$1"
+    play ./run demo
+    expect "The exit status" "$status" 0
+    expect "The longest line is too long, which" \
+        "$(LC_ALL=C.UTF-8 awk 'length > 99' "$work/output")" ""
+    expect "Less than 60 lines" "$(($(wc -l <"$work/output") < 60))" 1
+    grep -qE "^    build/demo/gallery.png, [0-9]{4} by [0-9]{4} pixels$" "$work/output"
+    grep -qE "^    build/demo/session.png, [0-9]{3} by [0-9]{3} pixels$" "$work/output"
+}
+
+LeavesNothingOutsideTheBuildFolder() {
+    lay_out_real_demo "$1"
+    (cd "$work" && find . | sort) >"$work.before"
+    play TMPDIR="$work/tmp" ./run demo
+    (cd "$work" && find . -path ./project/build/demo -prune -o -print | sort) >"$work.after"
+    expect "What is there" "$(cat "$work.after")" "$(cat "$work.before")"
+    [ -s "$work/project/build/demo/session.png" ]
+    rm "$work.before" "$work.after"
+}
+
 # Installing
 
 expect_installed() {
@@ -471,4 +550,4 @@ InstallsNothingWithoutAPrefix() {
     expect "The exit status" "$status" 2
 }
 
-"$1"
+"$@"

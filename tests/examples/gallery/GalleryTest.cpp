@@ -1,33 +1,12 @@
 // SPDX-License-Identifier: MIT
-#include "support/RunProgram.h"
+#include "GalleryFixture.h"
 
 #include <QtCore/QFile>
-#include <QtCore/QTemporaryDir>
-#include <QtGui/QImage>
-
-#include <gtest/gtest.h>
-
-#include <algorithm>
 
 namespace {
 
 const QString kPng = QStringLiteral("--png");
 const QString kPdf = QStringLiteral("--pdf");
-
-class Gallery : public ::testing::Test
-{
-protected:
-    QString file(const char* name) { return folder.filePath(QString::fromLatin1(name)); }
-
-    QTemporaryDir folder;
-};
-
-// One line, with the name of what went wrong.
-void expectOneLineAbout(const std::string& message, const QString& name)
-{
-    EXPECT_EQ(std::count(message.begin(), message.end(), '\n'), 1) << message;
-    EXPECT_NE(message.find(name.toStdString()), std::string::npos) << message;
-}
 
 TEST_F(Gallery, WritesAPng)
 {
@@ -95,15 +74,58 @@ TEST_F(Gallery, CannotWriteAFolder)
     expectOneLineAbout(result.err, folder.path());
 }
 
-TEST_F(Gallery, ShowsItsUsageForArgumentsThatItDoesNotKnow)
+struct WrongArguments
 {
-    for (const QStringList& arguments :
-         {QStringList{QStringLiteral("--gif"), file("g")}, QStringList{kPng},
-          QStringList{kPng, QString()}, QStringList{QStringLiteral("picture.png")}}) {
-        const ProgramResult result = runProgram(GALLERY, arguments);
-        EXPECT_EQ(result.status, 2) << arguments.join(QLatin1Char(' ')).toStdString();
-        expectOneLineAbout(result.err, QStringLiteral("Usage: gallery"));
-    }
+    const char* name;
+    QStringList arguments;
+    const char* message;
+};
+
+void PrintTo(const WrongArguments& row, std::ostream* out)
+{
+    *out << row.name;
+}
+
+const WrongArguments kWrong[] = {
+    {"UnknownOption", {"--gif", "g"}, "nknown option 'gif'; see"},
+    {"UnknownLetter", {"-x"}, "nknown option 'x'; see"},
+    {"NoValue", {"--png"}, "'--png'; see"},
+    {"EmptyValue", {"--png", ""}, "--png needs a value"},
+    {"EmptyValueAfterEquals", {"--pdf="}, "--pdf"},
+    {"NoOption", {"picture.png"}, "\"picture.png\" belongs to no option"},
+    {"RatioAlone", {"--ratio", "2"}, "--ratio needs --png"},
+    {"RatioOfAPage", {"--pdf", "p", "--ratio", "2"}, "--ratio needs --png"},
+    {"WithAlone", {"--with", "p"}, "--with needs --compare"},
+    {"DifferenceAlone", {"--difference", "p"}, "--difference needs --compare"},
+    {"CompareAndPng", {"--compare", "p", "--png", "p"}, "--compare writes no sheet"},
+    {"CompareAndPdf", {"--compare", "p", "--pdf", "p"}, "--compare writes no sheet"},
+    {"CompareAndRatio", {"--compare", "p", "--ratio", "2"}, "--compare writes no sheet"},
+};
+
+class GalleryArguments : public Gallery, public ::testing::WithParamInterface<WrongArguments>
+{};
+
+INSTANTIATE_TEST_SUITE_P(Gallery, GalleryArguments, ::testing::ValuesIn(kWrong),
+                         ::testing::PrintToStringParamName());
+
+TEST_P(GalleryArguments, AreRefusedInOneLine)
+{
+    const ProgramResult result = run(GetParam().arguments);
+    EXPECT_EQ(result.status, 2);
+    EXPECT_EQ(result.out, "");
+    expectOneLineAbout(result.err, QString::fromLatin1(GetParam().message));
+    expectOneLineAbout(result.err, QStringLiteral("; see --help"));
+}
+
+TEST_F(Gallery, TellsOfEachOptionWhenAskedForHelp)
+{
+    const ProgramResult result = run({QStringLiteral("--help")});
+    EXPECT_EQ(result.status, 0);
+    EXPECT_EQ(result.err, "");
+    for (const char* const option : {"--png FILE", "--ratio N", "--pdf FILE", "--compare FILE",
+                                     "--with FILE", "--difference FILE", "-h, --help"})
+        EXPECT_NE(result.out.find(option), std::string::npos) << option;
+    EXPECT_EQ(run({QStringLiteral("-h")}).out, result.out);
 }
 
 } // namespace
