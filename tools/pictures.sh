@@ -10,7 +10,9 @@
 # them is compared: docs/pictures.txt has its hash.
 set -euo pipefail
 project=$(cd "$(dirname "$0")/.." && pwd)
-names="gallery sketchpad filedialog nameinfo audit-terminal audit-light audit-dark audit-narrow"
+names="gallery sketchpad sketchpad-dark sketchpad-sharp sketchpad-empty sketchpad-save"
+names+=" sketchpad-keep sketchpad-recover filedialog nameinfo"
+names+=" audit-terminal audit-light audit-dark audit-narrow"
 # Without the columns that hold the program's own folder, which is another one on each machine.
 table="nameinfo --list names.txt --columns 'name,category,type,volume,base name,file name,extension'"
 # shellcheck disable=SC2016 # the terminal shows it
@@ -27,6 +29,7 @@ alone() {
         XDG_CACHE_HOME="$work/home/cache" XDG_RUNTIME_DIR="$work/home" LC_ALL=C.UTF-8 TZ=UTC \
         FONTCONFIG_FILE="$work/fonts.conf" \
         QT_QPA_PLATFORM="${platform:-offscreen}" ${DISPLAY:+DISPLAY="$DISPLAY"} \
+        XDG_DATA_HOME="$work/home/data" QT_SCALE_FACTOR="${QT_SCALE_FACTOR:-1}" \
         DBUS_SESSION_BUS_ADDRESS=disabled: QT_XCB_GL_INTEGRATION=none "$@"
 }
 
@@ -117,13 +120,54 @@ drag() {
     xdotool mousemove --window "$window" "$3" "$4" sleep 0.2 mouseup 1 sleep 0.2
 }
 
+play() {
+    (cd "$work/files" && platform=offscreen alone QT_LOGGING_RULES="*.warning=false" \
+        "$build/examples/sketchpad/sketchpad" --script "$1") >"$work/log" 2>&1
+}
+
+# Opens the drawing of the demo's session: FILE [ARGUMENT...]
 sketchpad_window() {
-    local program=$build/examples/sketchpad/sketchpad
-    (cd "$work/files" && platform=offscreen \
-        quiet alone "$program" --script "$project/examples/sketchpad/session.script")
-    start "session.sketch" alone "$program" session.sketch
+    local file=$1
+    shift
+    play "$project/examples/sketchpad/session.script"
+    start "session.sketch" alone "$build/examples/sketchpad/sketchpad" "$@" session.sketch
     xdotool key ctrl+1
     drag 276 110 471 275
+    grab "$file"
+}
+
+# What the window shows of a script's last line: FILE RATIO [LINE...]
+sketchpad_played() {
+    local file=$1 ratio=$2
+    shift 2
+    printf '%s\n' "$@" "screenshot $file" >"$work/files/script"
+    QT_SCALE_FACTOR=$ratio play script
+}
+
+sketchpad_sharp() {
+    play "$project/examples/sketchpad/session.script"
+    sketchpad_played "$1" 2 "open session.sketch" "tool select" "drag 260,40 300,100 455,205"
+}
+
+# The question that follows some keys in the window with the session's drawing: FILE KEYS...
+sketchpad_question() {
+    local file=$1
+    shift
+    play "$project/examples/sketchpad/session.script"
+    start "session.sketch" alone "$build/examples/sketchpad/sketchpad" session.sketch
+    xdotool key ctrl+4
+    drag 520 380 700 460
+    for keys in "$@"; do
+        xdotool key "$keys" sleep 0.2
+    done
+    sleep 0.5
+    grab "$file"
+}
+
+sketchpad_recover() {
+    printf '%s\n' "tool rectangle" "drag 60,60 160,160" autosave die >"$work/files/script"
+    play script || true
+    start "New drawing" alone "$build/examples/sketchpad/sketchpad"
     grab "$1"
 }
 
@@ -162,6 +206,13 @@ make() {
     case "$1" in
         gallery) alone "$build/examples/gallery/gallery" --png "$2" ;;
         sketchpad) on_display sketchpad_window "$2" ;;
+        sketchpad-dark) on_display sketchpad_window "$2" --dark ;;
+        sketchpad-sharp) sketchpad_sharp "$2" ;;
+        sketchpad-empty) sketchpad_played "$2" 1 ;;
+        sketchpad-save) on_display sketchpad_question "$2" ctrl+q ;;
+        sketchpad-keep) on_display sketchpad_question "$2" ctrl+shift+s Home \
+            shift+End s e s s i o n minus b y minus d i a l o g Return ;;
+        sketchpad-recover) on_display sketchpad_recover "$2" ;;
         filedialog) on_display dialog_window "$2" ;;
         nameinfo) terminal "$2" 100 "$table" 100 ;;
         audit-terminal) terminal "$2" 100 "ktqt-audit notes.exe" 34 ;;
@@ -193,7 +244,7 @@ renew() {
 allowed_pixels() {
     case "$1" in
         gallery) echo 20 ;;
-        sketchpad) echo 500 ;;
+        sketchpad*) echo 500 ;;
         filedialog) echo 2000 ;;
     esac
 }

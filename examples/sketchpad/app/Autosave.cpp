@@ -14,8 +14,7 @@ std::wstring CAutosave::NameFor(const std::wstring& path) const
 {
     if (path.empty())
         return m_shell.GetDataFolder() + L"untitled.autosave";
-    const std::wstring folder = FolderOf(path);
-    return folder + L'.' + path.substr(folder.size()) + L".autosave";
+    return FolderOf(path) + L'.' + FileNameOf(path) + L".autosave";
 }
 
 void CAutosave::Write(const CSketchDoc& document)

@@ -70,8 +70,7 @@ std::wstring CSketchApp::ProposedName(const wchar_t* extension) const
     if (name.Parse((path.empty() ? Text(IDS_UNTITLED) : path).c_str(), false) != 0)
         return std::wstring();
     name.ReplaceExtensionIfNoMatch(extension);
-    const std::wstring full = FullPath(name);
-    return full.substr(FolderOf(full).size());
+    return FileNameOf(FullPath(name));
 }
 
 void CSketchApp::OnFileNew(UINT)
@@ -158,7 +157,7 @@ bool CSketchApp::OpenFile(const std::wstring& name)
     m_autosave.Remove();
     m_view.OnInitialUpdate();
     Remember(name);
-    m_shell.ShowLine(Text(IDS_OPENED, name));
+    m_shell.ShowLine(Text(IDS_OPENED, FileNameOf(name)));
     Recover(name);
     return true;
 }
@@ -225,7 +224,7 @@ bool CSketchApp::WriteDocument(const std::wstring& path)
     m_document.SetSaved();
     m_autosave.Remove();
     Remember(path);
-    m_shell.ShowLine(Text(IDS_SAVED, path));
+    m_shell.ShowLine(Text(IDS_SAVED, FileNameOf(path)));
     return true;
 }
 
@@ -241,7 +240,7 @@ bool CSketchApp::SaveCopy()
         m_shell.Report(Text(IDS_CANNOTSAVE, DisplayName(path, kNameWidth), reason));
         return false;
     }
-    m_shell.ShowLine(Text(IDS_COPIED, copy));
+    m_shell.ShowLine(Text(IDS_COPIED, FileNameOf(copy)));
     return true;
 }
 
@@ -259,7 +258,7 @@ bool CSketchApp::WritePdf(const std::wstring& path)
         m_shell.Report(Text(IDS_CANNOTPRINT, DisplayName(path, kNameWidth), reason));
         return false;
     }
-    m_shell.ShowLine(Text(IDS_PRINTED, path));
+    m_shell.ShowLine(Text(IDS_PRINTED, FileNameOf(path)));
     return true;
 }
 

@@ -13,11 +13,6 @@ namespace {
 constexpr int kLongestSegment = 255;
 constexpr int kMenuWidth = 36;
 
-std::wstring SegmentTyped(const std::wstring& typed)
-{
-    return typed.substr(typed.rfind(L'/') + 1);
-}
-
 // Drawings are also used on Windows machines, so their names must be valid on NTFS.
 bool IsValidSegment(const std::wstring& segment)
 {
@@ -51,6 +46,11 @@ std::wstring FolderOf(const std::wstring& path)
     return path.substr(0, path.rfind(L'/') + 1);
 }
 
+std::wstring FileNameOf(const std::wstring& path)
+{
+    return path.substr(FolderOf(path).size());
+}
+
 std::wstring FullPath(const CRnUiPathname& name)
 {
     CStdStr<wchar_t> path;
@@ -67,7 +67,7 @@ std::wstring BesideExecutable(const wchar_t* name)
 bool TakeSaveName(const std::wstring& typed, const wchar_t* extension, CRnUiPathname& name,
                   bool& added, std::wstring& reason)
 {
-    const std::wstring segment = SegmentTyped(typed);
+    const std::wstring segment = FileNameOf(typed);
     if (segment.empty() || !IsValidSegment(segment)) {
         reason = L"a name must not be empty nor hold any of * : < > ? / \\ | \"";
         return false;

@@ -15,8 +15,9 @@ std::wstring AbsoluteName(const std::wstring& name);
 // Asks std::filesystem, since the type of a parsed name depends on a permission bit.
 bool IsFolder(const std::wstring& path);
 
-// A name's folder with its slash.
+// A name's folder with its slash, and what comes after that.
 std::wstring FolderOf(const std::wstring& path);
+std::wstring FileNameOf(const std::wstring& path);
 
 // The path of a file in the executable's folder.
 std::wstring BesideExecutable(const wchar_t* name);

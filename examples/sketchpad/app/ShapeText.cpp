@@ -19,7 +19,7 @@ bool ReadKind(std::istream& stream, CShape& shape)
 {
     std::string word;
     stream >> word;
-    const auto found = std::find(std::begin(kKinds), std::end(kKinds), word);
+    const auto* const found = std::find(std::begin(kKinds), std::end(kKinds), word);
     shape.kind = static_cast<ShapeKind>(found - std::begin(kKinds));
     return found != std::end(kKinds);
 }

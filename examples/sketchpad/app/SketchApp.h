@@ -26,11 +26,11 @@ public:
     CCommandState OnUpdateCommand(UINT id) const;
 
     // Each reports a failure in a box and leaves the drawing as it was.
-    //   name     in: an absolute name
-    //   asked    in: whether a dialog has already asked about replacing this name
+    //   name, typed    in: an absolute name
+    //   asked          in: whether a dialog has already asked about replacing this name
     bool OpenFile(const std::wstring& name);
-    bool SaveFile(const std::wstring& name, bool asked);
-    bool PrintFile(const std::wstring& name, bool asked);
+    bool SaveFile(const std::wstring& typed, bool asked);
+    bool PrintFile(const std::wstring& typed, bool asked);
     bool SaveCopy();
 
     // Result: whether nothing unsaved is left, or the user discards it.

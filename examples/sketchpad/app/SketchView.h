@@ -89,10 +89,10 @@ private:
     void OnSetTool(WPARAM tool, LPARAM);
     void OnGetCounts(WPARAM, LPARAM counts);
     void OnChanged(WPARAM, LPARAM);
-    void OnHitTest(WPARAM, LPARAM hit);
+    void OnHitTest(WPARAM, LPARAM lParam);
     void OnDragBy(WPARAM, LPARAM offset);
     void OnMoveBy(WPARAM, LPARAM offset);
-    void OnTakeText(WPARAM, LPARAM hit);
+    void OnTakeText(WPARAM, LPARAM lParam);
     void OnEndText(WPARAM, LPARAM hit);
 
     void DrawShape(KtQtPainterWrapper& painter, const CShape& shape, int scale) const;
