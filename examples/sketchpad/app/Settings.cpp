@@ -63,7 +63,6 @@ void WriteWindowPlace(const CRect& place)
     key.SetValue(std::to_wstring(place.top).c_str(), L"Top");
     key.SetValue(std::to_wstring(place.right).c_str(), L"Right");
     key.SetValue(std::to_wstring(place.bottom).c_str(), L"Bottom");
-    key.Close();
 }
 
 std::vector<std::wstring> ReadRecentFiles()
