@@ -117,6 +117,8 @@ void readValues(Arguments& arguments, const QCommandLineParser& parser)
     arguments.failOn = groups(parser, "fail-on");
     for (const QString& path : parser.positionalArguments())
         arguments.paths.push_back(narrow(path));
+    if (!arguments.explain.empty() && arguments.format != Format::Text)
+        throw ArgumentError("--explain has one form only");
     if (arguments.paths.empty() && arguments.explain.empty())
         throw ArgumentError("there is nothing to read");
 }

@@ -3,6 +3,7 @@
 #include "Words.h"
 
 #include <algorithm>
+#include <numeric>
 
 namespace ktqtbase::audit {
 
@@ -93,6 +94,19 @@ std::vector<FamilyRow> familyRows(const Report& report, const Summary& summary)
     return rows;
 }
 
+// The parts of a family's bar. Each is rounded, and none is nothing, so that the largest gives way
+// where all together are too long.
+std::vector<std::size_t> partLengths(const Count& count, std::size_t most, std::size_t length)
+{
+    std::vector<std::size_t> parts;
+    for (const Group group : bestFirst())
+        parts.push_back(share(count.of(group), most, length));
+    while (std::accumulate(parts.begin(), parts.end(), std::size_t()) >
+           std::max(length, parts.size()))
+        --*std::max_element(parts.begin(), parts.end());
+    return parts;
+}
+
 void writeFamily(const FamilyRow& row, std::size_t titleWidth, std::size_t most, const Style& style,
                  llvm::raw_ostream& out)
 {
@@ -103,9 +117,10 @@ void writeFamily(const FamilyRow& row, std::size_t titleWidth, std::size_t most,
     for (const Group group : bestFirst())
         out << number(row.count.of(group), kGroupWidth);
     out << "  ";
-    for (const Group group : bestFirst())
-        out << bar(style, group,
-                   share(row.count.of(group), most, std::min<std::size_t>(room, kBarLength)));
+    const std::vector<std::size_t> parts =
+        partLengths(row.count, most, std::min<std::size_t>(room, kBarLength));
+    for (std::size_t i = 0; i < parts.size(); ++i)
+        out << bar(style, bestFirst()[i], parts[i]);
     out << "\n";
 }
 

@@ -72,8 +72,7 @@ text() {
             ;;
         audit-terminal)
             make_notes
-            # Two columns less than are shown: the parts of a bar are rounded one by one.
-            on_terminal 98 "'$build/audit/ktqt-audit' notes.exe"
+            on_terminal 100 "'$build/audit/ktqt-audit' notes.exe"
             ;;
         audit-*)
             make_notes

@@ -51,6 +51,7 @@ TEST(Audit, RefusesArgumentsThatItDoesNotKnow)
         {{"--fail-on", "inert,", "a.c"}, "--fail-on: there is no group \"\"; see --help"},
         {{"--output", "", "a.c"}, "--output needs a value; see --help"},
         {{"--json", "--csv", "a.c"}, "a report has one form only; see --help"},
+        {{"--explain", "CreateFile", "--json"}, "--explain has one form only; see --help"},
         {{"--family", "nonsense", "a.c"},
          "--family: there is no family \"nonsense\"; there are files, mfc, other, porting, "
          "threads, "

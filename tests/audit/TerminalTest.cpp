@@ -6,6 +6,7 @@
 
 #include <QtCore/QProcessEnvironment>
 
+#include <regex>
 #include <sstream>
 
 using namespace ktqtbase::test;
@@ -15,10 +16,11 @@ using testing::Not;
 namespace {
 
 // What a terminal shows of a small report.
-std::string shownOn(const Terminal& terminal, const QString& variable, const QString& value)
+std::string shownOn(const Terminal& terminal, const QString& variable, const QString& value,
+                    const std::string& source = "CreateFile(a);\n")
 {
     const TemporaryFolder folder;
-    writeFile(folder / "main.cpp", "CreateFile(a);\n");
+    writeFile(folder / "main.cpp", source);
     ChildProcess process;
     QProcessEnvironment environment = QProcessEnvironment::systemEnvironment();
     environment.insert("TERM", "xterm");
@@ -38,6 +40,13 @@ std::size_t longestLine(const std::string& text)
     for (std::string line; std::getline(lines, line);)
         longest = std::max(longest, line.size());
     return longest;
+}
+
+// What a line takes on the terminal, without the return and the colours.
+std::size_t columnsOf(const std::string& line)
+{
+    const std::regex invisible("\\x1b\\[[0-9;]*m|\r");
+    return std::regex_replace(line, invisible, "").size();
 }
 
 } // namespace
@@ -69,4 +78,18 @@ TEST(Audit, WrapsLinesAtTheTerminalsEdge)
     const std::string wide = shownOn(Terminal(120), "NO_COLOR", "1");
     EXPECT_THAT(wide, HasSubstr("On Windows: opens a file. Instead: QFile::open."));
     EXPECT_GT(longestLine(wide), longestLine(narrow));
+}
+
+// Three parts of a bar that are each rounded up.
+TEST(Audit, KeepsTheBarsOfFamiliesWithinTheTerminal)
+{
+    for (unsigned short width = 62; width < 80; ++width) {
+        const std::string shown = shownOn(Terminal(width), "LC_ALL", "C",
+                                          "CreateFile(a); CopyFile(a); GetTempFileName(a);\n");
+        std::istringstream lines(shown.substr(shown.find("Family")));
+        std::string line;
+        std::getline(lines, line);
+        std::getline(lines, line);
+        EXPECT_LE(columnsOf(line), std::size_t(width)) << line;
+    }
 }
