@@ -8,6 +8,8 @@
 
 int main(int argc, char** argv)
 {
+    // Qt 6 brings it in, and what it takes when it is loaded it never frees.
+    dlopen("libgomp.so.1", RTLD_LAZY | RTLD_NODELETE);
     void* const library = argc == 2 ? dlopen(argv[1], RTLD_LAZY) : nullptr;
     if (!library || dlclose(library) != 0) {
         std::fprintf(stderr, "%s\n", dlerror());

@@ -193,6 +193,18 @@ TEST(SketchpadWindow, CopiesCutsAndPastes)
     EXPECT_EQ(std::count(file.begin(), file.end(), '\n'), 3);
 }
 
+// By the keys of the menu alone.
+TEST(SketchpadWindow, ShowsThePageBeforeItIsPrinted)
+{
+    const Host host;
+    const Person person(host);
+    person.press("alt+f");
+    person.press("v");
+    EXPECT_TRUE(person.waitForTitle("Print Preview"));
+    person.press("Escape");
+    EXPECT_TRUE(person.waitForNoBox());
+}
+
 TEST(SketchpadWindow, ComesBackWhereItWas)
 {
     const Host host;
