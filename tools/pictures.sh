@@ -89,9 +89,12 @@ hash_of() {
 
 # ---- The pictures ------------------------------------------------------------------------------
 
-# Runs one of the functions below on a display of its own.
+# Runs one of the functions below on a display of its own, whose window manager has no settings of
+# somebody's either.
 on_display() {
-    "$project/tests/support/with-xvfb.sh" "$0" --shown "$work" "$build" "$@"
+    env -u XDG_CONFIG_DIRS -u XDG_DATA_DIRS HOME="$work/home" XDG_CONFIG_HOME="$work/home/config" \
+        LC_ALL=C.UTF-8 FONTCONFIG_FILE="$work/fonts.conf" \
+        "$project/tests/support/with-xvfb.sh" "$0" --shown "$work" "$build" "$@"
 }
 
 # Takes a picture of the display; the mouse is nowhere above a window.
