@@ -1,54 +1,111 @@
 // SPDX-License-Identifier: MIT
 #include "Autosave.h"
 
+#include "DocFile.h"
 #include "FileNames.h"
 #include "Narrow.h"
 #include "Shell.h"
 #include "SketchDoc.h"
 
+#include <algorithm>
 #include <filesystem>
 
 namespace fs = std::filesystem;
 
-std::wstring CAutosave::NameFor(const std::wstring& path) const
-{
-    if (path.empty())
-        return m_shell.GetDataFolder() + L"untitled.autosave";
-    return FolderOf(path) + L'.' + FileNameOf(path) + L".autosave";
-}
+namespace {
 
-void CAutosave::Write(const CSketchDoc& document)
-{
-    const std::wstring path = NameFor(document.GetPathName());
-    std::wstring ignored;
-    if (!document.IsModified() || (path == m_path && document.GetRevision() == m_revision))
-        return;
-    if (path != m_path)
-        Remove();
-    if (!m_shell.HoldName(path))
-        return;
-    if (document.OnSaveDocument(path, ignored)) {
-        m_path = path;
-        m_revision = document.GetRevision();
-    }
-}
+constexpr int kMostPrograms = 9; // with the same drawing at a time
 
-bool CAutosave::Take(const std::wstring& path)
+bool IsThere(const std::wstring& path)
 {
-    const std::wstring name = NameFor(path);
     std::error_code ignored;
-    const auto bytes = Narrow(name);
-    if (!bytes || !fs::exists(*bytes, ignored) || !m_shell.HoldName(name))
-        return false;
-    m_path = name;
-    return true;
+    const auto name = Narrow(path);
+    return name && fs::exists(*name, ignored);
+}
+
+void RemoveFile(const std::wstring& path)
+{
+    std::error_code ignored;
+    fs::remove(Narrow(path).value_or(std::string()), ignored);
+}
+
+bool IsOlder(const std::wstring& path, const std::wstring& other)
+{
+    std::error_code error;
+    const auto time = fs::last_write_time(Narrow(path).value_or(std::string()), error);
+    const auto otherTime = fs::last_write_time(Narrow(other).value_or(std::string()), error);
+    return !error && time < otherTime;
+}
+
+bool AreSame(const std::vector<CShape>& a, const std::vector<CShape>& b)
+{
+    return std::equal(a.begin(), a.end(), b.begin(), b.end(), IsSame);
+}
+
+} // namespace
+
+// Beside the drawing; of one without a name, in the program's own folder.
+std::wstring CAutosave::NameFor(const std::wstring& path, int number) const
+{
+    const std::wstring end = (number == 1 ? L"" : L'-' + std::to_wstring(number)) + L".autosave";
+    if (path.empty())
+        return m_shell.GetDataFolder() + L"untitled" + end;
+    return FolderOf(path) + L'.' + FileNameOf(path) + end;
+}
+
+// What another program has left behind is never written over.
+bool CAutosave::Claim(const std::wstring& path)
+{
+    for (int number = 1; number <= kMostPrograms; ++number) {
+        const std::wstring name = NameFor(path, number);
+        if (!IsThere(name) && m_shell.HoldName(name)) {
+            m_document = path;
+            m_path = name;
+            return true;
+        }
+    }
+    return false;
+}
+
+void CAutosave::Write(const CSketchDoc& document, const std::vector<CShape>& shapes, bool changed)
+{
+    if (!changed || document.GetPathName() != m_document)
+        Remove();
+    if (!changed || (!m_path.empty() && AreSame(shapes, m_shapes)))
+        return;
+    std::wstring ignored;
+    if (m_path.empty() && !Claim(document.GetPathName()))
+        return;
+    if (WriteSketch(m_path, shapes, CFileMode::Private, ignored))
+        m_shapes = shapes;
+}
+
+std::wstring CAutosave::Take(const std::wstring& path)
+{
+    for (int number = 1; number <= kMostPrograms; ++number) {
+        const std::wstring name = NameFor(path, number);
+        if (!IsThere(name) || !m_shell.HoldName(name))
+            continue;
+        m_document = path;
+        m_path = name;
+        if (path.empty() || !IsOlder(name, path))
+            return name;
+        Remove();
+    }
+    return std::wstring();
 }
 
 void CAutosave::Remove()
 {
-    std::error_code ignored;
     if (!m_path.empty())
-        fs::remove(Narrow(m_path).value_or(std::string()), ignored);
+        RemoveFile(m_path);
+    Leave();
+}
+
+void CAutosave::Leave()
+{
     m_path.clear();
+    m_document.clear();
+    m_shapes.clear();
     m_shell.HoldName(std::wstring());
 }

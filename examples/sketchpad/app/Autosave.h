@@ -5,7 +5,7 @@
 #ifndef SKETCHPAD_AUTOSAVE_H
 #define SKETCHPAD_AUTOSAVE_H
 
-#include <string>
+#include "Shape.h"
 
 class CShell;
 class CSketchDoc;
@@ -15,24 +15,28 @@ class CAutosave
 public:
     explicit CAutosave(CShell& shell) : m_shell(shell) {}
 
-    // The autosave of a drawing; of one without a name, in the program's own folder.
-    std::wstring NameFor(const std::wstring& path) const;
+    // Writes the drawing, unless it is as it was the last time; without changes, removes what was
+    // written. A failure is not reported: it would only come between the user and saving.
+    //   shapes    in: the drawing's, with what is still being typed
+    void Write(const CSketchDoc& document, const std::vector<CShape>& shapes, bool changed);
 
-    // Writes the drawing if it has changed since the last time. A failure is not reported: it would
-    // only come between the user and saving.
-    void Write(const CSketchDoc& document);
+    // Makes an autosave that was left behind this program's. One that is older than its drawing is
+    // removed: it was saved since.
+    // Result: its name; empty if there is none, or other programs that still run work with them.
+    std::wstring Take(const std::wstring& path);
 
-    // Makes an autosave that was left behind this program's.
-    // Result: false if there is none, or another program that still runs works with it.
-    bool Take(const std::wstring& path);
-
-    // Removes the autosave.
+    // Removes the autosave, or leaves it for the next start.
     void Remove();
+    void Leave();
 
 private:
+    std::wstring NameFor(const std::wstring& path, int number) const;
+    bool Claim(const std::wstring& path);
+
     CShell& m_shell;
-    std::wstring m_path; // of the autosave; empty for none
-    long m_revision = 0; // of the drawing in it
+    std::wstring m_document; // whose autosave it is
+    std::wstring m_path;     // of the autosave; empty for none
+    std::vector<CShape> m_shapes;
 };
 
 #endif

@@ -23,6 +23,7 @@ constexpr std::size_t kLongestLine = 2'000'000;
 
 constexpr wchar_t kTooLarge[] = L"it is larger than 8 MB, and no drawing is";
 constexpr wchar_t kTooLong[] = L"longer than 2,000,000 bytes";
+constexpr wchar_t kNul[] = L"it holds a NUL";
 constexpr wchar_t kTooMuch[] = L"a drawing has at most 100,000 shapes, and 8 MB as a file";
 constexpr wchar_t kTooMany[] = L"a drawing has at most 100,000 shapes";
 
@@ -36,12 +37,11 @@ std::wstring NumberedReason(std::size_t line, const std::wstring& what)
 bool ReadLine(std::istream& stream, std::string& line)
 {
     line.clear();
-    std::streambuf& bytes = *stream.rdbuf();
-    int byte = bytes.sbumpc();
-    if (byte == EOF)
+    char byte = 0;
+    if (!stream.get(byte))
         return false;
-    for (; byte != EOF && byte != '\n' && line.size() <= kLongestLine; byte = bytes.sbumpc())
-        line += static_cast<char>(byte);
+    for (; stream && byte != '\n' && line.size() <= kLongestLine; stream.get(byte))
+        line += byte;
     if (!line.empty() && line.back() == '\r')
         line.pop_back();
     return true;
@@ -59,6 +59,8 @@ bool AddShape(const std::string& line, std::vector<CShape>& shapes, std::wstring
     CShape shape;
     if (line.size() > kLongestLine)
         problem = kTooLong;
+    else if (line.find('\0') != line.npos)
+        problem = kNul;
     else if (shapes.size() == kMostShapes)
         problem = kTooMany;
     else if (ShapeFromText(line, shape, problem))
@@ -99,7 +101,9 @@ bool ReadSketch(std::istream& stream, std::vector<CShape>& shapes, std::wstring&
             return false;
         }
     }
-    return true;
+    if (stream.bad())
+        reason = LastErrorReason();
+    return !stream.bad();
 }
 
 bool ReadSketch(const std::wstring& path, std::vector<CShape>& shapes, std::wstring& reason)
@@ -128,14 +132,16 @@ void WriteSketch(std::ostream& stream, const std::vector<CShape>& shapes)
 }
 
 // A drawing that could not be read again is not written.
-bool WriteSketch(const std::wstring& path, const std::vector<CShape>& shapes, std::wstring& reason)
+bool WriteSketch(const std::wstring& path, const std::vector<CShape>& shapes, CFileMode mode,
+                 std::wstring& reason)
 {
     std::ostringstream text;
     WriteSketch(text, shapes);
-    const std::string bytes = text.str();
-    if (bytes.size() > kLargestFile || shapes.size() > kMostShapes) {
+    std::istringstream written(text.str());
+    std::vector<CShape> read;
+    if (text.str().size() > kLargestFile || shapes.size() > kMostShapes) {
         reason = kTooMuch;
         return false;
     }
-    return WriteSafely(path, bytes, reason);
+    return ReadSketch(written, read, reason) && WriteSafely(path, text.str(), mode, reason);
 }

@@ -12,6 +12,7 @@
 #ifndef SKETCHPAD_DOCFILE_H
 #define SKETCHPAD_DOCFILE_H
 
+#include "SafeFile.h"
 #include "Shape.h"
 
 #include <istream>
@@ -22,7 +23,8 @@ bool ReadSketch(const std::wstring& path, std::vector<CShape>& shapes, std::wstr
 bool ReadSketch(std::istream& stream, std::vector<CShape>& shapes, std::wstring& reason);
 
 // If it fails, the former file stays as it was.
-bool WriteSketch(const std::wstring& path, const std::vector<CShape>& shapes, std::wstring& reason);
+bool WriteSketch(const std::wstring& path, const std::vector<CShape>& shapes, CFileMode mode,
+                 std::wstring& reason);
 void WriteSketch(std::ostream& stream, const std::vector<CShape>& shapes);
 
 #endif

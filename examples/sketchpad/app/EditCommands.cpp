@@ -76,8 +76,10 @@ bool CSketchApp::PasteShapes(const std::wstring& text)
         m_shell.Report(Text(IDS_BADPASTE, reason));
         return false;
     }
-    std::transform(shapes.begin(), shapes.end(), shapes.begin(),
-                   [](const CShape& shape) { return MovedBy(shape, kPasteOffset); });
+    std::transform(shapes.begin(), shapes.end(), shapes.begin(), [](const CShape& shape) {
+        const CShape moved = MovedBy(shape, kPasteOffset);
+        return IsAllowed(moved) ? moved : shape;
+    });
     AddAndSelect(IDS_UNDO_PASTE, shapes);
     return true;
 }

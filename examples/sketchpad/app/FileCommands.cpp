@@ -9,8 +9,6 @@
 #include "Texts.h"
 
 #include <KtQtBase/FileDialog.h>
-#include <KtQtBase/Messages.h>
-
 #include <algorithm>
 
 namespace {
@@ -33,12 +31,6 @@ public:
 private:
     CShell& m_shell;
 };
-
-// Every box has the buttons Yes and No, and Return means Yes: ask so that Yes loses nothing.
-bool Ask(const std::wstring& text)
-{
-    return AfxMessageBox(text.c_str(), MB_YESNO | MB_ICONQUESTION) == IDYES;
-}
 
 } // namespace
 
@@ -144,7 +136,7 @@ void CSketchApp::OnRecentFile(UINT index)
         OpenFile(files[index]);
 }
 
-// What a killed program has left of this drawing is newer than the file.
+// What a killed program has left of this drawing may be newer than the file.
 bool CSketchApp::OpenFile(const std::wstring& name)
 {
     std::wstring reason;
@@ -164,23 +156,40 @@ bool CSketchApp::OpenFile(const std::wstring& name)
 
 bool CSketchApp::Recover(const std::wstring& path)
 {
-    std::wstring reason;
-    const std::wstring shown = path.empty() ? Text(IDS_UNTITLED) : DisplayName(path, kNameWidth);
-    if (!m_autosave.Take(path))
+    const std::wstring autosave = m_autosave.Take(path);
+    if (autosave.empty())
         return false;
-    if (!Ask(Text(IDS_RECOVER, shown)) ||
-        !m_document.Recover(m_autosave.NameFor(path), path, reason)) {
+    const std::wstring shown = path.empty() ? Text(IDS_UNTITLED) : DisplayName(path, kNameWidth);
+    const Answer answer =
+        m_shell.Ask({Text(IDS_RECOVER, shown), IDS_GOON, IDS_DELETE, IDS_LATER, Answer::Yes});
+    if (answer == Answer::Yes)
+        return TakeRecovered(autosave, path);
+    if (answer == Answer::No)
         m_autosave.Remove();
+    else
+        m_autosave.Leave();
+    return false;
+}
+
+// One that cannot be read stays where it is: somebody may be able to mend it.
+bool CSketchApp::TakeRecovered(const std::wstring& autosave, const std::wstring& path)
+{
+    std::wstring reason;
+    if (!m_document.Recover(autosave, path, reason)) {
+        m_autosave.Leave();
+        m_shell.Report(Text(IDS_CANNOTOPEN, autosave, reason));
         return false;
     }
     m_view.OnInitialUpdate();
-    m_shell.ShowLine(Text(IDS_RECOVERED, shown));
+    m_shell.ShowLine(Text(IDS_RECOVERED, path.empty() ? Text(IDS_UNTITLED) : FileNameOf(path)));
     return true;
 }
 
 // Only one drawing can be open: the others are offered when they are opened.
 void CSketchApp::OfferAutosaves()
 {
+    if (IsChanged())
+        return;
     std::vector<std::wstring> paths = {std::wstring()};
     paths.insert(paths.end(), m_recent.begin(), m_recent.end());
     const bool found = std::any_of(paths.begin(), paths.end(),
@@ -203,7 +212,8 @@ bool CSketchApp::TakeName(const std::wstring& typed, const wchar_t* extension, b
     const bool exists = name.Status() & kStatusExists;
     if (!exists || (asked && !added) || FullPath(name) == m_document.GetPathName())
         return true;
-    return !Ask(Text(IDS_OVERWRITE, DisplayName(FullPath(name), kNameWidth)));
+    return m_shell.Ask({Text(IDS_OVERWRITE, DisplayName(FullPath(name), kNameWidth)), IDS_REPLACE,
+                        std::nullopt, IDS_CANCEL, Answer::Cancel}) == Answer::Yes;
 }
 
 bool CSketchApp::SaveFile(const std::wstring& typed, bool asked)
@@ -254,7 +264,7 @@ bool CSketchApp::WritePdf(const std::wstring& path)
 {
     std::wstring reason;
     m_view.FinishInput();
-    if (!WriteSafely(path, m_shell.MakePdf(), reason)) {
+    if (!WriteSafely(path, m_shell.MakePdf(), CFileMode::Usual, reason)) {
         m_shell.Report(Text(IDS_CANNOTPRINT, DisplayName(path, kNameWidth), reason));
         return false;
     }
@@ -267,8 +277,9 @@ bool CSketchApp::SaveModified()
     m_view.FinishInput();
     if (!m_document.IsModified())
         return true;
-    const SaveChoice choice = m_shell.AskToSave(Text(IDS_ASKTOSAVE, NameForPeople()));
-    return choice == SaveChoice::Discard || (choice == SaveChoice::Save && Save());
+    const Answer answer = m_shell.Ask(
+        {Text(IDS_ASKTOSAVE, NameForPeople()), IDS_SAVE, IDS_DISCARD, IDS_CANCEL, Answer::Yes});
+    return answer == Answer::No || (answer == Answer::Yes && Save());
 }
 
 void CSketchApp::Remember(const std::wstring& path)

@@ -13,6 +13,7 @@
 #include <optional>
 
 #include <fcntl.h>
+#include <sys/stat.h>
 #include <unistd.h>
 
 namespace fs = std::filesystem;
@@ -21,6 +22,9 @@ namespace {
 
 constexpr std::size_t kLongestFolder = 1000; // GetTempFileName does not know its buffer's size
 constexpr int kMostLinks = 40;
+constexpr int kTries = 10;
+constexpr fs::perms kWritable =
+    fs::perms::owner_write | fs::perms::group_write | fs::perms::others_write;
 
 // A link may lead to a file that is not there yet, so each is followed by hand.
 fs::path Target(fs::path path)
@@ -31,15 +35,31 @@ fs::path Target(fs::path path)
     return path;
 }
 
-// A name in the same folder, so that the rename stays on one file system.
-std::optional<std::string> TemporaryNameFor(const fs::path& path)
+// A new file in the same folder, so that the rename stays on one file system. GetTempFileName looks
+// for a free name in the working directory, so that another file may have it here.
+// Result: its name, or nothing.
+std::optional<std::string> MakeTemporary(const fs::path& path, mode_t mode)
 {
     const auto folder = Widen(path.parent_path().string() + '/');
     if (!folder || folder->size() > kLongestFolder)
         return std::nullopt;
-    wchar_t name[1024] = {};
-    GetTempFileName(folder->c_str(), L"sketch", 0, name);
-    return *name ? Narrow(name) : std::nullopt;
+    for (int i = 0; i < kTries; ++i) {
+        wchar_t name[1024] = {};
+        GetTempFileName(folder->c_str(), L"sketch", 0, name);
+        const auto bytes = Narrow(name);
+        const int file =
+            bytes ? open(bytes->c_str(), O_WRONLY | O_CREAT | O_EXCL | O_CLOEXEC, mode) : -1;
+        if (file >= 0 && close(file) == 0)
+            return bytes;
+    }
+    return std::nullopt;
+}
+
+// Nobody else may read a new state of a file that they may not read now.
+mode_t FirstMode(const fs::path& target, CFileMode mode)
+{
+    std::error_code ignored;
+    return mode == CFileMode::Private || fs::exists(target, ignored) ? 0600 : 0666;
 }
 
 // Only the stream, at its end, says whether it worked: no Windows call here reports a short write.
@@ -61,6 +81,8 @@ bool MayBeReplaced(const fs::path& path, std::wstring& reason)
     const fs::file_status status = fs::status(path, error);
     if (fs::exists(status) && !fs::is_regular_file(status))
         reason = fs::is_directory(status) ? L"it is a folder" : L"it is a device or a pipe";
+    else if (fs::exists(status) && (status.permissions() & kWritable) == fs::perms::none)
+        reason = L"it is write-protected";
     else if (!fs::is_directory(path.parent_path(), error))
         reason = L"there is no such folder";
     return reason.empty();
@@ -101,7 +123,8 @@ bool PutInPlace(const std::string& from, const fs::path& to, std::wstring& reaso
 
 } // namespace
 
-bool WriteSafely(const std::wstring& path, const std::string& bytes, std::wstring& reason)
+bool WriteSafely(const std::wstring& path, const std::string& bytes, CFileMode mode,
+                 std::wstring& reason)
 {
     const auto name = Narrow(path);
     if (!name) {
@@ -111,9 +134,10 @@ bool WriteSafely(const std::wstring& path, const std::string& bytes, std::wstrin
     const fs::path target = Target(*name);
     if (!MayBeReplaced(target, reason))
         return false;
-    const auto temporary = TemporaryNameFor(target);
+    errno = 0;
+    const auto temporary = MakeTemporary(target, FirstMode(target, mode));
     if (!temporary) {
-        reason = kUnusableName;
+        reason = errno ? LastErrorReason() : kUnusableName;
         return false;
     }
     if (WriteBytes(*temporary, bytes, reason) && PutInPlace(*temporary, target, reason))

@@ -6,9 +6,17 @@
 
 #include <string>
 
+// Who may read a new file: whom the system lets, or only its owner.
+enum class CFileMode
+{
+    Usual,
+    Private
+};
+
 // Writes a temporary file beside the target, and renames it. The target keeps its permissions; of a
 // symbolic link, the file that it leads to is replaced.
 //   reason    out: why the file could not be written
-bool WriteSafely(const std::wstring& path, const std::string& bytes, std::wstring& reason);
+bool WriteSafely(const std::wstring& path, const std::string& bytes, CFileMode mode,
+                 std::wstring& reason);
 
 #endif

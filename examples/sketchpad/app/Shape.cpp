@@ -3,11 +3,11 @@
 
 #include <algorithm>
 #include <cmath>
-#include <cstdlib>
 
 namespace {
 
 constexpr int kFewestCorners = 72;
+constexpr double kFineness = 8;
 
 CRect TextBounds(const CShape& shape, const CTextMeasure& measure)
 {
@@ -41,14 +41,17 @@ CRect BoundsOf(const CShape& shape, const CTextMeasure& measure)
     return bounds;
 }
 
-// With a corner for every two pixels of its half axes, no edge can be seen.
+// So many corners that an edge leaves the ellipse by a tenth of a pixel at most.
 std::vector<POINT> EllipseCorners(const std::vector<POINT>& corners, int scale)
 {
-    const double centerX = scale * (corners.front().x + corners.back().x) / 2.0;
-    const double centerY = scale * (corners.front().y + corners.back().y) / 2.0;
-    const double radiusX = std::abs(scale * (corners.back().x - corners.front().x) / 2.0);
-    const double radiusY = std::abs(scale * (corners.back().y - corners.front().y) / 2.0);
-    const int count = std::max(kFewestCorners, static_cast<int>(radiusX + radiusY) / 2);
+    const double left = 1.0 * scale * corners.front().x;
+    const double top = 1.0 * scale * corners.front().y;
+    const double radiusX = std::abs(scale * 1.0 * corners.back().x - left) / 2;
+    const double radiusY = std::abs(scale * 1.0 * corners.back().y - top) / 2;
+    const double centerX = (left + scale * 1.0 * corners.back().x) / 2;
+    const double centerY = (top + scale * 1.0 * corners.back().y) / 2;
+    const int count =
+        std::max(kFewestCorners, static_cast<int>(kFineness * std::sqrt(radiusX + radiusY)));
     std::vector<POINT> points;
     points.reserve(static_cast<std::size_t>(count));
     for (int i = 0; i < count; ++i) {
@@ -66,7 +69,30 @@ bool Intersect(const CRect& a, const CRect& b)
 
 bool IsTooFar(POINT point)
 {
-    return std::abs(point.x) > kFarthest || std::abs(point.y) > kFarthest;
+    return point.x > kFarthest || point.x < -kFarthest || point.y > kFarthest ||
+           point.y < -kFarthest;
+}
+
+bool IsAllowed(const CPenInfo& pen)
+{
+    return pen.style >= PS_SOLID && pen.style <= PS_NULL && pen.width >= 0 &&
+           pen.width <= kWidestPen;
+}
+
+bool IsAllowed(const CShape& shape)
+{
+    return IsAllowed(shape.pen) && !shape.points.empty() &&
+           shape.points.size() <= static_cast<std::size_t>(kMostPoints) &&
+           std::none_of(shape.points.begin(), shape.points.end(), IsTooFar);
+}
+
+bool IsSame(const CShape& a, const CShape& b)
+{
+    const auto same = [](POINT one, POINT other) { return one.x == other.x && one.y == other.y; };
+    return a.kind == b.kind && a.text == b.text && a.pen.style == b.pen.style &&
+           a.pen.width == b.pen.width && a.pen.color == b.pen.color &&
+           a.pen.filled == b.pen.filled && a.pen.fill == b.pen.fill &&
+           std::equal(a.points.begin(), a.points.end(), b.points.begin(), b.points.end(), same);
 }
 
 CShape MovedBy(const CShape& shape, POINT offset)
@@ -74,5 +100,5 @@ CShape MovedBy(const CShape& shape, POINT offset)
     CShape moved = shape;
     for (POINT& point : moved.points)
         point = {point.x + offset.x, point.y + offset.y};
-    return std::any_of(moved.points.begin(), moved.points.end(), IsTooFar) ? shape : moved;
+    return moved;
 }

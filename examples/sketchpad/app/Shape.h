@@ -37,7 +37,8 @@ struct CShape
 
 constexpr int kMostPoints = 100000; // of a shape
 constexpr LONG kFarthest = 30000;   // as many units of a printer still fit its coordinates
-constexpr int kTextHeight = 16;     // pixels of a letter with what is below the baseline
+constexpr int kWidestPen = 100;
+constexpr int kTextHeight = 16; // pixels of a letter with what is below the baseline
 
 // The width of a text in pixels, which only the window's system knows.
 using CTextMeasure = std::function<int(const std::wstring& text)>;
@@ -55,9 +56,14 @@ CRect RectBetween(POINT from, POINT to);
 
 bool Intersect(const CRect& a, const CRect& b);
 
+// Whether a drawing's file may hold it.
 bool IsTooFar(POINT point);
+bool IsAllowed(const CPenInfo& pen);
+bool IsAllowed(const CShape& shape);
 
-// A shape that lies elsewhere; where that would be too far, it stays.
+bool IsSame(const CShape& a, const CShape& b);
+
+// A shape that lies elsewhere.
 CShape MovedBy(const CShape& shape, POINT offset);
 
 #endif

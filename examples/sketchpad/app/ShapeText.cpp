@@ -11,7 +11,6 @@
 namespace {
 
 constexpr const char* kKinds[] = {"line", "polygon", "ellipse", "text"};
-constexpr int kMaxWidth = 100;
 constexpr std::size_t kEllipsePoints = 2;
 constexpr char kNoFill[] = "none";
 
@@ -31,8 +30,7 @@ bool ReadPen(std::istream& stream, CPenInfo& pen)
     if (!(stream >> pen.style >> pen.width >> color >> fill))
         return false;
     pen.filled = fill != kNoFill;
-    return pen.style >= PS_SOLID && pen.style <= PS_NULL && pen.width >= 0 &&
-           pen.width <= kMaxWidth && ColorFromText(color, pen.color) &&
+    return IsAllowed(pen) && ColorFromText(color, pen.color) &&
            (!pen.filled || ColorFromText(fill, pen.fill));
 }
 

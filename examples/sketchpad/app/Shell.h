@@ -4,15 +4,28 @@
 #ifndef SKETCHPAD_SHELL_H
 #define SKETCHPAD_SHELL_H
 
+#include "TextIds.h"
+
 #include <KtQtBase/WindowsTypes.h>
 
+#include <optional>
 #include <string>
 
-enum class SaveChoice
+enum class Answer
 {
-    Save,
-    Discard,
+    Yes,
+    No,
     Cancel
+};
+
+// A question with two or three answers. Closing the box cancels.
+struct CQuestion
+{
+    std::wstring text;
+    TextId yes;
+    std::optional<TextId> no;
+    TextId cancel;
+    Answer safe; // what Return means
 };
 
 class CShell
@@ -32,8 +45,9 @@ public:
     virtual SIZE GetClientSize() = 0;
     virtual void Close() = 0;
 
-    // What AfxMessageBox cannot do: its boxes have no other buttons than Yes and No.
-    virtual SaveChoice AskToSave(const std::wstring& text) = 0;
+    // What AfxMessageBox cannot do: its boxes have no other buttons than Yes and No, Return means
+    // Yes, and Escape means No.
+    virtual Answer Ask(const CQuestion& question) = 0;
     virtual void Report(const std::wstring& text) = 0;
     virtual void ShowAbout(const std::wstring& title, const std::wstring& text) = 0;
 

@@ -67,10 +67,15 @@ bool CSketchApp::OnCommand(UINT id)
 
 void CSketchApp::UpdateFrame()
 {
-    const bool changed = m_document.IsModified() || m_view.HasUnfinishedInput();
-    m_shell.SetWindowText(NameForPeople() + (changed ? L"*" : L"") + L" - " + Text(IDS_APPTITLE));
+    m_shell.SetWindowText(NameForPeople() + (IsChanged() ? L"*" : L"") + L" - " +
+                          Text(IDS_APPTITLE));
     ShowSelection();
     m_shell.Refresh();
+}
+
+void CSketchApp::OnAutosave()
+{
+    m_autosave.Write(m_document, m_view.GetAllShapes(), IsChanged());
 }
 
 void CSketchApp::ShowSelection()

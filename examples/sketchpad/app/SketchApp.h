@@ -37,7 +37,7 @@ public:
     bool SaveModified();
 
     // Stores what has changed since the last time, in case the program is killed.
-    void OnAutosave() { m_autosave.Write(m_document); }
+    void OnAutosave();
     // Offers what a killed program has left behind.
     void OfferAutosaves();
     void OnClose() { m_autosave.Remove(); }
@@ -95,6 +95,8 @@ private:
     bool WriteDocument(const std::wstring& path);
     bool WritePdf(const std::wstring& path);
     bool Recover(const std::wstring& path);
+    bool TakeRecovered(const std::wstring& autosave, const std::wstring& path);
+    bool IsChanged() const { return m_document.IsModified() || m_view.HasUnfinishedInput(); }
     void Remember(const std::wstring& path);
     std::wstring NameForPeople() const;
     void ShowSelection();

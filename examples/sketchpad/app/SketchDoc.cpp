@@ -15,6 +15,20 @@ auto Place(std::vector<CShape>& shapes, std::size_t index)
     return shapes.begin() + static_cast<std::ptrdiff_t>(index);
 }
 
+void AddChange(CEdit& edit, std::size_t index, const CShape& before, const CShape& after)
+{
+    if (!IsSame(before, after))
+        edit.changes.push_back({index, before, after});
+}
+
+bool IsOfSameShapes(const CEdit& edit, const CEdit& former)
+{
+    const auto same = [](const CChange& a, const CChange& b) { return a.index == b.index; };
+    return edit.name == former.name &&
+           std::equal(edit.changes.begin(), edit.changes.end(), former.changes.begin(),
+                      former.changes.end(), same);
+}
+
 } // namespace
 
 void CSketchDoc::DeleteContents()
@@ -53,15 +67,28 @@ void CSketchDoc::ChangeShapes(TextId name, const CIndices& indices,
 {
     CEdit edit = {name, {}};
     for (std::size_t index : indices)
-        edit.changes.push_back({index, m_shapes.at(index), change(m_shapes.at(index))});
+        AddChange(edit, index, m_shapes.at(index), change(m_shapes.at(index)));
     Do(edit);
+}
+
+// A hundred presses of an arrow key would leave nothing else to undo. A state that was saved stays
+// one that undoing comes back to.
+bool CSketchDoc::Join(const CEdit& edit)
+{
+    if (edit.name != IDS_UNDO_MOVE || m_done == 0 || m_done < m_edits.size() ||
+        m_saved == m_position || !IsOfSameShapes(edit, m_edits.back()))
+        return false;
+    for (std::size_t i = 0; i < edit.changes.size(); ++i)
+        m_edits.back().changes[i].after = edit.changes[i].after;
+    Apply(edit);
+    return true;
 }
 
 // What was undone before can no longer be redone. If the saved state was among that, no number of
 // undos leads back to it.
 void CSketchDoc::Do(const CEdit& edit)
 {
-    if (edit.changes.empty())
+    if (edit.changes.empty() || Join(edit))
         return;
     if (m_saved > m_position)
         m_saved = kNeverSaved;
@@ -149,5 +176,5 @@ bool CSketchDoc::Recover(const std::wstring& autosave, const std::wstring& path,
 
 bool CSketchDoc::OnSaveDocument(const std::wstring& path, std::wstring& reason) const
 {
-    return WriteSketch(path, m_shapes, reason);
+    return WriteSketch(path, m_shapes, CFileMode::Usual, reason);
 }

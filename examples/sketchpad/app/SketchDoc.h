@@ -33,7 +33,8 @@ public:
     void DeleteContents();
     const std::vector<CShape>& GetShapes() const { return m_shapes; }
 
-    // Each is one command that can be undone; with nothing to do it is none.
+    // Each is one command that can be undone; with nothing to do it is none. Moves of the same
+    // shapes one after the other are one command.
     void AddShapes(TextId name, const std::vector<CShape>& shapes);
     void RemoveShapes(TextId name, const CIndices& indices);
     //   change    in: makes of each shape what it becomes
@@ -62,6 +63,7 @@ public:
 
 private:
     void Do(const CEdit& edit);
+    bool Join(const CEdit& edit);
     void Apply(const CEdit& edit);
     void TakeBack(const CEdit& edit);
     void TakeContents(std::vector<CShape>&& shapes, const std::wstring& path);

@@ -79,7 +79,10 @@ void CSketchView::Changed()
 // The messages of the mouse count in pixels of the window.
 POINT CSketchView::PointFrom(LPARAM place) const
 {
-    return {GET_X_LPARAM(place) * 100 / m_zoom, GET_Y_LPARAM(place) * 100 / m_zoom};
+    const auto inDrawing = [this](int pixels) {
+        return std::clamp<LONG>(pixels * 100 / m_zoom, -kFarthest, kFarthest);
+    };
+    return {inDrawing(GET_X_LPARAM(place)), inDrawing(GET_Y_LPARAM(place))};
 }
 
 void CSketchView::OnLButtonDown(WPARAM, LPARAM place)
@@ -128,7 +131,7 @@ void CSketchView::OnChar(WPARAM character, LPARAM)
 
 void CSketchView::OnAddShape(WPARAM, LPARAM shape)
 {
-    if (const auto added = CopyFrom<CShape>(shape); added && !added->points.empty())
+    if (const auto added = CopyFrom<CShape>(shape); added && IsAllowed(*added))
         m_document.AddShapes(IDS_UNDO_ADD, {*added});
     Changed();
 }
@@ -147,7 +150,8 @@ void CSketchView::OnGetPen(WPARAM, LPARAM pen)
 
 void CSketchView::OnSetPen(WPARAM, LPARAM pen)
 {
-    m_pen = CopyFrom<CPenInfo>(pen).value_or(m_pen);
+    if (const auto wanted = CopyFrom<CPenInfo>(pen); wanted && IsAllowed(*wanted))
+        m_pen = *wanted;
 }
 
 void CSketchView::OnSelect(WPARAM, LPARAM rect)
@@ -177,8 +181,7 @@ void CSketchView::OnSetTool(WPARAM tool, LPARAM)
 {
     if (tool >= TOOL_COUNT)
         return;
-    m_tool->Finish();
-    m_bButtonDown = false;
+    FinishInput();
     m_toolId = static_cast<ToolId>(tool);
     m_tool = MakeTool(m_toolId, m_hWnd);
     Changed();

@@ -51,6 +51,8 @@ public:
     // Of what is selected, and of the next shapes.
     void ChangePen(TextId name, const std::function<void(CPenInfo&)>& change);
     std::vector<CShape> GetSelectedShapes() const;
+    // With a text that is still being typed.
+    std::vector<CShape> GetAllShapes() const;
 
     // Makes a text that is being typed part of the drawing.
     void FinishInput();
@@ -100,10 +102,13 @@ private:
     void DrawGrid(KtQtPainterWrapper& painter, int scale) const;
     void DrawSelection(KtQtPainterWrapper& painter, int scale) const;
     void DrawCaret(KtQtPainterWrapper& painter, int scale) const;
-    void DrawShapes(KtQtPainterWrapper& painter, int scale) const;
     void ClipToPaper(KtQtPainterWrapper& painter, int scale) const;
     CRect PaperRect() const;
     CShape Shown(std::size_t index) const;
+    void DrawShapes(KtQtPainterWrapper& painter, const std::vector<CShape>& shapes,
+                    int scale) const;
+    std::vector<CShape> ShapesOnScreen() const;
+    void EndDragging();
 
     POINT PointFrom(LPARAM place) const;
     bool IsSelected(std::size_t index) const;

@@ -44,7 +44,7 @@ void CTextTool::OnChar(wchar_t character)
     }
     if (character == VK_BACK)
         EraseBefore();
-    else if (character >= L' ')
+    else if (character >= L' ' && !(character >= 0x7F && character <= 0x9F))
         Insert(character);
     Send(WM_SKETCH_PREVIEW, &m_hit.shape);
 }

@@ -26,6 +26,18 @@ std::vector<CShape> CSketchView::GetSelectedShapes() const
     return shapes;
 }
 
+std::vector<CShape> CSketchView::GetAllShapes() const
+{
+    std::vector<CShape> shapes = m_document.GetShapes();
+    if (!HasUnfinishedInput() || !m_preview)
+        return shapes;
+    if (m_hidden)
+        shapes.at(*m_hidden) = *m_preview;
+    else
+        shapes.push_back(*m_preview);
+    return shapes;
+}
+
 CRect CSketchView::GetSelectionBounds() const
 {
     CRect bounds;
@@ -48,9 +60,14 @@ void CSketchView::DeleteSelection(TextId name)
     ClearSelection();
 }
 
+// All that is selected, or nothing where a part would come to lie too far away.
 void CSketchView::MoveSelection(POINT offset)
 {
-    if (offset.x != 0 || offset.y != 0)
+    const std::vector<CShape> shapes = GetSelectedShapes();
+    const bool fits = std::all_of(shapes.begin(), shapes.end(), [offset](const CShape& shape) {
+        return IsAllowed(MovedBy(shape, offset));
+    });
+    if (fits)
         m_document.ChangeShapes(IDS_UNDO_MOVE, m_selection,
                                 [offset](const CShape& shape) { return MovedBy(shape, offset); });
     Changed();
@@ -113,19 +130,26 @@ void CSketchView::InsertInMiddle()
     SelectLast(m_document.GetShapes().size() - before);
 }
 
+// A command or a dialog may come while the button is down, and then nobody lets it go here.
 void CSketchView::FinishInput()
 {
     m_tool->Finish();
+    EndDragging();
 }
 
-void CSketchView::OnInitialUpdate()
+void CSketchView::EndDragging()
 {
     m_preview.reset();
     m_dragRect.reset();
     m_dragOffset.reset();
+    m_bButtonDown = false;
+}
+
+void CSketchView::OnInitialUpdate()
+{
+    EndDragging();
     m_hidden.reset();
     m_selection.clear();
-    m_bButtonDown = false;
     m_tool = MakeTool(m_toolId, m_hWnd);
     Changed();
 }

@@ -170,21 +170,32 @@ void CSketchView::DrawCaret(KtQtPainterWrapper& painter, int scale) const
     painter.drawPolyline(line, 2);
 }
 
-void CSketchView::DrawShapes(KtQtPainterWrapper& painter, int scale) const
+void CSketchView::DrawShapes(KtQtPainterWrapper& painter, const std::vector<CShape>& shapes,
+                             int scale) const
 {
     const LOGFONTW font = GetTextFont(scale);
     painter.setBkMode(TRANSPARENT);
     painter.setFontIndirect(&font);
+    for (const CShape& shape : shapes)
+        DrawShape(painter, shape, scale);
+}
+
+std::vector<CShape> CSketchView::ShapesOnScreen() const
+{
+    std::vector<CShape> shapes;
     for (std::size_t i = 0; i < m_document.GetShapes().size(); ++i) {
         if (i != m_hidden)
-            DrawShape(painter, Shown(i), scale);
+            shapes.push_back(Shown(i));
     }
+    if (m_preview)
+        shapes.push_back(*m_preview);
+    return shapes;
 }
 
 void CSketchView::OnPrint(KtQtPainterWrapper& painter, int scale) const
 {
     ClipToPaper(painter, scale);
-    DrawShapes(painter, scale);
+    DrawShapes(painter, m_document.GetShapes(), scale);
 }
 
 void CSketchView::OnDraw(KtQtPainterWrapper& painter, int scale) const
@@ -193,18 +204,12 @@ void CSketchView::OnDraw(KtQtPainterWrapper& painter, int scale) const
     DrawPaper(painter, scale);
     DrawGrid(painter, scale);
     ClipToPaper(painter, scale);
-    DrawShapes(painter, scale);
-    if (m_preview)
-        DrawShape(painter, *m_preview, scale);
+    DrawShapes(painter, ShapesOnScreen(), scale);
     DrawCaret(painter, scale);
     DrawSelection(painter, scale);
 }
 
 void CSketchView::OnDrawSelection(KtQtPainterWrapper& painter) const
 {
-    const LOGFONTW font = GetTextFont(1);
-    painter.setBkMode(TRANSPARENT);
-    painter.setFontIndirect(&font);
-    for (const CShape& shape : GetSelectedShapes())
-        DrawShape(painter, shape, 1);
+    DrawShapes(painter, GetSelectedShapes(), 1);
 }

@@ -16,9 +16,11 @@ namespace {
 QMessageBox::StandardButton buttonOf(const QString& word)
 {
     static const QMap<QString, QMessageBox::StandardButton> buttons = {
-        {"yes", QMessageBox::Yes},       {"no", QMessageBox::No},
-        {"save", QMessageBox::Save},     {"discard", QMessageBox::Discard},
-        {"cancel", QMessageBox::Cancel}, {"ok", QMessageBox::Ok}};
+        {"yes", QMessageBox::Yes},      {"no", QMessageBox::No},
+        {"save", QMessageBox::Yes},     {"discard", QMessageBox::No},
+        {"replace", QMessageBox::Yes},  {"delete", QMessageBox::No},
+        {"later", QMessageBox::Cancel}, {"cancel", QMessageBox::Cancel},
+        {"ok", QMessageBox::Ok}};
     return buttons.value(word, QMessageBox::NoButton);
 }
 

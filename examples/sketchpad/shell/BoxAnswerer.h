@@ -19,7 +19,7 @@ public:
     explicit BoxAnswerer(QObject* parent);
 
     // The answers for the next boxes, and for the next file dialogs, in order.
-    //   answer    in: yes, no, save, discard, cancel or ok
+    //   answer    in: yes, no, save, discard, replace, delete, later, cancel or ok
     void answerNext(const QString& answer) { m_answers.append(answer); }
     void chooseNext(const QString& name) { m_choices.append(name); }
 

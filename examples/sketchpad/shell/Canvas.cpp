@@ -34,6 +34,14 @@ WPARAM virtualKey(int key)
     return found == keys.end() ? 0 : found->second;
 }
 
+// By the key, since the text of such keys differs between systems.
+WPARAM controlCharacter(int key)
+{
+    if (key == Qt::Key_Return || key == Qt::Key_Enter)
+        return VK_RETURN;
+    return key == Qt::Key_Backspace ? VK_BACK : 0;
+}
+
 QFont textFont()
 {
     QImage image(1, 1, QImage::Format_ARGB32_Premultiplied);
@@ -122,6 +130,10 @@ void Canvas::keyPressEvent(QKeyEvent* event)
         m_view.WindowProc(WM_KEYDOWN, key, repeat);
         return;
     }
+    if (const WPARAM character = controlCharacter(event->key())) {
+        m_view.WindowProc(WM_CHAR, character, 0);
+        return;
+    }
     for (uint character : event->text().toUcs4())
         m_view.WindowProc(WM_CHAR, character, 0);
 }
@@ -161,6 +173,8 @@ void Canvas::paintEvent(QPaintEvent*)
         return;
     paintView(visible.topLeft());
     m_image.repairFrontBuffer();
+    if (!m_image.frontImage())
+        return; // so large that there is no memory for it
     m_image.frontImage()->setDevicePixelRatio(ratio);
     QPainter(this).drawImage(visible.topLeft(), *m_image.frontImage());
     m_image.frontImage()->setDevicePixelRatio(1);

@@ -65,7 +65,6 @@ HWND MainWindow::viewWindow() const
 void MainWindow::makeStatusLine()
 {
     m_line = new QLabel(this);
-    m_line->setAccessibleName(toQt(Text(IDS_READY)));
     m_line->setMinimumWidth(1);
     statusBar()->addWidget(m_line, 1);
 }
@@ -128,18 +127,20 @@ SIZE MainWindow::GetClientSize()
     return {size.width(), size.height()};
 }
 
-SaveChoice MainWindow::AskToSave(const std::wstring& text)
+Answer MainWindow::Ask(const CQuestion& question)
 {
-    QMessageBox box(QMessageBox::Question, windowTitle(), toQt(text),
-                    QMessageBox::Save | QMessageBox::Discard | QMessageBox::Cancel, this);
-    box.button(QMessageBox::Save)->setText(toQt(Text(IDS_SAVE)));
-    box.button(QMessageBox::Discard)->setText(toQt(Text(IDS_DISCARD)));
-    box.button(QMessageBox::Cancel)->setText(toQt(Text(IDS_CANCEL)));
-    box.setDefaultButton(QMessageBox::Save);
+    QMessageBox box(QMessageBox::Question, toQt(Text(IDS_APPTITLE)), toQt(question.text),
+                    QMessageBox::Yes | QMessageBox::Cancel, this);
+    box.button(QMessageBox::Yes)->setText(toQt(Text(question.yes)));
+    box.button(QMessageBox::Cancel)->setText(toQt(Text(question.cancel)));
+    if (question.no)
+        box.addButton(QMessageBox::No)->setText(toQt(Text(*question.no)));
+    box.setEscapeButton(QMessageBox::Cancel);
+    box.setDefaultButton(question.safe == Answer::Yes ? QMessageBox::Yes : QMessageBox::Cancel);
     const int button = box.exec();
-    if (button == QMessageBox::Save)
-        return SaveChoice::Save;
-    return button == QMessageBox::Discard ? SaveChoice::Discard : SaveChoice::Cancel;
+    if (button == QMessageBox::Yes)
+        return Answer::Yes;
+    return button == QMessageBox::No ? Answer::No : Answer::Cancel;
 }
 
 void MainWindow::Report(const std::wstring& text)
@@ -175,7 +176,17 @@ void MainWindow::OnPrintCommand(UINT id)
     else if (id == ID_FILE_PRINT_PREVIEW)
         m_paperPrinter.preview(this);
     else
-        m_paperPrinter.print(this);
+        print();
+}
+
+// A file is written as safely as every other one, whichever way it was asked for.
+void MainWindow::print()
+{
+    QString file;
+    if (!m_paperPrinter.print(this, file))
+        Report(Text(IDS_NOTPRINTED));
+    else if (!file.isEmpty())
+        m_app.PrintFile(QDir::current().absoluteFilePath(file).toStdWString(), true);
 }
 
 void MainWindow::SetClipboard(const std::wstring& text)
@@ -201,14 +212,15 @@ std::wstring MainWindow::GetDataFolder()
 // A lock that a killed program has left behind is known by its process, which is gone.
 bool MainWindow::HoldName(const std::wstring& path)
 {
-    m_lock.reset();
-    if (path.empty())
-        return true;
-    m_lock = std::make_unique<QLockFile>(toQt(path) + ".lock");
-    m_lock->setStaleLockTime(0);
-    const bool held = m_lock->tryLock(0);
-    if (!held)
+    if (path.empty()) {
         m_lock.reset();
+        return true;
+    }
+    auto lock = std::make_unique<QLockFile>(toQt(path) + ".lock");
+    lock->setStaleLockTime(0);
+    const bool held = lock->tryLock(0);
+    if (held)
+        m_lock = std::move(lock);
     return held;
 }
 
@@ -225,6 +237,7 @@ void MainWindow::closeEvent(QCloseEvent* event)
         event->ignore();
         return;
     }
+    m_autosave.stop();
     m_app.OnClose();
     const QRect rect = geometry();
     WriteWindowPlace(CRect(rect.x(), rect.y(), rect.x() + rect.width(), rect.y() + rect.height()));

@@ -42,7 +42,7 @@ public:
     void Refresh() override;
     SIZE GetClientSize() override;
     void Close() override { close(); }
-    SaveChoice AskToSave(const std::wstring& text) override;
+    Answer Ask(const CQuestion& question) override;
     void Report(const std::wstring& text) override;
     void ShowAbout(const std::wstring& title, const std::wstring& text) override;
     std::string MakePdf() override;
@@ -59,6 +59,7 @@ protected:
 
 private:
     void makeStatusLine();
+    void print();
     void placeWindow();
     QSize sizeForAll() const;
 

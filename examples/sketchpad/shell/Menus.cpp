@@ -12,9 +12,12 @@
 #include <QtWidgets/QMenuBar>
 #include <QtWidgets/QToolBar>
 
+#include <algorithm>
+
 namespace {
 
 constexpr unsigned int kSeparator = 0;
+constexpr char kOwnText[] = "ownText";
 
 QString textOf(unsigned int id)
 {
@@ -101,6 +104,7 @@ QAction* Menus::addCommand(unsigned int id)
     const QString key = text.section('\t', 1);
     auto* action = new QAction(text.section('\t', 0, 0), &m_window);
     action->setData(id);
+    action->setProperty(kOwnText, action->text());
     action->setShortcut(QKeySequence(key));
     action->setToolTip(key.isEmpty() ? tip : tip + " (" + key + ')');
     action->setStatusTip(tip);
@@ -131,8 +135,8 @@ void Menus::refresh()
         const CCommandState state = m_app.OnUpdateCommand(id);
         action->setEnabled(state.enabled);
         action->setChecked(state.checked);
-        if (!state.text.empty())
-            action->setText(QString::fromStdWString(state.text));
+        const QString text = QString::fromStdWString(state.text);
+        action->setText(text.isEmpty() ? action->property(kOwnText).toString() : text);
         if (id >= ID_FILE_MRU_FILE1 && id <= ID_FILE_MRU_LAST)
             action->setVisible(state.enabled);
     }

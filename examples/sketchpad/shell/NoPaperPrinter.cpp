@@ -19,7 +19,10 @@ void PaperPrinter::setUpPage(QWidget*) {}
 
 void PaperPrinter::preview(QWidget*) {}
 
-void PaperPrinter::print(QWidget*) {}
+bool PaperPrinter::print(QWidget*, QString&)
+{
+    return false;
+}
 
 bool PaperPrinter::printToFile(const QString&)
 {

@@ -48,13 +48,20 @@ void PaperPrinter::preview(QWidget* parent)
     dialog.exec();
 }
 
-void PaperPrinter::print(QWidget* parent)
+bool PaperPrinter::print(QWidget* parent, QString& file)
 {
     if (!m_printer)
         m_printer = std::make_unique<Printer>();
-    QPrintDialog dialog(&m_printer->printer, parent);
-    if (dialog.exec() == QDialog::Accepted)
-        drawSheet(m_view, m_printer->printer);
+    QPrinter& printer = m_printer->printer;
+    QPrintDialog dialog(&printer, parent);
+    if (dialog.exec() != QDialog::Accepted)
+        return true;
+    if (printer.outputFormat() == QPrinter::PdfFormat) {
+        file = printer.outputFileName();
+        return true;
+    }
+    drawSheet(m_view, printer);
+    return printer.printerState() != QPrinter::Error;
 }
 
 bool PaperPrinter::printToFile(const QString& name)

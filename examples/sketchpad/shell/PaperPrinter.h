@@ -22,7 +22,10 @@ public:
 
     void setUpPage(QWidget* parent);
     void preview(QWidget* parent);
-    void print(QWidget* parent);
+    // Asks for a printer and prints.
+    //   file    out: where a file was chosen in place of a printer, its name, and nothing is printed
+    // Result: false if the printer failed.
+    bool print(QWidget* parent, QString& file);
 
     // Prints without a question to a PDF file in place of a printer.
     // Result: false if that failed.

@@ -11,6 +11,7 @@
 
 #include <algorithm>
 #include <cmath>
+#include <memory>
 
 namespace {
 
@@ -27,7 +28,9 @@ void drawSheet(const CSketchView& view, QPaintDevice& device)
     const SIZE extent = view.GetExtent();
     const double fit = std::min({wanted / scale, double(device.width()) / (extent.cx * scale),
                                  double(device.height()) / (extent.cy * scale)});
+    std::unique_ptr<QPainter> owned; // a wrapper never frees its QPainter
     KtQtPrinterPainter painter(&device);
+    owned.reset(painter.wrappedPainter());
     painter.beginDraw();
     painter.wrappedPainter()->scale(fit, fit);
     view.OnPrint(painter, scale);

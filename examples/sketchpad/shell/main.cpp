@@ -73,6 +73,7 @@ void tell(MainWindow& window, const std::wstring& line)
 
 int run(QApplication& application, MainWindow& window, const Arguments& arguments)
 {
+    const bool named = !arguments.drawing.empty();
     ScriptPlayer* player = nullptr;
     if (!arguments.script.empty()) {
         player = new ScriptPlayer(window);
@@ -80,13 +81,14 @@ int run(QApplication& application, MainWindow& window, const Arguments& argument
             std::cerr << "sketchpad: " << arguments.script << " cannot be read\n";
             return kBadInput;
         }
-        player->start();
     }
     window.show();
-    if (!player)
-        QTimer::singleShot(0, &window, [&window] { window.app().OfferAutosaves(); });
-    if (!arguments.drawing.empty())
+    if (named)
         window.app().OpenFile(AbsoluteName(WidenForDisplay(arguments.drawing)));
+    if (player)
+        player->start();
+    else if (!named)
+        QTimer::singleShot(0, &window, [&window] { window.app().OfferAutosaves(); });
     return application.exec();
 }
 

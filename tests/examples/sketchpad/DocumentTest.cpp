@@ -40,7 +40,10 @@ const DamageRow kDamage[] = {
     {"TwoByteCharacters", std::string("S\0K\0E\0", 6), "it is not a drawing"},
     {"BlanksInFront", " SKETCHPAD 1\n", "it is not a drawing"},
     {"Binary", kFirst + "\x01\xFF\n", "line 2: no shape begins like this"},
-    {"NulBytes", kFirst + std::string("line\0 0 1", 9), "line 2: no shape"},
+    {"NulBytes", kFirst + std::string("line\0 0 1", 9), "line 2: it holds a NUL"},
+    {"NulInAText", kFirst + std::string("text 0 1 000000 none 1 1,1 a\0b", 30), "it holds a NUL"},
+    {"LowestPoint", kFirst + "line 0 1 000000 none 1 -2147483648,1\n", "line 2: a point"},
+    {"LowestEllipse", kFirst + "ellipse 0 1 000000 none 2 0,-2147483648 0,0\n", "a point"},
     {"EmptyLine", kFirst + "\n" + kLine + "\n", "line 2: no shape"},
     {"UnknownKind", kFirst + "circle 0 1 000000 none 1 1,1\n", "line 2: no shape"},
     {"BadStyle", kFirst + "line 9 1 000000 none 1 1,1\n", "line 2: the pen"},
@@ -107,6 +110,13 @@ TEST(SketchpadOpen, RefusesADeviceWithoutAnEnd)
 {
     Host host;
     expectRefused(host, "/dev/zero", "it is a device or a pipe, not a file");
+}
+
+// It begins as a file, and reading it fails.
+TEST(SketchpadOpen, RefusesAFileThatCannotBeReadToItsEnd)
+{
+    Host host;
+    expectRefused(host, "/proc/self/mem", "cannot be opened: ");
 }
 
 TEST(SketchpadOpen, RefusesAFileOfAGigabyte)

@@ -103,6 +103,25 @@ TEST(SketchpadUndo, BehindTheSavedStateLeavesSomethingToSave)
     EXPECT_EQ(host.play(script + "answer discard\nmenu new\n").status, 0);
 }
 
+TEST(SketchpadUndo, TakesMovesOfTheSameShapesForOne)
+{
+    std::string script = kDraw + "menu select-all\n";
+    for (int i = 0; i < 30; ++i)
+        script += "key right\n";
+    EXPECT_EQ(savedAfter(script + "menu undo\n"), kSquare);
+    EXPECT_EQ(savedAfter(script + "menu undo\nmenu undo\n"), "");
+}
+
+TEST(SketchpadUndo, CountsNothingThatChangesNothing)
+{
+    Host host;
+    const SessionResult result =
+        host.play(kDraw + "menu select-all\nmenu red-pen\nsave a\nmenu red-pen\nmenu undo\n"
+                          "save b\nmenu new\n");
+    EXPECT_EQ(result.status, 0) << result.out << result.err;
+    EXPECT_EQ(host.file("b.sketch"), kEmptyFile + kSquare);
+}
+
 TEST(SketchpadRedo, IsForgottenWithANewChange)
 {
     EXPECT_EQ(savedAfter(kDraw + "menu undo\ndrag 10,10 20,20\nmenu redo\n"),

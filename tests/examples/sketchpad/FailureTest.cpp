@@ -39,7 +39,7 @@ TEST(SketchpadSave, OverAFolderLeavesNoTemporaryFile)
 {
     Host host;
     fs::create_directory(host.work() / "a.sketch");
-    const SessionResult result = host.play(kDraw + "answer no\nanswer ok\nsave a\nsave b\n");
+    const SessionResult result = host.play(kDraw + "answer replace\nanswer ok\nsave a\nsave b\n");
     EXPECT_EQ(result.status, 0) << result.err;
     EXPECT_THAT(result.out, HasSubstr("cannot be saved: it is a folder"));
     int files = 0;

@@ -9,6 +9,8 @@
 #include "support/TemporaryFolder.h"
 
 #include <QAction>
+#include <QtCore/QFile>
+#include <QtCore/QFileInfo>
 #include <QtGui/QAccessible>
 #include <QtGui/QClipboard>
 #include <QtGui/QImage>
@@ -31,6 +33,9 @@ class SketchpadMainWindow : public testing::Test
 protected:
     SketchpadMainWindow()
     {
+        // The program may have been copied somewhere else.
+        QFile::copy(TEXTS_MODULE,
+                    QApplication::applicationDirPath() + '/' + QFileInfo(TEXTS_MODULE).fileName());
         LoadTexts();
         window = std::make_unique<MainWindow>(CDefaults());
         window->show();
@@ -191,6 +196,33 @@ TEST_F(SketchpadMainWindow, StarsTheTitleWhileATextIsTyped)
     SendMessage(window->viewWindow(), WM_CHAR, 'a', 0);
     QApplication::processEvents();
     EXPECT_EQ(window->windowTitle(), "New drawing* - Sketchpad");
+}
+
+TEST_F(SketchpadMainWindow, ForgetsADragThatACommandInterrupts)
+{
+    command(CommandOf(TOOL_RECTANGLE));
+    drag(50, 50, 90, 90);
+    const QImage before = window->centralWidget()->grab().toImage();
+    for (UINT tool : {CommandOf(TOOL_RECTANGLE), CommandOf(TOOL_SELECT)}) {
+        command(tool);
+        SendMessage(window->viewWindow(), WM_LBUTTONDOWN, MK_LBUTTON, MAKELPARAM(70, 70));
+        SendMessage(window->viewWindow(), WM_MOUSEMOVE, MK_LBUTTON, MAKELPARAM(170, 170));
+        command(CommandOf(TOOL_RECTANGLE));
+        SendMessage(window->viewWindow(), WM_LBUTTONUP, 0, MAKELPARAM(170, 170));
+        window->app().GetView().ClearSelection();
+        settle();
+        EXPECT_EQ(window->centralWidget()->grab().toImage(), before) << tool;
+    }
+}
+
+TEST_F(SketchpadMainWindow, GivesTheMenuItsOwnTextBack)
+{
+    const QString own = action(ID_EDIT_UNDO)->text();
+    command(CommandOf(TOOL_LINE));
+    drag(50, 50, 90, 90);
+    EXPECT_NE(action(ID_EDIT_UNDO)->text(), own);
+    command(ID_EDIT_UNDO);
+    EXPECT_EQ(action(ID_EDIT_UNDO)->text(), own);
 }
 
 TEST_F(SketchpadMainWindow, CopiesADrawingAndAPicture)

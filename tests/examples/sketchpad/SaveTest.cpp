@@ -76,12 +76,45 @@ TEST(SketchpadPrint, OnAFullDiskSaysSoAndLeavesTheFormerFile)
     Host host;
     host.writeFile("a.pdf", "the former one");
     const SessionResult result = host.playWithLimit(
-        1, kDraw + "answer no\nanswer ok\nprint a.pdf\nanswer discard\nmenu new\n");
+        1, kDraw + "answer replace\nanswer ok\nprint a.pdf\nanswer discard\nmenu new\n");
     EXPECT_EQ(result.status, 0) << result.out << result.err;
     EXPECT_THAT(result.out, HasSubstr("cannot be printed to: the file would be too large. [ok]"));
     EXPECT_THAT(result.out, Not(HasSubstr("Printed to")));
     EXPECT_EQ(host.file("a.pdf"), "the former one");
     EXPECT_EQ(filesIn(host.work()), 2) << "the script and the former file";
+}
+
+TEST(SketchpadSave, KeepsTheOtherFileWithoutAnAnswer)
+{
+    Host host;
+    host.writeFile("a.sketch", "former");
+    EXPECT_EQ(host.play(kDraw + "save a\nanswer discard\nmenu new\n").status, 1);
+    EXPECT_EQ(host.file("a.sketch"), "former");
+}
+
+TEST(SketchpadSave, LeavesAWriteProtectedFile)
+{
+    Host host;
+    host.writeFile("a.sketch", "SKETCHPAD 1\n");
+    fs::permissions(host.work() / "a.sketch", fs::perms::owner_read);
+    const SessionResult result =
+        host.play("open a.sketch\n" + kDraw + "answer ok\nsave\nanswer discard\nmenu new\n");
+    EXPECT_EQ(result.status, 0) << result.out << result.err;
+    EXPECT_THAT(result.out, HasSubstr("cannot be saved: it is write-protected"));
+    EXPECT_EQ(host.file("a.sketch"), "SKETCHPAD 1\n");
+}
+
+// At a quarter of the size the window reaches farther than a drawing may.
+TEST(SketchpadSave, WritesWhatCanBeOpenedAgain)
+{
+    Host host;
+    std::string script = "tool line\n";
+    for (int i = 0; i < 9; ++i)
+        script += "menu zoom-out\n";
+    const SessionResult result = host.play(
+        script + "drag 60,60 7900,100 7900,100\nsave a\nopen a.sketch\nexpect shapes 1\n");
+    EXPECT_EQ(result.status, 0) << result.out << result.err;
+    EXPECT_THAT(host.file("a.sketch"), HasSubstr(" 30000,400\n"));
 }
 
 TEST(SketchpadPrint, WritesAWholeFile)
@@ -134,13 +167,70 @@ TEST(SketchpadAutosave, OutlivesAKilledProgramAndIsOfferedAtTheNextStart)
     EXPECT_EQ(host.play("recover\nexpect shapes 0\n").status, 0);
 }
 
+TEST(SketchpadAutosave, StaysForAnotherTimeUntilItIsDeletedOrTaken)
+{
+    Host host;
+    ASSERT_EQ(host.play(kDraw + "autosave\ndie\n").status, 3);
+    EXPECT_EQ(host.play("answer later\nrecover\nexpect shapes 0\n").status, 0);
+    EXPECT_EQ(host.play("recover\nexpect shapes 0\n").status, 1) << "the box was closed";
+    EXPECT_EQ(host.play("answer delete\nrecover\nexpect shapes 0\nrecover\n").status, 0);
+    EXPECT_EQ(filesIn(host.data()), 0);
+}
+
+TEST(SketchpadAutosave, ThatCannotBeReadIsToldAndStays)
+{
+    Host host;
+    fs::create_directories(host.data());
+    ktqtbase::test::writeFile(host.data() / "untitled.autosave", "damaged");
+    const SessionResult result = host.play("answer yes\nanswer ok\nrecover\nexpect shapes 0\n");
+    EXPECT_EQ(result.status, 0) << result.out << result.err;
+    EXPECT_THAT(result.out, HasSubstr("cannot be opened: it is not a drawing"));
+    EXPECT_EQ(readFile(host.data() / "untitled.autosave"), "damaged");
+}
+
+TEST(SketchpadAutosave, IsNotWrittenOverByAnotherProgram)
+{
+    Host host;
+    ASSERT_EQ(host.play(kDraw + "autosave\ndie\n").status, 3);
+    ASSERT_EQ(host.play(drawMuch() + "autosave\ndie\n").status, 3);
+    EXPECT_EQ(readFile(host.data() / "untitled.autosave"), kSquareFile);
+    EXPECT_THAT(readFile(host.data() / "untitled-2.autosave"), HasSubstr("line"));
+}
+
+TEST(SketchpadAutosave, ThatIsOlderThanItsDrawingIsNotOffered)
+{
+    Host host;
+    ASSERT_EQ(host.play(kDraw + "save a\n").status, 0);
+    ASSERT_EQ(host.play("open a.sketch\n" + drawMuch() + "autosave\ndie\n").status, 3);
+    fs::last_write_time(host.work() / "a.sketch",
+                        fs::file_time_type::clock::now() + std::chrono::hours(1));
+    EXPECT_EQ(host.play("open a.sketch\nexpect shapes 1\n").status, 0);
+    EXPECT_EQ(filesIn(host.work()), 2) << "the script and the drawing";
+}
+
+TEST(SketchpadAutosave, HoldsWhatIsBeingTypedAndIsPrivate)
+{
+    Host host;
+    ASSERT_EQ(host.play("tool text\ndrag 20,20\ntype Words\nautosave\ndie\n").status, 3);
+    const fs::path file = host.data() / "untitled.autosave";
+    EXPECT_EQ(readFile(file), "SKETCHPAD 1\ntext 0 3 000000 none 1 20,20 Words\n");
+    EXPECT_EQ(fs::status(file).permissions(), fs::perms::owner_read | fs::perms::owner_write);
+}
+
+TEST(SketchpadAutosave, GoesWhenTheChangesAreUndone)
+{
+    Host host;
+    EXPECT_EQ(host.play(kDraw + "autosave\nmenu undo\nautosave\ndie\n").status, 3);
+    EXPECT_FALSE(fs::exists(host.data() / "untitled.autosave"));
+}
+
 TEST(SketchpadAutosave, IsOfferedWhenItsDrawingIsOpened)
 {
     Host host;
     ASSERT_EQ(host.play(kDraw + "save a\n").status, 0);
     ASSERT_EQ(host.play("open a.sketch\n" + drawMuch() + "autosave\ndie\n").status, 3);
     const SessionResult result =
-        host.play("answer no\nopen a.sketch\nexpect shapes 1\nopen a.sketch\n");
+        host.play("answer delete\nopen a.sketch\nexpect shapes 1\nopen a.sketch\n");
     EXPECT_EQ(result.status, 0) << result.out << result.err;
     EXPECT_EQ(filesIn(host.work()), 2) << "the script and the drawing";
 }

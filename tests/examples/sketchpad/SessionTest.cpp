@@ -38,7 +38,7 @@ TEST(SketchpadSession, PlaysItsOwnScript)
     const SessionResult result = host.play(readFile(SESSION_SCRIPT));
     EXPECT_EQ(result.status, 0) << result.out << result.err;
     EXPECT_THAT(result.out, HasSubstr("Save them? [discard]"));
-    EXPECT_THAT(result.out, HasSubstr("Keep that file as it is? [yes]"));
+    EXPECT_THAT(result.out, HasSubstr("Replace it? [cancel]"));
     EXPECT_EQ(host.file("session.sketch"), host.file("session-by-dialog.sketch"));
     EXPECT_THAT(host.file("session.pdf"), StartsWith("%PDF-"));
     EXPECT_THAT(host.file("session.pdf"), EndsWith("%%EOF\n"));
@@ -79,10 +79,10 @@ TEST(SketchpadDocument, IsReplacedOnlyWhenItsUserSaysSo)
 {
     Host host;
     host.writeFile("a.sketch", "former");
-    std::string script = std::string(kSquare) + "answer yes\nsave a\nsave b\n";
+    std::string script = std::string(kSquare) + "answer cancel\nsave a\nsave b\n";
     EXPECT_EQ(host.play(script).status, 0);
     EXPECT_EQ(host.file("a.sketch"), "former");
-    script = std::string(kSquare) + "answer no\nsave a\n";
+    script = std::string(kSquare) + "answer replace\nsave a\n";
     EXPECT_EQ(host.play(script).status, 0);
     EXPECT_EQ(host.file("a.sketch"), kSquareFile);
 }
