@@ -14,7 +14,7 @@ namespace {
 
 constexpr POINT kPasteOffset = {12, 12}; // so that a copy does not lie on its original
 constexpr std::size_t kLongestText = 1000;
-constexpr char kDrawing[] = "SKETCHPAD ";
+constexpr char kBegin[] = "SKETCHPAD ";
 
 // The first line, without what no text may hold.
 std::wstring OneLine(const std::wstring& text)
@@ -61,7 +61,7 @@ void CSketchApp::OnEditCopy(UINT)
 void CSketchApp::OnEditPaste(UINT)
 {
     const std::wstring text = m_shell.GetClipboardText();
-    if (NarrowForDisplay(text.substr(0, sizeof kDrawing - 1)) == kDrawing)
+    if (NarrowForDisplay(text.substr(0, sizeof kBegin - 1)) == kBegin)
         PasteShapes(text);
     else
         PasteText(OneLine(text));

@@ -102,7 +102,8 @@ void Canvas::changeEvent(QEvent* event)
 void Canvas::takeDeskColor()
 {
     const QColor desk = palette().color(QPalette::Window).darker(112);
-    m_view.SetDeskColor(RGB(desk.red(), desk.green(), desk.blue()));
+    const auto part = [](int value) { return static_cast<BYTE>(value); };
+    m_view.SetDeskColor(RGB(part(desk.red()), part(desk.green()), part(desk.blue())));
 }
 
 void Canvas::mousePressEvent(QMouseEvent* event)

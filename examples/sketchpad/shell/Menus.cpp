@@ -30,7 +30,7 @@ std::vector<unsigned int> tools()
     for (unsigned int tool = TOOL_SELECT; tool < TOOL_PLUGIN; ++tool)
         ids.push_back(ID_TOOL_FIRST + tool);
     if (HasShapePlugIn())
-        ids.push_back(ID_TOOL_FIRST + TOOL_PLUGIN);
+        ids.push_back(CommandOf(TOOL_PLUGIN));
     return ids;
 }
 

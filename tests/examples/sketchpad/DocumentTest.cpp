@@ -15,7 +15,6 @@ namespace {
 
 const std::string kFirst = "SKETCHPAD 1\n";
 const std::string kLine = "line 0 1 000000 none 2 1,1 5,5";
-const std::string kDraw = "tool rectangle\ndrag 60,60 160,160\n";
 
 std::string lines(const std::string& line, int count)
 {
@@ -79,8 +78,8 @@ TEST_P(DamagedDocument, IsRefusedWithAReasonAndTheDrawingStays)
 {
     Host host;
     host.writeFile("bad.sketch", GetParam().content);
-    const SessionResult result =
-        host.play(kDraw + "answer discard\nanswer ok\nopen bad.sketch\nexpect shapes 1\nsave a\n");
+    const SessionResult result = host.play(
+        kDrawSquare + "answer discard\nanswer ok\nopen bad.sketch\nexpect shapes 1\nsave a\n");
     EXPECT_EQ(result.status, 0) << result.err;
     EXPECT_THAT(result.out, HasSubstr("cannot be opened: "));
     EXPECT_THAT(result.out, HasSubstr(GetParam().reason));
@@ -92,7 +91,7 @@ INSTANTIATE_TEST_SUITE_P(Sketchpad, DamagedDocument, testing::ValuesIn(kDamage),
 
 void expectRefused(Host& host, const std::string& name, const char* reason)
 {
-    const SessionResult result = host.play(kDraw + "answer discard\nanswer ok\nopen " + name +
+    const SessionResult result = host.play(kDrawSquare + "answer discard\nanswer ok\nopen " + name +
                                            "\nexpect shapes 1\nsave a\n");
     EXPECT_EQ(result.status, 0) << result.err;
     EXPECT_THAT(result.out, HasSubstr(reason));

@@ -9,9 +9,8 @@ using testing::HasSubstr;
 
 namespace {
 
-const std::string kDraw = "tool rectangle\ndrag 60,60 160,160\n";
 const std::string kEmptyFile = "SKETCHPAD 1\n";
-const std::string kSquare = "polygon 0 3 000000 none 4 60,60 160,60 160,160 60,160\n";
+const std::string kSquareLine = "polygon 0 3 000000 none 4 60,60 160,60 160,160 60,160\n";
 
 struct EditRow
 {
@@ -21,13 +20,14 @@ struct EditRow
 };
 
 const EditRow kEdits[] = {
-    {"Draw", "drag 10,10 20,20\n", kSquare + "polygon 0 3 000000 none 4 10,10 20,10 20,20 10,20\n"},
+    {"Draw", "drag 10,10 20,20\n",
+     kSquareLine + "polygon 0 3 000000 none 4 10,10 20,10 20,20 10,20\n"},
     {"Delete", "menu select-all\nkey delete\n", ""},
     {"Cut", "menu select-all\nmenu cut\n", ""},
     {"Paste", "menu select-all\nmenu copy\nmenu paste\n",
-     kSquare + "polygon 0 3 000000 none 4 72,72 172,72 172,172 72,172\n"},
+     kSquareLine + "polygon 0 3 000000 none 4 72,72 172,72 172,172 72,172\n"},
     {"PasteText", "clipboard some words\nmenu paste\n",
-     kSquare + "text 0 3 000000 none 1 188,236 some words\n"},
+     kSquareLine + "text 0 3 000000 none 1 188,236 some words\n"},
     {"MoveByKey", "menu select-all\nkey right\n",
      "polygon 0 3 000000 none 4 61,60 161,60 161,160 61,160\n"},
     {"MoveByMouse", "tool select\ndrag 100,100 105,100 110,90\n",
@@ -37,8 +37,9 @@ const EditRow kEdits[] = {
     {"Fill", "menu select-all\nmenu blue-fill\n",
      "polygon 0 3 000000 be4614 4 60,60 160,60 160,160 60,160\n"},
     {"Type", "tool text\ndrag 20,20\ntype Words\nkey return\n",
-     kSquare + "text 0 3 000000 none 1 20,20 Words\n"},
-    {"Insert", "tool line\nmenu insert\n", kSquare + "line 0 3 000000 none 2 326,206 426,266\n"},
+     kSquareLine + "text 0 3 000000 none 1 20,20 Words\n"},
+    {"Insert", "tool line\nmenu insert\n",
+     kSquareLine + "line 0 3 000000 none 2 326,206 426,266\n"},
 };
 
 class SketchpadEdit : public testing::TestWithParam<EditRow>
@@ -47,12 +48,12 @@ class SketchpadEdit : public testing::TestWithParam<EditRow>
 TEST_P(SketchpadEdit, IsUndoneAndMadeAgain)
 {
     Host host;
-    const SessionResult result =
-        host.play(kDraw + GetParam().commands + "save after\nmenu undo\nsave before\nmenu undo\n" +
-                  "save empty\nmenu redo\nmenu redo\nsave again\n");
+    const SessionResult result = host.play(kDrawSquare + GetParam().commands +
+                                           "save after\nmenu undo\nsave before\nmenu undo\n" +
+                                           "save empty\nmenu redo\nmenu redo\nsave again\n");
     EXPECT_EQ(result.status, 0) << result.out << result.err;
     EXPECT_EQ(host.file("after.sketch"), kEmptyFile + GetParam().after);
-    EXPECT_EQ(host.file("before.sketch"), kEmptyFile + kSquare);
+    EXPECT_EQ(host.file("before.sketch"), kEmptyFile + kSquareLine);
     EXPECT_EQ(host.file("empty.sketch"), kEmptyFile);
     EXPECT_EQ(host.file("again.sketch"), host.file("after.sketch"));
 }
@@ -72,7 +73,7 @@ std::string savedAfter(const std::string& script)
 
 TEST(SketchpadUndo, OfADeletionBringsEachShapeBackToItsPlace)
 {
-    const std::string three = kDraw + "drag 300,60 320,80\ndrag 60,300 80,320\n";
+    const std::string three = kDrawSquare + "drag 300,60 320,80\ndrag 60,300 80,320\n";
     const std::string drawn = savedAfter(three);
     EXPECT_EQ(savedAfter(three + "tool select\ndrag 50,50 70,400\nexpect selected 2\nkey delete\n"
                                  "expect shapes 1\nmenu undo\n"),
@@ -83,7 +84,7 @@ TEST(SketchpadUndo, EndsWithTheFirstOfAHundred)
 {
     std::string script;
     for (int i = 0; i < 103; ++i)
-        script += kDraw;
+        script += kDrawSquare;
     for (int i = 0; i < 110; ++i)
         script += "menu undo\n";
     Host host;
@@ -93,22 +94,24 @@ TEST(SketchpadUndo, EndsWithTheFirstOfAHundred)
 TEST(SketchpadUndo, BackToTheSavedStateLeavesNothingToSave)
 {
     Host host;
-    EXPECT_EQ(host.play(kDraw + "save a\n" + kDraw + "menu undo\nmenu new\n").status, 0);
+    EXPECT_EQ(host.play(kDrawSquare + "save a\n" + kDrawSquare + "menu undo\nmenu new\n").status,
+              0);
 }
 
 TEST(SketchpadUndo, BehindTheSavedStateLeavesSomethingToSave)
 {
     Host host;
-    const std::string script = kDraw + "save a\nmenu undo\n" + kDraw + "menu undo\nmenu redo\n";
+    const std::string script =
+        kDrawSquare + "save a\nmenu undo\n" + kDrawSquare + "menu undo\nmenu redo\n";
     EXPECT_EQ(host.play(script + "answer discard\nmenu new\n").status, 0);
 }
 
 TEST(SketchpadUndo, TakesMovesOfTheSameShapesForOne)
 {
-    std::string script = kDraw + "menu select-all\n";
+    std::string script = kDrawSquare + "menu select-all\n";
     for (int i = 0; i < 30; ++i)
         script += "key right\n";
-    EXPECT_EQ(savedAfter(script + "menu undo\n"), kSquare);
+    EXPECT_EQ(savedAfter(script + "menu undo\n"), kSquareLine);
     EXPECT_EQ(savedAfter(script + "menu undo\nmenu undo\n"), "");
 }
 
@@ -116,15 +119,15 @@ TEST(SketchpadUndo, CountsNothingThatChangesNothing)
 {
     Host host;
     const SessionResult result =
-        host.play(kDraw + "menu select-all\nmenu red-pen\nsave a\nmenu red-pen\nmenu undo\n"
-                          "save b\nmenu new\n");
+        host.play(kDrawSquare + "menu select-all\nmenu red-pen\nsave a\nmenu red-pen\nmenu undo\n"
+                                "save b\nmenu new\n");
     EXPECT_EQ(result.status, 0) << result.out << result.err;
-    EXPECT_EQ(host.file("b.sketch"), kEmptyFile + kSquare);
+    EXPECT_EQ(host.file("b.sketch"), kEmptyFile + kSquareLine);
 }
 
 TEST(SketchpadRedo, IsForgottenWithANewChange)
 {
-    EXPECT_EQ(savedAfter(kDraw + "menu undo\ndrag 10,10 20,20\nmenu redo\n"),
+    EXPECT_EQ(savedAfter(kDrawSquare + "menu undo\ndrag 10,10 20,20\nmenu redo\n"),
               "polygon 0 3 000000 none 4 10,10 20,10 20,20 10,20\n");
 }
 
@@ -166,8 +169,8 @@ TEST(SketchpadPaste, RefusesADamagedDrawing)
 
 TEST(SketchpadSelect, GoesFromShapeToShapeByKey)
 {
-    EXPECT_EQ(savedAfter(kDraw + "drag 10,10 20,20\nmenu select-next\nmenu select-next\n"
-                                 "menu select-next\nkey delete\n"),
+    EXPECT_EQ(savedAfter(kDrawSquare + "drag 10,10 20,20\nmenu select-next\nmenu select-next\n"
+                                       "menu select-next\nkey delete\n"),
               "polygon 0 3 000000 none 4 10,10 20,10 20,20 10,20\n");
 }
 

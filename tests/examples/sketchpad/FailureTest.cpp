@@ -12,8 +12,6 @@ namespace fs = std::filesystem;
 
 namespace {
 
-const std::string kDraw = "tool rectangle\ndrag 60,60 160,160\n";
-
 TEST(SketchpadOpen, TellsAMissingFileFromAFolder)
 {
     Host host;
@@ -28,7 +26,7 @@ TEST(SketchpadSave, BelowAFileSaysWhyAndKeepsTheDrawing)
     Host host;
     host.writeFile("file", "in the way");
     const SessionResult result =
-        host.play(kDraw + "answer ok\nsave file/a.sketch\nexpect shapes 1\nsave b\n");
+        host.play(kDrawSquare + "answer ok\nsave file/a.sketch\nexpect shapes 1\nsave b\n");
     EXPECT_EQ(result.status, 0) << result.err;
     EXPECT_THAT(result.out, HasSubstr("cannot be saved: there is no such folder"));
     EXPECT_EQ(host.file("file"), "in the way");
@@ -39,7 +37,8 @@ TEST(SketchpadSave, OverAFolderLeavesNoTemporaryFile)
 {
     Host host;
     fs::create_directory(host.work() / "a.sketch");
-    const SessionResult result = host.play(kDraw + "answer replace\nanswer ok\nsave a\nsave b\n");
+    const SessionResult result =
+        host.play(kDrawSquare + "answer replace\nanswer ok\nsave a\nsave b\n");
     EXPECT_EQ(result.status, 0) << result.err;
     EXPECT_THAT(result.out, HasSubstr("cannot be saved: it is a folder"));
     int files = 0;
@@ -51,8 +50,9 @@ TEST(SketchpadSave, OverAFolderLeavesNoTemporaryFile)
 TEST(SketchpadSave, RefusesNamesThatWindowsWouldNotTake)
 {
     Host host;
-    const SessionResult result = host.play(
-        kDraw + "answer ok\nsave a:b\nanswer ok\nsave what?\nanswer ok\nsave c\\d\nsave good\n");
+    const SessionResult result =
+        host.play(kDrawSquare +
+                  "answer ok\nsave a:b\nanswer ok\nsave what?\nanswer ok\nsave c\\d\nsave good\n");
     EXPECT_EQ(result.status, 0) << result.err;
     EXPECT_THAT(result.out, HasSubstr("a:b\u201d is no name for a file"));
     EXPECT_THAT(result.out, HasSubstr("what?\u201d is no name for a file"));
@@ -63,11 +63,11 @@ TEST(SketchpadSave, RefusesNamesThatWindowsWouldNotTake)
 TEST(SketchpadSave, LeavesTheFormerFileWhereTheNewOneCannotBeWritten)
 {
     Host host;
-    ASSERT_EQ(host.play(kDraw + "save a\n").status, 0);
+    ASSERT_EQ(host.play(kDrawSquare + "save a\n").status, 0);
     const std::string former = host.file("a.sketch");
     fs::create_directory(host.work() / "sub");
     const std::string longName = "sub/" + std::string(300, 'n');
-    EXPECT_EQ(host.play("open a.sketch\n" + kDraw + "answer ok\nsave " + longName +
+    EXPECT_EQ(host.play("open a.sketch\n" + kDrawSquare + "answer ok\nsave " + longName +
                         "\nexpect shapes 2\nanswer discard\nmenu new\n")
                   .status,
               0);
@@ -78,7 +78,7 @@ TEST(SketchpadPrint, BelowAFileSaysWhyNothingWasPrinted)
 {
     Host host;
     host.writeFile("file", "in the way");
-    const SessionResult result = host.play(kDraw + "answer ok\nprint file/a.pdf\nsave b\n");
+    const SessionResult result = host.play(kDrawSquare + "answer ok\nprint file/a.pdf\nsave b\n");
     EXPECT_EQ(result.status, 0) << result.err;
     EXPECT_THAT(result.out, HasSubstr("cannot be printed to: there is no such folder"));
     EXPECT_EQ(host.file("file"), "in the way");
@@ -88,7 +88,7 @@ TEST(SketchpadTexts, AreBuiltInWhereTheModuleIsMissing)
 {
     Host host;
     fs::remove(host.textsModule());
-    const SessionResult result = host.play(kDraw + "answer discard\nmenu new\n");
+    const SessionResult result = host.play(kDrawSquare + "answer discard\nmenu new\n");
     EXPECT_EQ(result.status, 0) << result.err;
     EXPECT_THAT(result.err, HasSubstr("The built-in texts are used: "));
     EXPECT_THAT(result.err, HasSubstr(host.textsModule().string() + ": "));
@@ -102,7 +102,7 @@ TEST(SketchpadTexts, AreBuiltInWhereTheModuleIsNoneAndSaysWhy)
                                                                            "ELF")}) {
         Host host;
         host.replaceFile(host.textsModule(), content);
-        const SessionResult result = host.play(kDraw + "answer discard\nmenu new\n");
+        const SessionResult result = host.play(kDrawSquare + "answer discard\nmenu new\n");
         EXPECT_EQ(result.status, 0) << result.err;
         EXPECT_THAT(result.err, HasSubstr("The built-in texts are used: "));
         EXPECT_THAT(result.err, HasSubstr(host.textsModule().string() + ": "));
@@ -113,7 +113,7 @@ TEST(SketchpadTexts, AreFoundInAFolderOfAnyNameInAnyLocale)
 {
     Host host("\u4e2d\u6587");
     host.environment.insert("LC_ALL", "C");
-    const SessionResult result = host.play(kDraw + "answer discard\nmenu new\n");
+    const SessionResult result = host.play(kDrawSquare + "answer discard\nmenu new\n");
     EXPECT_EQ(result.status, 0) << result.err;
     EXPECT_EQ(result.err, "");
     EXPECT_THAT(result.out, HasSubstr("has unsaved changes.  Save them? [discard]"));
@@ -141,7 +141,7 @@ TEST(SketchpadDefaults, AreBuiltInWhereTheIniFileIsAFolder)
     Host host;
     fs::remove(host.program() / "sketchpad.ini");
     fs::create_directory(host.program() / "sketchpad.ini");
-    const SessionResult result = host.play(kDraw + "save a\n");
+    const SessionResult result = host.play(kDrawSquare + "save a\n");
     EXPECT_EQ(result.status, 0) << result.err;
     EXPECT_THAT(result.err, HasSubstr("sketchpad.ini is a folder"));
     EXPECT_THAT(host.file("a.sketch"), HasSubstr("polygon 0 2 000000 none"));
@@ -151,7 +151,7 @@ TEST(SketchpadDefaults, AreBuiltInWhereTheIniFileIsMissing)
 {
     Host host;
     fs::remove(host.program() / "sketchpad.ini");
-    const SessionResult result = host.play(kDraw + "save a\n");
+    const SessionResult result = host.play(kDrawSquare + "save a\n");
     EXPECT_EQ(result.status, 0) << result.err;
     EXPECT_THAT(result.err, HasSubstr("sketchpad.ini is missing or may not be written"));
 }

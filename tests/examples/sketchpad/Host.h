@@ -17,6 +17,11 @@ struct SessionResult
     std::string err;
 };
 
+// What draws a square, and the file of that drawing.
+inline const std::string kDrawSquare = "tool rectangle\ndrag 60,60 160,160\n";
+inline const std::string kSquareFile =
+    "SKETCHPAD 1\npolygon 0 3 000000 none 4 60,60 160,60 160,160 60,160\n";
+
 class Host
 {
 public:

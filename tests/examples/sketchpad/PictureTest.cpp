@@ -15,14 +15,14 @@
 
 namespace {
 
-const char* const kDraw = "resize 300,260\npen solid 3 000000\nfill f5cdaa\ntool ellipse\n"
-                          "drag 30,30 230,150\nscreenshot a.png\nanswer discard\nmenu new\n";
+const char* const kDrawEllipse = "resize 300,260\npen solid 3 000000\nfill f5cdaa\ntool ellipse\n"
+                                 "drag 30,30 230,150\nscreenshot a.png\nanswer discard\nmenu new\n";
 
 QImage pictureAt(const char* ratio)
 {
     Host host;
     host.environment.insert("QT_SCALE_FACTOR", ratio);
-    const SessionResult result = host.play(kDraw);
+    const SessionResult result = host.play(kDrawEllipse);
     EXPECT_EQ(result.status, 0) << result.err;
     return QImage((host.work() / "a.png").c_str());
 }

@@ -17,10 +17,6 @@ namespace fs = std::filesystem;
 
 namespace {
 
-const std::string kDraw = "tool rectangle\ndrag 60,60 160,160\n";
-const std::string kSquareFile =
-    "SKETCHPAD 1\npolygon 0 3 000000 none 4 60,60 160,60 160,160 60,160\n";
-
 // More than a kibibyte of drawing.
 std::string drawMuch()
 {
@@ -43,7 +39,7 @@ TEST(SketchpadSave, KeepsTheFilesPermissions)
     host.writeFile("a.sketch", "SKETCHPAD 1\n");
     const fs::path file = host.work() / "a.sketch";
     fs::permissions(file, fs::perms::owner_read | fs::perms::owner_write);
-    ASSERT_EQ(host.play("open a.sketch\n" + kDraw + "save\n").status, 0);
+    ASSERT_EQ(host.play("open a.sketch\n" + kDrawSquare + "save\n").status, 0);
     EXPECT_EQ(readFile(file), kSquareFile);
     EXPECT_EQ(fs::status(file).permissions(), fs::perms::owner_read | fs::perms::owner_write);
 }
@@ -54,7 +50,7 @@ TEST(SketchpadSave, FollowsASymbolicLink)
     fs::create_directory(host.work() / "far");
     host.writeFile("far/real.sketch", "SKETCHPAD 1\n");
     fs::create_symlink("far/real.sketch", host.work() / "a.sketch");
-    ASSERT_EQ(host.play("open a.sketch\n" + kDraw + "save\n").status, 0);
+    ASSERT_EQ(host.play("open a.sketch\n" + kDrawSquare + "save\n").status, 0);
     EXPECT_TRUE(fs::is_symlink(host.work() / "a.sketch"));
     EXPECT_EQ(host.file("far/real.sketch"), kSquareFile);
 }
@@ -62,7 +58,7 @@ TEST(SketchpadSave, FollowsASymbolicLink)
 TEST(SketchpadSave, OnAFullDiskSaysSoAndLeavesTheFormerFile)
 {
     Host host;
-    ASSERT_EQ(host.play(kDraw + "save a\n").status, 0);
+    ASSERT_EQ(host.play(kDrawSquare + "save a\n").status, 0);
     const SessionResult result = host.playWithLimit(
         1, "open a.sketch\n" + drawMuch() + "answer ok\nsave\nanswer discard\nmenu new\n");
     EXPECT_EQ(result.status, 0) << result.out << result.err;
@@ -76,7 +72,7 @@ TEST(SketchpadPrint, OnAFullDiskSaysSoAndLeavesTheFormerFile)
     Host host;
     host.writeFile("a.pdf", "the former one");
     const SessionResult result = host.playWithLimit(
-        1, kDraw + "answer replace\nanswer ok\nprint a.pdf\nanswer discard\nmenu new\n");
+        1, kDrawSquare + "answer replace\nanswer ok\nprint a.pdf\nanswer discard\nmenu new\n");
     EXPECT_EQ(result.status, 0) << result.out << result.err;
     EXPECT_THAT(result.out, HasSubstr("cannot be printed to: the file would be too large. [ok]"));
     EXPECT_THAT(result.out, Not(HasSubstr("Printed to")));
@@ -88,7 +84,7 @@ TEST(SketchpadSave, KeepsTheOtherFileWithoutAnAnswer)
 {
     Host host;
     host.writeFile("a.sketch", "former");
-    EXPECT_EQ(host.play(kDraw + "save a\nanswer discard\nmenu new\n").status, 1);
+    EXPECT_EQ(host.play(kDrawSquare + "save a\nanswer discard\nmenu new\n").status, 1);
     EXPECT_EQ(host.file("a.sketch"), "former");
 }
 
@@ -98,7 +94,7 @@ TEST(SketchpadSave, LeavesAWriteProtectedFile)
     host.writeFile("a.sketch", "SKETCHPAD 1\n");
     fs::permissions(host.work() / "a.sketch", fs::perms::owner_read);
     const SessionResult result =
-        host.play("open a.sketch\n" + kDraw + "answer ok\nsave\nanswer discard\nmenu new\n");
+        host.play("open a.sketch\n" + kDrawSquare + "answer ok\nsave\nanswer discard\nmenu new\n");
     EXPECT_EQ(result.status, 0) << result.out << result.err;
     EXPECT_THAT(result.out, HasSubstr("cannot be saved: it is write-protected"));
     EXPECT_EQ(host.file("a.sketch"), "SKETCHPAD 1\n");
@@ -120,7 +116,7 @@ TEST(SketchpadSave, WritesWhatCanBeOpenedAgain)
 TEST(SketchpadPrint, WritesAWholeFile)
 {
     Host host;
-    ASSERT_EQ(host.play(kDraw + "print a\nanswer discard\nmenu new\n").status, 0);
+    ASSERT_EQ(host.play(kDrawSquare + "print a\nanswer discard\nmenu new\n").status, 0);
     EXPECT_THAT(host.file("a.pdf"), StartsWith("%PDF-"));
     EXPECT_THAT(host.file("a.pdf"), EndsWith("%%EOF\n"));
 }
@@ -129,14 +125,14 @@ TEST(SketchpadPrint, WritesAWholeFile)
 TEST(SketchpadClose, SavesDiscardsOrStays)
 {
     Host host;
-    ASSERT_EQ(host.play(kDraw + "save a\n").status, 0);
-    ASSERT_EQ(host.play("open a.sketch\nkey delete\n" + kDraw + "answer save\n").status, 0);
+    ASSERT_EQ(host.play(kDrawSquare + "save a\n").status, 0);
+    ASSERT_EQ(host.play("open a.sketch\nkey delete\n" + kDrawSquare + "answer save\n").status, 0);
     EXPECT_THAT(host.file("a.sketch"), StartsWith(kSquareFile));
     const std::string saved = host.file("a.sketch");
     EXPECT_NE(saved, kSquareFile);
-    ASSERT_EQ(host.play("open a.sketch\n" + kDraw + "answer discard\n").status, 0);
+    ASSERT_EQ(host.play("open a.sketch\n" + kDrawSquare + "answer discard\n").status, 0);
     EXPECT_EQ(host.file("a.sketch"), saved);
-    const SessionResult stays = host.play("open a.sketch\n" + kDraw + "answer cancel\n");
+    const SessionResult stays = host.play("open a.sketch\n" + kDrawSquare + "answer cancel\n");
     EXPECT_EQ(stays.status, 1);
     EXPECT_THAT(stays.err, HasSubstr("the window did not close"));
 }
@@ -144,7 +140,7 @@ TEST(SketchpadClose, SavesDiscardsOrStays)
 TEST(SketchpadClose, StaysWhereSavingFails)
 {
     Host host;
-    ASSERT_EQ(host.play(kDraw + "save a\n").status, 0);
+    ASSERT_EQ(host.play(kDrawSquare + "save a\n").status, 0);
     const SessionResult result =
         host.playWithLimit(1, "open a.sketch\n" + drawMuch() +
                                   "answer save\nanswer ok\nmenu new\nexpect shapes 2\n"
@@ -155,7 +151,7 @@ TEST(SketchpadClose, StaysWhereSavingFails)
 TEST(SketchpadAutosave, OutlivesAKilledProgramAndIsOfferedAtTheNextStart)
 {
     Host host;
-    ASSERT_EQ(host.play(kDraw + "save a\n").status, 0);
+    ASSERT_EQ(host.play(kDrawSquare + "save a\n").status, 0);
     ASSERT_EQ(host.play("open a.sketch\n" + drawMuch() + "autosave\ndie\n").status, 3);
     EXPECT_EQ(host.file("a.sketch"), kSquareFile);
     const SessionResult result =
@@ -170,7 +166,7 @@ TEST(SketchpadAutosave, OutlivesAKilledProgramAndIsOfferedAtTheNextStart)
 TEST(SketchpadAutosave, StaysForAnotherTimeUntilItIsDeletedOrTaken)
 {
     Host host;
-    ASSERT_EQ(host.play(kDraw + "autosave\ndie\n").status, 3);
+    ASSERT_EQ(host.play(kDrawSquare + "autosave\ndie\n").status, 3);
     EXPECT_EQ(host.play("answer later\nrecover\nexpect shapes 0\n").status, 0);
     EXPECT_EQ(host.play("recover\nexpect shapes 0\n").status, 1) << "the box was closed";
     EXPECT_EQ(host.play("answer delete\nrecover\nexpect shapes 0\nrecover\n").status, 0);
@@ -191,7 +187,7 @@ TEST(SketchpadAutosave, ThatCannotBeReadIsToldAndStays)
 TEST(SketchpadAutosave, IsNotWrittenOverByAnotherProgram)
 {
     Host host;
-    ASSERT_EQ(host.play(kDraw + "autosave\ndie\n").status, 3);
+    ASSERT_EQ(host.play(kDrawSquare + "autosave\ndie\n").status, 3);
     ASSERT_EQ(host.play(drawMuch() + "autosave\ndie\n").status, 3);
     EXPECT_EQ(readFile(host.data() / "untitled.autosave"), kSquareFile);
     EXPECT_THAT(readFile(host.data() / "untitled-2.autosave"), HasSubstr("line"));
@@ -200,7 +196,7 @@ TEST(SketchpadAutosave, IsNotWrittenOverByAnotherProgram)
 TEST(SketchpadAutosave, ThatIsOlderThanItsDrawingIsNotOffered)
 {
     Host host;
-    ASSERT_EQ(host.play(kDraw + "save a\n").status, 0);
+    ASSERT_EQ(host.play(kDrawSquare + "save a\n").status, 0);
     ASSERT_EQ(host.play("open a.sketch\n" + drawMuch() + "autosave\ndie\n").status, 3);
     fs::last_write_time(host.work() / "a.sketch",
                         fs::file_time_type::clock::now() + std::chrono::hours(1));
@@ -220,14 +216,14 @@ TEST(SketchpadAutosave, HoldsWhatIsBeingTypedAndIsPrivate)
 TEST(SketchpadAutosave, GoesWhenTheChangesAreUndone)
 {
     Host host;
-    EXPECT_EQ(host.play(kDraw + "autosave\nmenu undo\nautosave\ndie\n").status, 3);
+    EXPECT_EQ(host.play(kDrawSquare + "autosave\nmenu undo\nautosave\ndie\n").status, 3);
     EXPECT_FALSE(fs::exists(host.data() / "untitled.autosave"));
 }
 
 TEST(SketchpadAutosave, IsOfferedWhenItsDrawingIsOpened)
 {
     Host host;
-    ASSERT_EQ(host.play(kDraw + "save a\n").status, 0);
+    ASSERT_EQ(host.play(kDrawSquare + "save a\n").status, 0);
     ASSERT_EQ(host.play("open a.sketch\n" + drawMuch() + "autosave\ndie\n").status, 3);
     const SessionResult result =
         host.play("answer delete\nopen a.sketch\nexpect shapes 1\nopen a.sketch\n");
@@ -238,7 +234,7 @@ TEST(SketchpadAutosave, IsOfferedWhenItsDrawingIsOpened)
 TEST(SketchpadAutosave, OfADrawingWithoutANameLiesInTheProgramsOwnFolder)
 {
     Host host;
-    ASSERT_EQ(host.play(kDraw + "autosave\ndie\n").status, 3);
+    ASSERT_EQ(host.play(kDrawSquare + "autosave\ndie\n").status, 3);
     EXPECT_EQ(readFile(host.data() / "untitled.autosave"), kSquareFile);
     const SessionResult result =
         host.play("answer yes\nrecover\nexpect shapes 1\nanswer discard\nmenu new\n");
@@ -251,15 +247,15 @@ TEST(SketchpadAutosave, IsNotWrittenWithoutAChangeAndGoesWithTheProgram)
     Host host;
     ASSERT_EQ(host.play("autosave\n").status, 0);
     EXPECT_FALSE(fs::exists(host.data() / "untitled.autosave"));
-    ASSERT_EQ(host.play(kDraw + "autosave\nanswer discard\nmenu new\n").status, 0);
+    ASSERT_EQ(host.play(kDrawSquare + "autosave\nanswer discard\nmenu new\n").status, 0);
     EXPECT_EQ(filesIn(host.data()), 0);
 }
 
 TEST(SketchpadAutosave, OfAProgramThatStillRunsIsLeftAlone)
 {
     Host host;
-    host.writeFile("other.script", kDraw + "autosave\n");
-    ASSERT_EQ(host.play(kDraw + "autosave\ndie\n").status, 3);
+    host.writeFile("other.script", kDrawSquare + "autosave\n");
+    ASSERT_EQ(host.play(kDrawSquare + "autosave\ndie\n").status, 3);
     // The lock of a process that lives: this one's.
     const fs::path lock = host.data() / "untitled.autosave.lock";
     std::string content = readFile(lock);

@@ -17,10 +17,6 @@ using testing::StartsWith;
 
 namespace {
 
-constexpr char kSquare[] = "tool rectangle\ndrag 60,60 160,160\n";
-constexpr char kSquareFile[] =
-    "SKETCHPAD 1\npolygon 0 3 000000 none 4 60,60 160,60 160,160 60,160\n";
-
 int countPixels(const QImage& image, QRgb color)
 {
     int count = 0;
@@ -59,7 +55,7 @@ TEST(SketchpadSession, ShowsWhatItDrew)
 TEST(SketchpadDocument, IsWhatWasDrawn)
 {
     Host host;
-    const SessionResult result = host.play(std::string(kSquare) + "save a.sketch\n");
+    const SessionResult result = host.play(kDrawSquare + "save a.sketch\n");
     EXPECT_EQ(result.status, 0) << result.err;
     EXPECT_EQ(host.file("a.sketch"), kSquareFile);
     EXPECT_THAT(result.out, HasSubstr("line: Saved a.sketch\n"));
@@ -79,10 +75,10 @@ TEST(SketchpadDocument, IsReplacedOnlyWhenItsUserSaysSo)
 {
     Host host;
     host.writeFile("a.sketch", "former");
-    std::string script = std::string(kSquare) + "answer cancel\nsave a\nsave b\n";
+    std::string script = kDrawSquare + "answer cancel\nsave a\nsave b\n";
     EXPECT_EQ(host.play(script).status, 0);
     EXPECT_EQ(host.file("a.sketch"), "former");
-    script = std::string(kSquare) + "answer replace\nsave a\n";
+    script = kDrawSquare + "answer replace\nsave a\n";
     EXPECT_EQ(host.play(script).status, 0);
     EXPECT_EQ(host.file("a.sketch"), kSquareFile);
 }
@@ -90,7 +86,7 @@ TEST(SketchpadDocument, IsReplacedOnlyWhenItsUserSaysSo)
 TEST(SketchpadDocument, IsNotDiscardedWithoutAnAnswer)
 {
     Host host;
-    const SessionResult result = host.play(std::string(kSquare) + "menu new\nexpect shapes 1\n" +
+    const SessionResult result = host.play(kDrawSquare + "menu new\nexpect shapes 1\n" +
                                            "answer discard\nmenu new\nexpect shapes 0\n");
     EXPECT_EQ(result.status, 1);
     EXPECT_THAT(result.err, HasSubstr("no answer was ready for this box"));
@@ -100,7 +96,7 @@ TEST(SketchpadDocument, IsNotDiscardedWithoutAnAnswer)
 TEST(SketchpadDocument, IsCopiedUnderAFreeName)
 {
     Host host;
-    EXPECT_EQ(host.play(std::string(kSquare) + "save a\ncopy\ncopy\n").status, 0);
+    EXPECT_EQ(host.play(kDrawSquare + "save a\ncopy\ncopy\n").status, 0);
     int copies = 0;
     for (const auto& entry : std::filesystem::directory_iterator(host.work())) {
         const std::string name = entry.path().filename();
@@ -127,7 +123,7 @@ TEST(SketchpadMessages, OfUnknownNumbersDoNothing)
 TEST(SketchpadSettings, KeepTheRecentFilesNewestFirst)
 {
     Host host;
-    ASSERT_EQ(host.play(std::string(kSquare) + "save a\nsave b\nopen a.sketch\n").status, 0);
+    ASSERT_EQ(host.play(kDrawSquare + "save a\nsave b\nopen a.sketch\n").status, 0);
     const std::string store = readFile(host.settings());
     const std::string work = host.work().string();
     EXPECT_THAT(store, HasSubstr("[Software%5CSketchpad%5CRecent]\nFile1=" + work + "/a.sketch\n" +
@@ -138,7 +134,7 @@ TEST(SketchpadSettings, HoldNamesLongerThanTheFirstBuffer)
 {
     Host host;
     const std::string name(200, 'n');
-    ASSERT_EQ(host.play(std::string(kSquare) + "save " + name + "\n").status, 0);
+    ASSERT_EQ(host.play(kDrawSquare + "save " + name + "\n").status, 0);
     EXPECT_EQ(host.play("menu recent\nexpect shapes 1\n").status, 0);
     EXPECT_THAT(readFile(host.settings()), HasSubstr("/" + name + ".sketch\n"));
 }
@@ -170,7 +166,7 @@ TEST(SketchpadDefaults, ComeFromTheIniFileBesideIt)
 {
     Host host;
     writeFile(host.program() / "sketchpad.ini", "[Sketchpad]\nPenWidth=7\nPenColor=0x0000ff\n");
-    ASSERT_EQ(host.play(std::string(kSquare) + "save a\n").status, 0);
+    ASSERT_EQ(host.play(kDrawSquare + "save a\n").status, 0);
     EXPECT_EQ(host.file("a.sketch"),
               "SKETCHPAD 1\npolygon 0 7 0000ff none 4 60,60 160,60 160,160 60,160\n");
 }
@@ -179,7 +175,7 @@ TEST(SketchpadDefaults, KeepToWhatAPenMayBe)
 {
     Host host;
     writeFile(host.program() / "sketchpad.ini", "[Sketchpad]\nPenWidth=-5\nPenColor=red\n");
-    ASSERT_EQ(host.play(std::string(kSquare) + "save a\n").status, 0);
+    ASSERT_EQ(host.play(kDrawSquare + "save a\n").status, 0);
     EXPECT_THAT(host.file("a.sketch"), HasSubstr("polygon 0 0 000000 none"));
 }
 
