@@ -4,6 +4,7 @@
 #include "Files.h"
 #include "GalleryWindow.h"
 
+#include <QtGui/QScreen>
 #include <QtWidgets/QApplication>
 #include <QtWidgets/QScrollArea>
 
@@ -14,7 +15,7 @@ int showWindow()
     GalleryWindow gallery;
     QScrollArea area;
     area.setWidget(&gallery);
-    area.resize(gallery.width() + 24, 700);
+    area.resize(QSize(gallery.width() + 24, 700).boundedTo(area.screen()->availableSize()));
     area.setWindowTitle(QStringLiteral("Gallery"));
     area.show();
     const int status = QApplication::exec();

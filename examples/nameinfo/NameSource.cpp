@@ -14,6 +14,8 @@
 
 namespace {
 
+constexpr char kByteOrderMark[] = "\xEF\xBB\xBF"; // which editors on Windows write
+
 bool isStandardInput(const std::string& list)
 {
     return list == "-";
@@ -81,6 +83,8 @@ void takeLines(int file, const std::string& title, const Takers& takers)
     LineReader::Found found = reader.next(line);
     for (int number = 1; found != LineReader::Found::End; ++number) {
         const std::string place = title + ":" + std::to_string(number);
+        if (number == 1 && line.rfind(kByteOrderMark, 0) == 0)
+            line.erase(0, std::strlen(kByteOrderMark));
         if (found == LineReader::Found::LongLine)
             takers.takeError(place + tooLong);
         else

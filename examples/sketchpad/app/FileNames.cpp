@@ -10,7 +10,7 @@ namespace fs = std::filesystem;
 
 namespace {
 
-constexpr int kLongestSegment = 255;
+constexpr std::size_t kLongestSegment = 255;
 constexpr int kMenuWidth = 36;
 
 // Drawings are also used on Windows machines, so their names must be valid on NTFS.
@@ -68,6 +68,10 @@ bool TakeSaveName(const std::wstring& typed, const wchar_t* extension, CRnUiPath
                   bool& added, std::wstring& reason)
 {
     const std::wstring segment = FileNameOf(typed);
+    if (segment.size() > kLongestSegment) {
+        reason = kUnusableName;
+        return false;
+    }
     if (segment.empty() || !IsValidSegment(segment)) {
         reason = L"a name must not be empty nor hold any of * : < > ? / \\ | \"";
         return false;

@@ -86,6 +86,14 @@ bool IsAllowed(const CShape& shape)
            std::none_of(shape.points.begin(), shape.points.end(), IsTooFar);
 }
 
+bool IsVisible(const CShape& shape)
+{
+    const POINT first = shape.points.front();
+    return shape.kind == ShapeKind::Text ||
+           std::any_of(shape.points.begin(), shape.points.end(),
+                       [first](POINT point) { return point.x != first.x || point.y != first.y; });
+}
+
 bool IsSame(const CShape& a, const CShape& b)
 {
     const auto same = [](POINT one, POINT other) { return one.x == other.x && one.y == other.y; };

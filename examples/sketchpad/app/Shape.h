@@ -61,6 +61,9 @@ bool IsTooFar(POINT point);
 bool IsAllowed(const CPenInfo& pen);
 bool IsAllowed(const CShape& shape);
 
+// A click without a drag makes a figure without a size, which nobody would see.
+bool IsVisible(const CShape& shape);
+
 bool IsSame(const CShape& a, const CShape& b);
 
 // A shape that lies elsewhere.

@@ -99,7 +99,7 @@ bool ShapeFromText(const std::string& line, CShape& shape, std::wstring& problem
         problem = L"a point is missing or wrong (a shape has at most 100,000, none is farther than "
                   L"30,000)";
     else if (!ReadText(stream, shape))
-        problem = L"the text is missing, or there is one too many";
+        problem = L"the text is missing, not UTF-8, or one too many";
     return problem.empty();
 }
 

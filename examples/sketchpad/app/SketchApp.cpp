@@ -9,6 +9,7 @@
 #include "Texts.h"
 
 #include <algorithm>
+#include <iterator>
 
 const CSketchApp::CommandEntry CSketchApp::kCommandMap[] = {
     {ID_FILE_NEW, ID_FILE_NEW, &CSketchApp::OnFileNew},
@@ -81,8 +82,9 @@ void CSketchApp::OnAutosave()
 void CSketchApp::ShowSelection()
 {
     const int selected = m_view.CountSelected();
-    if (selected != m_nShownSelected && selected > 0)
-        m_shell.ShowLine(Text(IDS_SELECTED, std::to_wstring(selected)));
+    if (selected != m_nShownSelected)
+        m_shell.ShowLine(selected ? Text(IDS_SELECTED, std::to_wstring(selected))
+                                  : Text(IDS_READY));
     m_nShownSelected = selected;
 }
 
@@ -94,6 +96,8 @@ CCommandState Named(std::optional<TextId> name, TextId text)
         return {false, false, std::wstring()};
     return {true, false, Text(text, Text(*name))};
 }
+
+constexpr int kZooms[] = {25, 33, 50, 67, 80, 100, 125, 150, 200, 300, 400};
 
 bool IsOfSelection(UINT id)
 {
@@ -169,12 +173,16 @@ void CSketchApp::Zoom(int percent)
 
 void CSketchApp::OnZoomIn(UINT)
 {
-    Zoom(m_view.GetZoom() * 5 / 4);
+    const auto* const next =
+        std::upper_bound(std::begin(kZooms), std::end(kZooms), m_view.GetZoom());
+    Zoom(next == std::end(kZooms) ? m_view.GetZoom() : *next);
 }
 
 void CSketchApp::OnZoomOut(UINT)
 {
-    Zoom(m_view.GetZoom() * 4 / 5);
+    const auto* const next =
+        std::lower_bound(std::begin(kZooms), std::end(kZooms), m_view.GetZoom());
+    Zoom(next == std::begin(kZooms) ? m_view.GetZoom() : *(next - 1));
 }
 
 void CSketchApp::OnZoomFull(UINT)

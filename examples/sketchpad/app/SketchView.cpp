@@ -131,7 +131,7 @@ void CSketchView::OnChar(WPARAM character, LPARAM)
 
 void CSketchView::OnAddShape(WPARAM, LPARAM shape)
 {
-    if (const auto added = CopyFrom<CShape>(shape); added && IsAllowed(*added))
+    if (const auto added = CopyFrom<CShape>(shape); added && IsAllowed(*added) && IsVisible(*added))
         m_document.AddShapes(IDS_UNDO_ADD, {*added});
     Changed();
 }

@@ -63,6 +63,8 @@ void BoxAnswerer::choose(QFileDialog* dialog)
     m_seen = nullptr;
     const QPointer<QFileDialog> alive(dialog);
     auto* name = dialog->findChild<QLineEdit*>("fileNameEdit");
+    if (m_choices.isEmpty() && answered)
+        answered(dialog->windowTitle(), QString());
     if (name && !m_choices.isEmpty()) {
         name->setText(m_choices.takeFirst());
         QMetaObject::invokeMethod(dialog, "accept");

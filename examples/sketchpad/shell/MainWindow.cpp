@@ -66,6 +66,7 @@ void MainWindow::makeStatusLine()
 {
     m_line = new QLabel(this);
     m_line->setMinimumWidth(1);
+    m_line->setTextFormat(Qt::PlainText);
     statusBar()->addWidget(m_line, 1);
 }
 
@@ -135,6 +136,7 @@ Answer MainWindow::Ask(const CQuestion& question)
     box.button(QMessageBox::Cancel)->setText(toQt(Text(question.cancel)));
     if (question.no)
         box.addButton(QMessageBox::No)->setText(toQt(Text(*question.no)));
+    box.setTextFormat(Qt::PlainText);
     box.setEscapeButton(QMessageBox::Cancel);
     box.setDefaultButton(question.safe == Answer::Yes ? QMessageBox::Yes : QMessageBox::Cancel);
     const int button = box.exec();
@@ -145,8 +147,10 @@ Answer MainWindow::Ask(const CQuestion& question)
 
 void MainWindow::Report(const std::wstring& text)
 {
-    QMessageBox(QMessageBox::Warning, toQt(Text(IDS_APPTITLE)), toQt(text), QMessageBox::Ok, this)
-        .exec();
+    QMessageBox box(QMessageBox::Warning, toQt(Text(IDS_APPTITLE)), toQt(text), QMessageBox::Ok,
+                    this);
+    box.setTextFormat(Qt::PlainText);
+    box.exec();
 }
 
 // The tabs of a list need rich text.

@@ -96,15 +96,18 @@ int run(QApplication& application, MainWindow& window, const Arguments& argument
 
 int main(int argc, char** argv)
 {
+    const Arguments arguments = readArguments(argc, argv);
+    if (!arguments.understood || arguments.help) {
+        (arguments.help ? std::cout : std::cerr) << kUsage << std::flush;
+        return arguments.help && std::cout ? 0 : kBadInput;
+    }
     // A screen of one and a half times the usual density gets just that.
     QGuiApplication::setHighDpiScaleFactorRoundingPolicy(
         Qt::HighDpiScaleFactorRoundingPolicy::PassThrough);
+#if QT_VERSION < QT_VERSION_CHECK(6, 0, 0)
+    QApplication::setAttribute(Qt::AA_UseHighDpiPixmaps); // Qt 6 always does
+#endif
     QApplication application(argc, argv);
-    const Arguments arguments = readArguments(argc, argv);
-    if (!arguments.understood || arguments.help) {
-        (arguments.help ? std::cout : std::cerr) << kUsage;
-        return arguments.help ? 0 : kBadInput;
-    }
     if (arguments.dark)
         useDarkColors();
     const std::wstring textsMissing = LoadTexts();

@@ -56,6 +56,14 @@ std::string nameOfLine(const std::string& list, int number)
 
 } // namespace
 
+TEST(Nameinfo, PassesOverTheByteOrderMarkOfAList)
+{
+    EXPECT_EQ(runProgram(NAMEINFO, {"--csv", "--columns", "name,category", "--list", "-"},
+                         "\xEF\xBB\xBF/tmp\n")
+                  .out,
+              "name,category\r\n/tmp,rooted\r\n");
+}
+
 TEST(Nameinfo, AnswersEveryLineOfItsOwnList)
 {
     const ProgramResult result = runNameinfo({"--list", NAMES_LIST});

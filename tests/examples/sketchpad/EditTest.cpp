@@ -167,6 +167,12 @@ TEST(SketchpadPaste, RefusesADamagedDrawing)
     EXPECT_THAT(result.out, HasSubstr("cannot be pasted: it is not a drawing of this program"));
 }
 
+TEST(SketchpadDraw, MakesNothingOfAClick)
+{
+    for (const char* tool : {"freehand", "line", "rectangle", "ellipse", "star"})
+        EXPECT_EQ(savedAfter(std::string("tool ") + tool + "\ndrag 60,60\n"), "") << tool;
+}
+
 TEST(SketchpadSelect, GoesFromShapeToShapeByKey)
 {
     EXPECT_EQ(savedAfter(kDrawSquare + "drag 10,10 20,20\nmenu select-next\nmenu select-next\n"
@@ -195,6 +201,15 @@ TEST(SketchpadZoom, KeepsThePlacesOfTheDrawing)
     EXPECT_EQ(result.status, 0) << result.out << result.err;
     EXPECT_EQ(host.file("a.sketch"),
               "SKETCHPAD 1\npolygon 0 3 000000 none 4 80,80 160,80 160,160 80,160\n");
+}
+
+TEST(SketchpadZoom, ComesBackToTheFullSize)
+{
+    Host host;
+    EXPECT_EQ(host.play("menu zoom-in\nmenu zoom-in\nmenu zoom-out\nmenu zoom-out\n"
+                        "expect zoom 100\n")
+                  .status,
+              0);
 }
 
 TEST(SketchpadZoom, FitsTheWindowAndHasLimits)

@@ -119,6 +119,15 @@ TEST(SketchpadTexts, AreFoundInAFolderOfAnyNameInAnyLocale)
     EXPECT_THAT(result.out, HasSubstr("has unsaved changes.  Save them? [discard]"));
 }
 
+TEST(SketchpadSave, SaysThatANameIsTooLong)
+{
+    Host host;
+    const SessionResult result = host.play(kDrawSquare + "answer ok\nsave " +
+                                           std::string(256, 'n') + "\nanswer discard\nmenu new\n");
+    EXPECT_EQ(result.status, 0) << result.out << result.err;
+    EXPECT_THAT(result.out, HasSubstr("the name is too long"));
+}
+
 TEST(SketchpadPlugIn, MayBeMissing)
 {
     Host host;

@@ -11,12 +11,15 @@
 #include <QAction>
 #include <QtCore/QFile>
 #include <QtCore/QFileInfo>
+#include <QtCore/QTimer>
 #include <QtGui/QAccessible>
 #include <QtGui/QClipboard>
 #include <QtGui/QImage>
 #include <QtWidgets/QApplication>
+#include <QtWidgets/QLabel>
 #include <QtWidgets/QMenu>
 #include <QtWidgets/QMenuBar>
+#include <QtWidgets/QMessageBox>
 #include <QtWidgets/QScrollArea>
 #include <QtWidgets/QScrollBar>
 #include <QtWidgets/QToolBar>
@@ -186,6 +189,19 @@ TEST_F(SketchpadMainWindow, OffersWhatNeedsASelectionOnlyWithOne)
     command(ID_EDIT_SELECT_ALL);
     for (UINT id : {ID_EDIT_CUT, ID_EDIT_COPY, ID_EDIT_CLEAR})
         EXPECT_TRUE(action(id)->isEnabled()) << id;
+}
+
+TEST_F(SketchpadMainWindow, ShowsNamesAsTheyAre)
+{
+    window->ShowLine(L"Opened q<i>x.sketch");
+    EXPECT_EQ(window->findChild<QLabel*>()->textFormat(), Qt::PlainText);
+    QTimer::singleShot(0, [] {
+        auto* box = qobject_cast<QMessageBox*>(QApplication::activeModalWidget());
+        ASSERT_TRUE(box);
+        EXPECT_EQ(box->textFormat(), Qt::PlainText);
+        box->reject();
+    });
+    window->Report(L"<b>");
 }
 
 TEST_F(SketchpadMainWindow, StarsTheTitleWhileATextIsTyped)

@@ -189,6 +189,25 @@ TEST(SketchpadScript, IsRefusedWhereItCannotBeRead)
     EXPECT_THAT(process->readAllStandardError().toStdString(), HasSubstr("none cannot be read"));
 }
 
+TEST(SketchpadScript, FailsWhereAFileDialogGetsNoName)
+{
+    Host host;
+    EXPECT_EQ(host.play("menu open\n").status, 1);
+}
+
+TEST(SketchpadProgram, TellsItsUsageWithoutADisplay)
+{
+    const Host host;
+    ChildProcess process;
+    host.prepare(*process, {"--help"});
+    QProcessEnvironment environment = process->processEnvironment();
+    environment.insert("QT_QPA_PLATFORM", "none");
+    process->setProcessEnvironment(environment);
+    ASSERT_TRUE(process.start() && process->waitForFinished());
+    EXPECT_EQ(process->exitCode(), 0);
+    EXPECT_THAT(process->readAllStandardOutput().toStdString(), StartsWith("Usage: sketchpad"));
+}
+
 TEST(SketchpadScript, FailsWithAnUnknownCommandAndWithALeftoverAnswer)
 {
     Host host;
