@@ -70,10 +70,11 @@ void MainWindow::makeStatusLine()
     statusBar()->addWidget(m_line, 1);
 }
 
-// So that the canvas needs no scroll bars.
+// So that the canvas needs no scroll bars. The toolbar shows as much as there is room for.
 QSize MainWindow::sizeForAll() const
 {
-    return sizeHint() - m_area->sizeHint() + m_canvas->sizeHint();
+    const int bars = sizeHint().height() - m_area->sizeHint().height();
+    return m_canvas->sizeHint() + QSize(0, bars);
 }
 
 // Without its frame, whose size is not known before the window is shown.

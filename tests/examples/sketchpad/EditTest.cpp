@@ -215,7 +215,7 @@ TEST(SketchpadZoom, ComesBackToTheFullSize)
 TEST(SketchpadZoom, FitsTheWindowAndHasLimits)
 {
     Host host;
-    std::string script = "resize 500,400\nmenu zoom-fit\nexpect zoom 65\n";
+    std::string script = "resize 376,700\nmenu zoom-fit\nexpect zoom 50\n";
     for (int i = 0; i < 12; ++i)
         script += "menu zoom-in\n";
     script += "expect zoom 400\n";
