@@ -10,8 +10,8 @@ if [ $# -ne 1 ]; then
     exit 2
 fi
 starts_programs=(
-    "ChildProcess.IsKilledAtItsEnd" "ExecutablePath.*" "FirstSteps.*" "Gallery*" "Nameinfo.*"
-    "ParseElsewhere.*" "Pdf.*" "Sketchpad*" "Unload.*"
+    "ChildProcess.IsKilledAtItsEnd" "ExecutablePath.*" "FirstSteps.*" "*Gallery*" "Nameinfo.*"
+    "ParseElsewhere.*" "Pdf.*" "*Sketchpad*" "Unload.*"
 )
 
 echo "Left out: ${starts_programs[*]}"
