@@ -9,12 +9,14 @@
 
 #include <algorithm>
 #include <filesystem>
+#include <functional>
 
 namespace fs = std::filesystem;
 
 namespace {
 
-constexpr int kMostPrograms = 9; // with the same drawing at a time
+constexpr std::size_t kRoomForMore = 220; // bytes
+constexpr int kMostPrograms = 9;          // with the same drawing at a time
 
 bool IsThere(const std::wstring& path)
 {
@@ -37,6 +39,14 @@ bool IsOlder(const std::wstring& path, const std::wstring& other)
     return !error && time < otherTime;
 }
 
+// With what an autosave and its lock have in their names behind the drawing's, the longest names are
+// too long.
+bool IsLong(const std::wstring& path)
+{
+    const auto name = Narrow(FileNameOf(path));
+    return name && name->size() > kRoomForMore;
+}
+
 bool AreSame(const std::vector<CShape>& a, const std::vector<CShape>& b)
 {
     return std::equal(a.begin(), a.end(), b.begin(), b.end(), IsSame);
@@ -44,12 +54,15 @@ bool AreSame(const std::vector<CShape>& a, const std::vector<CShape>& b)
 
 } // namespace
 
-// Beside the drawing; of one without a name, in the program's own folder.
+// Beside the drawing; of one without a name, or with one that has no room for more, in the program's
+// own folder.
 std::wstring CAutosave::NameFor(const std::wstring& path, int number) const
 {
     const std::wstring end = (number == 1 ? L"" : L'-' + std::to_wstring(number)) + L".autosave";
     if (path.empty())
         return m_shell.GetDataFolder() + L"untitled" + end;
+    if (IsLong(path))
+        return m_shell.GetDataFolder() + std::to_wstring(std::hash<std::wstring>()(path)) + end;
     return FolderOf(path) + L'.' + FileNameOf(path) + end;
 }
 

@@ -88,8 +88,9 @@ void CSketchApp::OnFileSave(UINT)
 
 bool CSketchApp::Save()
 {
-    if (!m_document.GetPathName().empty())
-        return WriteDocument(m_document.GetPathName());
+    const std::wstring path = m_document.GetPathName();
+    if (!path.empty())
+        return MayReplace(path) && WriteDocument(path);
     const std::wstring name = AskForName(false, IDS_SAVETITLE, IDS_FILTER, ProposedName(kDrawing));
     return !name.empty() && SaveFile(name, true);
 }
@@ -146,6 +147,7 @@ bool CSketchApp::OpenFile(const std::wstring& name)
         m_shell.Report(Text(IDS_CANNOTOPEN, DisplayName(name, kNameWidth), reason));
         return false;
     }
+    m_time = TimeOf(name);
     m_autosave.Remove();
     m_view.OnInitialUpdate();
     Remember(name);
@@ -180,6 +182,7 @@ bool CSketchApp::TakeRecovered(const std::wstring& autosave, const std::wstring&
         m_shell.Report(Text(IDS_CANNOTOPEN, autosave, reason));
         return false;
     }
+    m_time = TimeOf(path);
     m_view.OnInitialUpdate();
     m_shell.ShowLine(Text(IDS_RECOVERED, path.empty() ? Text(IDS_UNTITLED) : FileNameOf(path)));
     return true;
@@ -222,6 +225,15 @@ bool CSketchApp::SaveFile(const std::wstring& typed, bool asked)
     return TakeName(typed, kDrawing, asked, name) && WriteDocument(FullPath(name));
 }
 
+// Somebody else may have saved the drawing since it was opened.
+bool CSketchApp::MayReplace(const std::wstring& path)
+{
+    const auto time = TimeOf(path);
+    return !time || time == m_time ||
+           m_shell.Ask({Text(IDS_CHANGED, DisplayName(path, kNameWidth)), IDS_REPLACE, std::nullopt,
+                        IDS_CANCEL, Answer::Cancel}) == Answer::Yes;
+}
+
 bool CSketchApp::WriteDocument(const std::wstring& path)
 {
     std::wstring reason;
@@ -232,6 +244,7 @@ bool CSketchApp::WriteDocument(const std::wstring& path)
     }
     m_document.SetPathName(path);
     m_document.SetSaved();
+    m_time = TimeOf(path);
     m_autosave.Remove();
     Remember(path);
     m_shell.ShowLine(Text(IDS_SAVED, FileNameOf(path)));

@@ -6,11 +6,15 @@
 
 #include <KtQtBase/PathName.h>
 
+#include <optional>
 #include <string>
 
 // Makes a name absolute by the working directory. Names from scripts and the command line need it,
 // since the library takes relative names as lying in the executable's folder.
 std::wstring AbsoluteName(const std::wstring& name);
+
+// When a file was changed last, in a unit of its own; nothing for one that is not there.
+std::optional<long long> TimeOf(const std::wstring& path);
 
 // Asks std::filesystem, since the type of a parsed name depends on a permission bit.
 bool IsFolder(const std::wstring& path);

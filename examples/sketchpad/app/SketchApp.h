@@ -93,6 +93,7 @@ private:
                   CRnUiPathname& name);
     bool Save();
     bool WriteDocument(const std::wstring& path);
+    bool MayReplace(const std::wstring& path);
     bool WritePdf(const std::wstring& path);
     bool Recover(const std::wstring& path);
     bool TakeRecovered(const std::wstring& autosave, const std::wstring& path);
@@ -109,6 +110,7 @@ private:
     CSketchDoc m_document;
     CSketchView m_view;
     CAutosave m_autosave;
+    std::optional<long long> m_time; // of the drawing's file, when it was read or written
     std::vector<std::wstring> m_recent;
     int m_nShownSelected = 0;
 };

@@ -12,6 +12,7 @@ enum TextId : unsigned int
     IDS_UNTITLED,
     IDS_ASKTOSAVE,
     IDS_OVERWRITE,
+    IDS_CHANGED,
     IDS_RECOVER,
     IDS_CANNOTOPEN,
     IDS_CANNOTSAVE,

@@ -24,6 +24,8 @@ constexpr CTextEntry kTexts[] = {
     {IDS_UNTITLED, L"New drawing"},
     {IDS_ASKTOSAVE, L"\u201c%ls\u201d has unsaved changes.\n\nSave them?"},
     {IDS_OVERWRITE, L"\u201c%ls\u201d already exists.\n\nReplace it?"},
+    {IDS_CHANGED, L"Another program has changed \u201c%ls\u201d since it was opened here.\n\n"
+                  L"Replace what that program saved?"},
     {IDS_RECOVER, L"The program ended before \u201c%ls\u201d was saved.\n\n"
                   L"Go on with the drawing as it was?"},
     {IDS_CANNOTOPEN, L"\u201c%ls\u201d cannot be opened:\n%ls."},

@@ -12,7 +12,9 @@
 #include <QtWidgets/QApplication>
 
 #include <algorithm>
+#include <chrono>
 #include <cstdlib>
+#include <filesystem>
 #include <iterator>
 #include <map>
 
@@ -78,7 +80,8 @@ ScriptPlayer::Handler ScriptPlayer::handlerOf(const std::string& command)
         {"resize", &ScriptPlayer::resize},
         {"autosave", &ScriptPlayer::autosave},
         {"recover", &ScriptPlayer::recover},
-        {"die", &ScriptPlayer::die}};
+        {"die", &ScriptPlayer::die},
+        {"copy-over", &ScriptPlayer::copyOver}};
     const auto found = handlers.find(command);
     return found == handlers.end() ? nullptr : found->second;
 }
@@ -252,6 +255,21 @@ bool ScriptPlayer::recover(std::istream&)
 {
     m_window.app().OfferAutosaves();
     return true;
+}
+
+// What another program does to a file meanwhile. The time is set, since two files may be written
+// within one tick of the file system's clock.
+bool ScriptPlayer::copyOver(std::istream& arguments)
+{
+    std::string from;
+    std::string to;
+    std::error_code error;
+    arguments >> from >> to;
+    std::filesystem::copy_file(from, to, std::filesystem::copy_options::overwrite_existing, error);
+    if (!error)
+        std::filesystem::last_write_time(
+            to, std::filesystem::file_time_type::clock::now() + std::chrono::hours(1), error);
+    return !error;
 }
 
 // As if somebody killed the program.

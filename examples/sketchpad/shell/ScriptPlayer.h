@@ -59,6 +59,7 @@ private:
     bool autosave(std::istream& arguments);
     bool recover(std::istream& arguments);
     bool die(std::istream& arguments);
+    bool copyOver(std::istream& arguments);
 
     MainWindow& m_window;
     BoxAnswerer m_answerer;

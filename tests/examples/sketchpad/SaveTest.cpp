@@ -113,6 +113,23 @@ TEST(SketchpadSave, WritesWhatCanBeOpenedAgain)
     EXPECT_THAT(host.file("a.sketch"), HasSubstr(" 30000,400\n"));
 }
 
+TEST(SketchpadSave, AsksBeforeItReplacesWhatAnotherProgramSaved)
+{
+    Host host;
+    ASSERT_EQ(host.play(kDrawSquare + "save a\nsave b\n").status, 0);
+    // A file whose time is not the one that it had when it was opened.
+    fs::last_write_time(host.work() / "a.sketch", fs::file_time_type::clock::now());
+    const std::string open = "open a.sketch\n" + kDrawSquare;
+    EXPECT_EQ(host.play(open + "save\n").status, 0);
+    EXPECT_EQ(host.play(open + "copy-over b.sketch a.sketch\nanswer cancel\nsave\n"
+                               "answer discard\nmenu new\n")
+                  .status,
+              0);
+    EXPECT_EQ(host.file("a.sketch"), kSquareFile);
+    EXPECT_EQ(host.play(open + "copy-over b.sketch a.sketch\nanswer replace\nsave\n").status, 0);
+    EXPECT_NE(host.file("a.sketch"), kSquareFile);
+}
+
 TEST(SketchpadPrint, WritesAWholeFile)
 {
     Host host;
@@ -211,6 +228,19 @@ TEST(SketchpadAutosave, HoldsWhatIsBeingTypedAndIsPrivate)
     const fs::path file = host.data() / "untitled.autosave";
     EXPECT_EQ(readFile(file), "SKETCHPAD 1\ntext 0 3 000000 none 1 20,20 Words\n");
     EXPECT_EQ(fs::status(file).permissions(), fs::perms::owner_read | fs::perms::owner_write);
+}
+
+TEST(SketchpadAutosave, OfALongNameLiesInTheProgramsOwnFolder)
+{
+    Host host;
+    const std::string name(245, 'n');
+    ASSERT_EQ(host.play(kDrawSquare + "save " + name + "\n").status, 0);
+    ASSERT_EQ(host.play("open " + name + ".sketch\n" + drawMuch() + "autosave\ndie\n").status, 3);
+    EXPECT_EQ(host.play("answer yes\nopen " + name +
+                        ".sketch\nexpect shapes 2\nanswer discard\n"
+                        "menu new\n")
+                  .status,
+              0);
 }
 
 TEST(SketchpadAutosave, GoesWhenTheChangesAreUndone)
