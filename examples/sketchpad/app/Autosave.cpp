@@ -5,7 +5,6 @@
 #include "FileNames.h"
 #include "Narrow.h"
 #include "Shell.h"
-#include "SketchDoc.h"
 
 #include <algorithm>
 #include <filesystem>
@@ -18,13 +17,6 @@ namespace {
 constexpr std::size_t kRoomForMore = 220; // bytes
 constexpr int kMostPrograms = 9;          // with the same drawing at a time
 
-bool IsThere(const std::wstring& path)
-{
-    std::error_code ignored;
-    const auto name = Narrow(path);
-    return name && fs::exists(*name, ignored);
-}
-
 void RemoveFile(const std::wstring& path)
 {
     std::error_code ignored;
@@ -33,10 +25,9 @@ void RemoveFile(const std::wstring& path)
 
 bool IsOlder(const std::wstring& path, const std::wstring& other)
 {
-    std::error_code error;
-    const auto time = fs::last_write_time(Narrow(path).value_or(std::string()), error);
-    const auto otherTime = fs::last_write_time(Narrow(other).value_or(std::string()), error);
-    return !error && time < otherTime;
+    const auto time = TimeOf(path);
+    const auto otherTime = TimeOf(other);
+    return time && otherTime && *time < *otherTime;
 }
 
 // With what an autosave and its lock have in their names behind the drawing's, the longest names are
@@ -71,8 +62,7 @@ bool CAutosave::Claim(const std::wstring& path)
 {
     for (int number = 1; number <= kMostPrograms; ++number) {
         const std::wstring name = NameFor(path, number);
-        if (!IsThere(name) && m_shell.HoldName(name)) {
-            m_document = path;
+        if (!TimeOf(name) && m_shell.HoldName(name)) {
             m_path = name;
             return true;
         }
@@ -80,14 +70,14 @@ bool CAutosave::Claim(const std::wstring& path)
     return false;
 }
 
-void CAutosave::Write(const CSketchDoc& document, const std::vector<CShape>& shapes, bool changed)
+void CAutosave::Write(const std::wstring& path, const std::vector<CShape>& shapes, bool changed)
 {
-    if (!changed || document.GetPathName() != m_document)
+    if (!changed)
         Remove();
     if (!changed || (!m_path.empty() && AreSame(shapes, m_shapes)))
         return;
     std::wstring ignored;
-    if (m_path.empty() && !Claim(document.GetPathName()))
+    if (m_path.empty() && !Claim(path))
         return;
     if (WriteSketch(m_path, shapes, CFileMode::Private, ignored))
         m_shapes = shapes;
@@ -97,9 +87,8 @@ std::wstring CAutosave::Take(const std::wstring& path)
 {
     for (int number = 1; number <= kMostPrograms; ++number) {
         const std::wstring name = NameFor(path, number);
-        if (!IsThere(name) || !m_shell.HoldName(name))
+        if (!TimeOf(name) || !m_shell.HoldName(name))
             continue;
-        m_document = path;
         m_path = name;
         if (path.empty() || !IsOlder(name, path))
             return name;
@@ -118,7 +107,6 @@ void CAutosave::Remove()
 void CAutosave::Leave()
 {
     m_path.clear();
-    m_document.clear();
     m_shapes.clear();
     m_shell.HoldName(std::wstring());
 }

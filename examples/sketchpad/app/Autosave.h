@@ -8,7 +8,6 @@
 #include "Shape.h"
 
 class CShell;
-class CSketchDoc;
 
 class CAutosave
 {
@@ -17,8 +16,9 @@ public:
 
     // Writes the drawing, unless it is as it was the last time; without changes, removes what was
     // written. A failure is not reported: it would only come between the user and saving.
+    //   path      in: the drawing's; before it changes, the autosave is removed
     //   shapes    in: the drawing's, with what is still being typed
-    void Write(const CSketchDoc& document, const std::vector<CShape>& shapes, bool changed);
+    void Write(const std::wstring& path, const std::vector<CShape>& shapes, bool changed);
 
     // Makes an autosave that was left behind this program's. One that is older than its drawing is
     // removed: it was saved since.
@@ -34,8 +34,7 @@ private:
     bool Claim(const std::wstring& path);
 
     CShell& m_shell;
-    std::wstring m_document; // whose autosave it is
-    std::wstring m_path;     // of the autosave; empty for none
+    std::wstring m_path; // of the autosave; empty for none
     std::vector<CShape> m_shapes;
 };
 

@@ -39,7 +39,9 @@ std::optional<long long> TimeOf(const std::wstring& path)
     std::error_code error;
     const auto bytes = Narrow(path);
     const auto time = fs::last_write_time(bytes.value_or(std::string()), error);
-    return error ? std::nullopt : std::optional<long long>(time.time_since_epoch().count());
+    if (error)
+        return std::nullopt;
+    return static_cast<long long>(time.time_since_epoch().count());
 }
 
 bool IsFolder(const std::wstring& path)

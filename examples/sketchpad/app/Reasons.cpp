@@ -5,36 +5,32 @@
 
 #include <KtQtBase/WindowsFunctions.h>
 
+#include <utility>
+
 #include <dlfcn.h>
 
 namespace {
 
 // In the words of this program's messages, which go on behind a colon.
-std::wstring InPlainWords(const std::error_code& error)
-{
-    if (error == std::errc::no_such_file_or_directory)
-        return L"there is no such file or folder";
-    if (error == std::errc::not_a_directory)
-        return L"a part of its path is no folder";
-    if (error == std::errc::permission_denied)
-        return L"it is not permitted";
-    if (error == std::errc::no_space_on_device)
-        return L"the disk is full";
-    if (error == std::errc::read_only_file_system)
-        return L"the disk is read-only";
-    if (error == std::errc::filename_too_long)
-        return L"the name is too long";
-    if (error == std::errc::file_too_large)
-        return L"the file would be too large";
-    return std::wstring();
-}
+const std::pair<std::errc, const wchar_t*> kPlainWords[] = {
+    {std::errc::no_such_file_or_directory, L"there is no such file or folder"},
+    {std::errc::not_a_directory, L"a part of its path is no folder"},
+    {std::errc::permission_denied, L"it is not permitted"},
+    {std::errc::no_space_on_device, L"the disk is full"},
+    {std::errc::read_only_file_system, L"the disk is read-only"},
+    {std::errc::filename_too_long, L"the name is too long"},
+    {std::errc::file_too_large, L"the file would be too large"},
+};
 
 } // namespace
 
 std::wstring ReasonOf(const std::error_code& error)
 {
-    const std::wstring words = InPlainWords(error);
-    return words.empty() ? WidenForDisplay(error.message()) : words;
+    for (const auto& [code, words] : kPlainWords) {
+        if (error == code)
+            return words;
+    }
+    return WidenForDisplay(error.message());
 }
 
 std::wstring LastErrorReason()

@@ -76,7 +76,7 @@ void CSketchApp::UpdateFrame()
 
 void CSketchApp::OnAutosave()
 {
-    m_autosave.Write(m_document, m_view.GetAllShapes(), IsChanged());
+    m_autosave.Write(m_document.GetPathName(), m_view.GetAllShapes(), IsChanged());
 }
 
 void CSketchApp::ShowSelection()

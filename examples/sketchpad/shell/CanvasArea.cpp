@@ -4,14 +4,17 @@
 #include <QtGui/QWheelEvent>
 #include <QtWidgets/QScrollBar>
 
+#include <cmath>
+
 namespace {
 
 constexpr int kStep = 120; // of most wheels, in eighths of a degree
 
-// Where the point under the mouse comes to lie when the canvas takes another size.
-int scrolled(int value, double mouse, double growth)
+// How far the canvas is scrolled when the point under the mouse is still there at another size.
+//   corner    in: where the canvas began, which is in the middle while there is room
+int scrolled(double mouse, int corner, double growth)
 {
-    return static_cast<int>((value + mouse) * growth - mouse);
+    return static_cast<int>(std::lround((mouse - corner) * growth - mouse));
 }
 
 } // namespace
@@ -33,12 +36,12 @@ void CanvasArea::wheelEvent(QWheelEvent* event)
     m_turned += event->angleDelta().y();
     if (qAbs(m_turned) < kStep)
         return;
-    const QPoint before(horizontalScrollBar()->value(), verticalScrollBar()->value());
+    const QPoint corner = widget()->pos();
     const int width = widget()->width();
     zoomTurned(m_turned > 0);
     m_turned = 0;
     const double growth = static_cast<double>(widget()->width()) / width;
     const QPointF mouse = event->position();
-    horizontalScrollBar()->setValue(scrolled(before.x(), mouse.x(), growth));
-    verticalScrollBar()->setValue(scrolled(before.y(), mouse.y(), growth));
+    horizontalScrollBar()->setValue(scrolled(mouse.x(), corner.x(), growth));
+    verticalScrollBar()->setValue(scrolled(mouse.y(), corner.y(), growth));
 }

@@ -115,6 +115,19 @@ TEST(SketchpadUndo, TakesMovesOfTheSameShapesForOne)
     EXPECT_EQ(savedAfter(script + "menu undo\nmenu undo\n"), "");
 }
 
+TEST(SketchpadUndo, ComesBackToTheSavedStateBetweenMoves)
+{
+    const std::string moved = kDrawSquare + "menu select-all\nkey right\nsave b\n";
+    EXPECT_EQ(savedAfter(moved + "key right\nmenu undo\n"), savedAfter(moved));
+}
+
+TEST(SketchpadUndo, JoinsNoMoveToOneThatWasUndone)
+{
+    EXPECT_EQ(savedAfter(kDrawSquare + "menu select-all\nkey right\nmenu undo\nmenu select-all\n"
+                                       "key down\nmenu undo\n"),
+              kSquareLine);
+}
+
 TEST(SketchpadUndo, CountsNothingThatChangesNothing)
 {
     Host host;

@@ -9,12 +9,14 @@
 #include "support/TemporaryFolder.h"
 
 #include <QAction>
+#include <QtCore/QEventLoop>
 #include <QtCore/QFile>
 #include <QtCore/QFileInfo>
 #include <QtCore/QTimer>
 #include <QtGui/QAccessible>
 #include <QtGui/QClipboard>
 #include <QtGui/QImage>
+#include <QtGui/QWheelEvent>
 #include <QtWidgets/QApplication>
 #include <QtWidgets/QLabel>
 #include <QtWidgets/QMenu>
@@ -58,6 +60,13 @@ protected:
     {
         EXPECT_TRUE(window->app().OnCommand(id));
         settle();
+    }
+
+    static void wait(int milliseconds)
+    {
+        QEventLoop loop;
+        QTimer::singleShot(milliseconds, &loop, &QEventLoop::quit);
+        loop.exec();
     }
 
     void settle() const
@@ -256,6 +265,26 @@ TEST_F(SketchpadMainWindow, CopiesADrawingAndAPicture)
     EXPECT_EQ(picture.pixelColor(0, 0), QColor(Qt::white));
 }
 
+TEST_F(SketchpadMainWindow, CopiesNoPictureBeyondThePaper)
+{
+    command(CommandOf(TOOL_LINE));
+    drag(50, 50, 9000, 9000);
+    command(ID_EDIT_SELECT_ALL);
+    command(ID_EDIT_COPY);
+    const QImage picture = QApplication::clipboard()->image();
+    EXPECT_FALSE(picture.isNull());
+    EXPECT_LE(picture.width(), 752);
+    EXPECT_LE(picture.height(), 472);
+}
+
+TEST_F(SketchpadMainWindow, ShowsAnAmpersandOfARecentName)
+{
+    const ktqtbase::test::TemporaryFolder folder;
+    ASSERT_TRUE(window->app().SaveFile((folder / "a&b.sketch").wstring(), true));
+    settle();
+    EXPECT_TRUE(action(ID_FILE_MRU_FILE1)->text().endsWith("a&&b.sketch"));
+}
+
 TEST_F(SketchpadMainWindow, ScrollsWhereThePaperIsLargerThanTheWindow)
 {
     auto* area = window->findChild<QScrollArea*>();
@@ -266,6 +295,61 @@ TEST_F(SketchpadMainWindow, ScrollsWhereThePaperIsLargerThanTheWindow)
     EXPECT_GT(area->verticalScrollBar()->maximum(), 0);
     command(ID_VIEW_ZOOM_FIT);
     EXPECT_EQ(area->horizontalScrollBar()->maximum(), 0);
+}
+
+// The place of the drawing that lies at a place of the window.
+QPointF drawingAt(const QScrollArea& area, const QPointF& place)
+{
+    return (place - area.widget()->pos()) / area.widget()->width();
+}
+
+void turnWheelWithCtrl(QScrollArea& area, const QPointF& place, int eighths)
+{
+    QWheelEvent event(place, area.viewport()->mapToGlobal(place.toPoint()), QPoint(),
+                      QPoint(0, eighths), Qt::NoButton, Qt::ControlModifier, Qt::NoScrollPhase,
+                      false);
+    QApplication::sendEvent(area.viewport(), &event);
+    QApplication::processEvents();
+}
+
+TEST_F(SketchpadMainWindow, ZoomsAroundTheMouse)
+{
+    auto* area = window->findChild<QScrollArea*>();
+    window->resize(500, 400);
+    settle();
+    const QPointF place(120, 200);
+    for (int turn = 0; turn < 4; ++turn) {
+        const QPointF before = drawingAt(*area, place);
+        turnWheelWithCtrl(*area, place, 120);
+        const QPointF moved = (drawingAt(*area, place) - before) * area->widget()->width();
+        EXPECT_LE(moved.manhattanLength(), 2) << turn;
+    }
+}
+
+TEST_F(SketchpadMainWindow, TakesManySmallTurnsOfTheWheelForOne)
+{
+    auto* area = window->findChild<QScrollArea*>();
+    for (int turn = 0; turn < 3; ++turn)
+        turnWheelWithCtrl(*area, QPointF(50, 50), 30);
+    EXPECT_EQ(window->app().GetView().GetZoom(), 100);
+    for (int turn = 0; turn < 2; ++turn)
+        turnWheelWithCtrl(*area, QPointF(50, 50), 30);
+    EXPECT_EQ(window->app().GetView().GetZoom(), 125);
+}
+
+TEST_F(SketchpadMainWindow, StoresWhatIsNotSavedByItself)
+{
+    const QString file = QString::fromStdWString(window->GetDataFolder()) + "untitled.autosave";
+    CDefaults defaults;
+    defaults.autosave = 1;
+    window = std::make_unique<MainWindow>(defaults);
+    command(CommandOf(TOOL_RECTANGLE));
+    drag(50, 50, 90, 90);
+    for (int i = 0; i < 500 && !QFile::exists(file); ++i)
+        wait(20);
+    EXPECT_TRUE(QFile::exists(file));
+    window->app().OnClose();
+    EXPECT_FALSE(QFile::exists(file));
 }
 
 TEST_F(SketchpadMainWindow, FollowsTheColorsOfTheDesktop)

@@ -37,11 +37,11 @@ int valueIn(const QString& shell, const QString& name)
 
 } // namespace
 
-Person::Person(const Host& host, const QStringList& arguments)
+Person::Person(const Host& host, const QStringList& arguments, const QString& title)
 {
     host.prepare(*m_program, arguments);
     m_program->setProcessChannelMode(QProcess::ForwardedErrorChannel);
-    if (m_program.start() && waitForTitle(" - Sketchpad"))
+    if (m_program.start() && waitForTitle(title))
         m_window = xdotool({"getactivewindow"});
 }
 

@@ -15,8 +15,9 @@
 class Person
 {
 public:
-    // Starts the program and waits for its window to be active.
-    explicit Person(const Host& host, const QStringList& arguments = QStringList());
+    // Starts the program and waits for a window to be active whose title ends so.
+    explicit Person(const Host& host, const QStringList& arguments = QStringList(),
+                    const QString& title = " - Sketchpad");
 
     // Each result says whether it happened within some seconds.
     static bool waitFor(const std::function<bool()>& condition);

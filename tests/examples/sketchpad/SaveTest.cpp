@@ -5,6 +5,7 @@
 
 #include <gmock/gmock.h>
 
+#include <sys/stat.h>
 #include <unistd.h>
 
 using ktqtbase::test::readFile;
@@ -86,6 +87,18 @@ TEST(SketchpadSave, KeepsTheOtherFileWithoutAnAnswer)
     host.writeFile("a.sketch", "former");
     EXPECT_EQ(host.play(kDrawSquare + "save a\nanswer discard\nmenu new\n").status, 1);
     EXPECT_EQ(host.file("a.sketch"), "former");
+}
+
+TEST(SketchpadSave, LeavesAPipe)
+{
+    Host host;
+    const fs::path pipe = host.work() / "a.sketch";
+    ASSERT_EQ(mkfifo(pipe.c_str(), 0600), 0);
+    const SessionResult result =
+        host.play(kDrawSquare + "answer replace\nanswer ok\nsave a\nanswer discard\nmenu new\n");
+    EXPECT_EQ(result.status, 0) << result.out << result.err;
+    EXPECT_THAT(result.out, HasSubstr("cannot be saved: it is a device or a pipe"));
+    EXPECT_TRUE(fs::is_fifo(pipe));
 }
 
 TEST(SketchpadSave, LeavesAWriteProtectedFile)
@@ -190,6 +203,16 @@ TEST(SketchpadAutosave, StaysForAnotherTimeUntilItIsDeletedOrTaken)
     EXPECT_EQ(filesIn(host.data()), 0);
 }
 
+TEST(SketchpadAutosave, IsNotOfferedOverADrawingThatIsNotSaved)
+{
+    Host host;
+    ASSERT_EQ(host.play(kDrawSquare + "autosave\ndie\n").status, 3);
+    EXPECT_EQ(host.play(kDrawSquare + kDrawSquare +
+                        "recover\nexpect shapes 2\nanswer discard\nmenu new\n")
+                  .status,
+              0);
+}
+
 TEST(SketchpadAutosave, ThatCannotBeReadIsToldAndStays)
 {
     Host host;
@@ -284,7 +307,6 @@ TEST(SketchpadAutosave, IsNotWrittenWithoutAChangeAndGoesWithTheProgram)
 TEST(SketchpadAutosave, OfAProgramThatStillRunsIsLeftAlone)
 {
     Host host;
-    host.writeFile("other.script", kDrawSquare + "autosave\n");
     ASSERT_EQ(host.play(kDrawSquare + "autosave\ndie\n").status, 3);
     // The lock of a process that lives: this one's.
     const fs::path lock = host.data() / "untitled.autosave.lock";

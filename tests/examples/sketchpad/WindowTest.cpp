@@ -205,6 +205,18 @@ TEST(SketchpadWindow, ShowsThePageBeforeItIsPrinted)
     EXPECT_TRUE(person.waitForNoBox());
 }
 
+TEST(SketchpadWindow, OffersAtItsStartWhatAKilledProgramLeft)
+{
+    Host host;
+    host.environment.insert("QT_QPA_PLATFORM", "offscreen");
+    ASSERT_EQ(host.play(kDrawSquare + "autosave\ndie\n").status, 3);
+    host.environment.insert("QT_QPA_PLATFORM", "xcb");
+    const Person person(host, {}, "Sketchpad");
+    EXPECT_TRUE(Person::waitFor([] { return Person::activeTitle() == "Sketchpad"; }));
+    person.press("Return");
+    EXPECT_TRUE(person.waitForTitle("New drawing* - Sketchpad"));
+}
+
 TEST(SketchpadWindow, ComesBackWhereItWas)
 {
     const Host host;
