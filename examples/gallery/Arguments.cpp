@@ -5,6 +5,7 @@
 
 #include <QtCore/QCommandLineParser>
 #include <QtCore/QFile>
+#include <QtCore/QFileInfo>
 
 const char* const kUsage =
     R"(Usage: gallery                             show the gallery in a window
@@ -78,6 +79,17 @@ QString misplacedOption(const QCommandLineParser& parser)
     return QString();
 }
 
+// The picture that is compared would be lost.
+QString overwrittenPicture(const QCommandLineParser& parser)
+{
+    const QString difference = QFileInfo(parser.value(kDifference)).canonicalFilePath();
+    for (const QString& name : {kCompare, kWith})
+        if (!difference.isEmpty() &&
+            QFileInfo(parser.value(name)).canonicalFilePath() == difference)
+            return QStringLiteral("--difference would replace the picture of --%1").arg(name);
+    return QString();
+}
+
 QString wrongRatio(const QCommandLineParser& parser, double ratio)
 {
     if (!parser.isSet(kRatio) || ratio > 0)
@@ -111,8 +123,9 @@ QString parserError(const QCommandLineParser& parser)
 
 QString firstError(const QCommandLineParser& parser, double ratio)
 {
-    for (const QString& error : {unknownArgument(parser), emptyValue(parser),
-                                 misplacedOption(parser), wrongRatio(parser, ratio)})
+    for (const QString& error :
+         {unknownArgument(parser), emptyValue(parser), misplacedOption(parser),
+          overwrittenPicture(parser), wrongRatio(parser, ratio)})
         if (!error.isEmpty())
             return error;
     return QString();

@@ -3,6 +3,7 @@
 
 #include "FileNames.h"
 #include "Narrow.h"
+#include "Texts.h"
 
 #include <KtQtBase/WindowsFunctions.h>
 
@@ -41,9 +42,9 @@ CDefaults ReadDefaults(std::wstring& reason)
     const wchar_t* file = path.c_str();
     CDefaults defaults;
     if (IsFolder(path))
-        reason = L"The built-in defaults are used: " + path + L" is a folder";
+        reason = Text(IDS_DEFAULTSFOLDER, path);
     else if (!IsRead(path))
-        reason = L"The built-in defaults are used: " + path + L" is missing or may not be written";
+        reason = Text(IDS_NODEFAULTS, path);
     defaults.pen.width = ProfileNumber(L"PenWidth", defaults.pen.width, 0, 20, file);
     defaults.pen.color = static_cast<COLORREF>(
         ProfileNumber(L"PenColor", static_cast<int>(defaults.pen.color), 0, 0xFFFFFF, file));

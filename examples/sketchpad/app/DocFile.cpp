@@ -5,6 +5,7 @@
 #include "Reasons.h"
 #include "SafeFile.h"
 #include "ShapeText.h"
+#include "Texts.h"
 
 #include <cerrno>
 #include <filesystem>
@@ -20,17 +21,6 @@ constexpr char kByteOrderMark[] = "\xEF\xBB\xBF";
 constexpr std::uintmax_t kLargestFile = 8'000'000;
 constexpr std::size_t kMostShapes = 100'000;
 constexpr std::size_t kLongestLine = 2'000'000;
-
-constexpr wchar_t kTooLarge[] = L"it is larger than 8 MB, and no drawing is";
-constexpr wchar_t kTooLong[] = L"longer than 2,000,000 bytes";
-constexpr wchar_t kNul[] = L"it holds a NUL";
-constexpr wchar_t kTooMuch[] = L"a drawing has at most 100,000 shapes, and 8 MB as a file";
-constexpr wchar_t kTooMany[] = L"a drawing has at most 100,000 shapes";
-
-std::wstring NumberedReason(std::size_t line, const std::wstring& what)
-{
-    return L"line " + std::to_wstring(line) + L": " + what;
-}
 
 // Reads no further than the longest line, whatever the file is.
 // Result: false at the end.
@@ -58,11 +48,11 @@ bool AddShape(const std::string& line, std::vector<CShape>& shapes, std::wstring
 {
     CShape shape;
     if (line.size() > kLongestLine)
-        problem = kTooLong;
+        problem = Text(IDS_LINETOOLONG);
     else if (line.find('\0') != line.npos)
-        problem = kNul;
+        problem = Text(IDS_HOLDSNUL);
     else if (shapes.size() == kMostShapes)
-        problem = kTooMany;
+        problem = Text(IDS_TOOMANY);
     else if (ShapeFromText(line, shape, problem))
         shapes.push_back(shape);
     return problem.empty();
@@ -77,11 +67,11 @@ bool IsReadable(const std::string& name, std::wstring& reason)
     if (error)
         reason = ReasonOf(error);
     else if (fs::is_directory(status))
-        reason = L"it is a folder";
+        reason = Text(IDS_ISFOLDER);
     else if (!fs::is_regular_file(status))
-        reason = L"it is a device or a pipe, not a file";
+        reason = Text(IDS_ISDEVICE);
     else if (fs::file_size(name, error) > kLargestFile)
-        reason = kTooLarge;
+        reason = Text(IDS_TOOLARGE);
     return reason.empty();
 }
 
@@ -91,13 +81,13 @@ bool ReadSketch(std::istream& stream, std::vector<CShape>& shapes, std::wstring&
 {
     std::string line;
     if (!ReadLine(stream, line) || !IsSignature(line)) {
-        reason = L"it is not a drawing of this program";
+        reason = Text(IDS_NODRAWING);
         return false;
     }
     std::wstring problem;
     for (std::size_t number = 2; ReadLine(stream, line); ++number) {
         if (!AddShape(line, shapes, problem)) {
-            reason = NumberedReason(number, problem);
+            reason = Text(IDS_INLINE, std::to_wstring(number), problem);
             return false;
         }
     }
@@ -110,7 +100,7 @@ bool ReadSketch(const std::wstring& path, std::vector<CShape>& shapes, std::wstr
 {
     const auto name = Narrow(path);
     if (!name) {
-        reason = kUnusableName;
+        reason = Text(IDS_UNUSABLENAME);
         return false;
     }
     if (!IsReadable(*name, reason))
@@ -140,7 +130,7 @@ bool WriteSketch(const std::wstring& path, const std::vector<CShape>& shapes, CF
     std::istringstream written(text.str());
     std::vector<CShape> read;
     if (text.str().size() > kLargestFile || shapes.size() > kMostShapes) {
-        reason = kTooMuch;
+        reason = Text(IDS_TOOMUCH);
         return false;
     }
     return ReadSketch(written, read, reason) && WriteSafely(path, text.str(), mode, reason);

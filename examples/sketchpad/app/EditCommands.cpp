@@ -61,6 +61,11 @@ void CSketchApp::OnEditCopy(UINT)
 void CSketchApp::OnEditPaste(UINT)
 {
     const std::wstring text = m_shell.GetClipboardText();
+    if (m_view.IsTyping()) {
+        m_view.TypeText(OneLine(text));
+        return;
+    }
+    m_view.FinishInput();
     if (NarrowForDisplay(text.substr(0, sizeof kBegin - 1)) == kBegin)
         PasteShapes(text);
     else

@@ -129,12 +129,14 @@ void CSketchApp::OnFilePrintPdf(UINT)
         PrintFile(name, true);
 }
 
-// A copy of the name, since opening moves it in the list.
+// A copy of the name, since opening moves it in the list. A file that is gone leaves the list.
 void CSketchApp::OnRecentFile(UINT index)
 {
-    const std::vector<std::wstring> files = m_recent;
-    if (index < files.size())
-        OpenFile(files[index]);
+    const std::wstring file = index < m_recent.size() ? m_recent[index] : std::wstring();
+    if (file.empty() || OpenFile(file) || TimeOf(file))
+        return;
+    RemoveRecentFile(file);
+    m_recent = ReadRecentFiles();
 }
 
 // What a killed program has left of this drawing may be newer than the file.

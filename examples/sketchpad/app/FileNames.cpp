@@ -2,7 +2,7 @@
 #include "FileNames.h"
 
 #include "Narrow.h"
-#include "Reasons.h"
+#include "Texts.h"
 
 #include <filesystem>
 
@@ -79,15 +79,15 @@ bool TakeSaveName(const std::wstring& typed, const wchar_t* extension, CRnUiPath
 {
     const std::wstring segment = FileNameOf(typed);
     if (segment.size() > kLongestSegment) {
-        reason = kUnusableName;
+        reason = Text(IDS_UNUSABLENAME);
         return false;
     }
     if (segment.empty() || !IsValidSegment(segment)) {
-        reason = L"a name must not be empty nor hold any of * : < > ? / \\ | \"";
+        reason = Text(IDS_NAMERULES);
         return false;
     }
     if (name.Parse(typed.c_str(), false) != 0) {
-        reason = kUnusableName;
+        reason = Text(IDS_UNUSABLENAME);
         return false;
     }
     added = !name.VerifyExtension(extension);

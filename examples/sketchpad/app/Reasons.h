@@ -7,8 +7,6 @@
 #include <string>
 #include <system_error>
 
-constexpr wchar_t kUnusableName[] = L"the name is too long, or not valid in this locale";
-
 std::wstring ReasonOf(const std::error_code& error);
 
 // Why the last module could not be loaded.

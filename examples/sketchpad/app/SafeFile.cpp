@@ -4,6 +4,7 @@
 #include "FileNames.h"
 #include "Narrow.h"
 #include "Reasons.h"
+#include "Texts.h"
 
 #include <KtQtBase/WindowsFunctions.h>
 
@@ -80,11 +81,11 @@ bool MayBeReplaced(const fs::path& path, std::wstring& reason)
     std::error_code error;
     const fs::file_status status = fs::status(path, error);
     if (fs::exists(status) && !fs::is_regular_file(status))
-        reason = fs::is_directory(status) ? L"it is a folder" : L"it is a device or a pipe";
+        reason = Text(fs::is_directory(status) ? IDS_ISFOLDER : IDS_ISDEVICE);
     else if (fs::exists(status) && (status.permissions() & kWritable) == fs::perms::none)
-        reason = L"it is write-protected";
+        reason = Text(IDS_PROTECTED);
     else if (!fs::is_directory(path.parent_path(), error))
-        reason = L"there is no such folder";
+        reason = Text(IDS_NOFOLDER);
     return reason.empty();
 }
 
@@ -128,7 +129,7 @@ bool WriteSafely(const std::wstring& path, const std::string& bytes, CFileMode m
 {
     const auto name = Narrow(path);
     if (!name) {
-        reason = kUnusableName;
+        reason = Text(IDS_UNUSABLENAME);
         return false;
     }
     const fs::path target = Target(*name);
@@ -137,7 +138,7 @@ bool WriteSafely(const std::wstring& path, const std::string& bytes, CFileMode m
     errno = 0;
     const auto temporary = MakeTemporary(target, FirstMode(target, mode));
     if (!temporary) {
-        reason = errno ? LastErrorReason() : kUnusableName;
+        reason = errno ? LastErrorReason() : Text(IDS_UNUSABLENAME);
         return false;
     }
     if (WriteBytes(*temporary, bytes, reason) && PutInPlace(*temporary, target, reason))

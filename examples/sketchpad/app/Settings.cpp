@@ -42,6 +42,22 @@ std::wstring RecentName(std::size_t index)
     return L"File" + std::to_wstring(index + 1);
 }
 
+std::vector<std::wstring> Without(const std::wstring& path, std::vector<std::wstring> files)
+{
+    files.erase(std::remove(files.begin(), files.end(), path), files.end());
+    return files;
+}
+
+// A place in the list that no file has is empty.
+void StoreRecentFiles(std::vector<std::wstring> files)
+{
+    files.resize(kMostRecent);
+    CRegKey key;
+    key.Create(HKEY_CURRENT_USER, kRecentKey);
+    for (std::size_t i = 0; i < kMostRecent; ++i)
+        key.SetValue(files[i].c_str(), RecentName(i).c_str());
+}
+
 } // namespace
 
 std::optional<CRect> ReadWindowPlace()
@@ -78,11 +94,12 @@ std::vector<std::wstring> ReadRecentFiles()
 
 void AddRecentFile(const std::wstring& path)
 {
-    std::vector<std::wstring> files = ReadRecentFiles();
-    files.erase(std::remove(files.begin(), files.end(), path), files.end());
+    std::vector<std::wstring> files = Without(path, ReadRecentFiles());
     files.insert(files.begin(), path);
-    CRegKey key;
-    key.Create(HKEY_CURRENT_USER, kRecentKey);
-    for (std::size_t i = 0; i < std::min(files.size(), kMostRecent); ++i)
-        key.SetValue(files[i].c_str(), RecentName(i).c_str());
+    StoreRecentFiles(files);
+}
+
+void RemoveRecentFile(const std::wstring& path)
+{
+    StoreRecentFiles(Without(path, ReadRecentFiles()));
 }

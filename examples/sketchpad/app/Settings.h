@@ -20,4 +20,7 @@ std::vector<std::wstring> ReadRecentFiles();
 // Puts a file first in the list and stores it.
 void AddRecentFile(const std::wstring& path);
 
+// Stores the list without a file.
+void RemoveRecentFile(const std::wstring& path);
+
 #endif

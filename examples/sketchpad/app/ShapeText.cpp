@@ -2,6 +2,7 @@
 #include "ShapeText.h"
 
 #include "Narrow.h"
+#include "Texts.h"
 
 #include <algorithm>
 #include <iomanip>
@@ -92,14 +93,13 @@ bool ShapeFromText(const std::string& line, CShape& shape, std::wstring& problem
 {
     std::istringstream stream(line);
     if (!ReadKind(stream, shape))
-        problem = L"no shape begins like this";
+        problem = Text(IDS_BADKIND);
     else if (!ReadPen(stream, shape.pen))
-        problem = L"the pen or the fill is wrong (a width is at most 100)";
+        problem = Text(IDS_BADPEN);
     else if (!ReadPoints(stream, shape))
-        problem = L"a point is missing or wrong (a shape has at most 100,000, none is farther than "
-                  L"30,000)";
+        problem = Text(IDS_BADPOINT);
     else if (!ReadText(stream, shape))
-        problem = L"the text is missing, not UTF-8, or one too many";
+        problem = Text(IDS_BADTEXT);
     return problem.empty();
 }
 

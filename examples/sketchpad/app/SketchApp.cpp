@@ -52,12 +52,13 @@ CSketchApp::CSketchApp(CShell& shell, const CDefaults& defaults)
     m_view.SetChangedHandler([this] { UpdateFrame(); });
 }
 
-// A text that is being typed is part of the drawing for every command.
+// A text that is being typed is part of the drawing for every command; what is pasted goes into it.
 bool CSketchApp::OnCommand(UINT id)
 {
     for (const CommandEntry& entry : kCommandMap) {
         if (id >= entry.first && id <= entry.last) {
-            m_view.FinishInput();
+            if (id != ID_EDIT_PASTE)
+                m_view.FinishInput();
             (this->*entry.handler)(id - entry.first);
             UpdateFrame();
             return true;

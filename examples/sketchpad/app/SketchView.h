@@ -57,6 +57,8 @@ public:
     // Makes a text that is being typed part of the drawing.
     void FinishInput();
     bool HasUnfinishedInput() const { return m_tool->IsUnfinished(); }
+    bool IsTyping() const { return m_tool->GetCaret().has_value(); }
+    void TypeText(const std::wstring& text);
     // Removes selection and preview, before another drawing is shown.
     void OnInitialUpdate();
 

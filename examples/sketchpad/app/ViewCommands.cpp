@@ -130,6 +130,12 @@ void CSketchView::InsertInMiddle()
     SelectLast(m_document.GetShapes().size() - before);
 }
 
+void CSketchView::TypeText(const std::wstring& text)
+{
+    for (const wchar_t character : text)
+        OnChar(static_cast<WPARAM>(character), 0);
+}
+
 // A command or a dialog may come while the button is down, and then nobody lets it go here.
 void CSketchView::FinishInput()
 {

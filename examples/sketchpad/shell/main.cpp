@@ -24,7 +24,8 @@ constexpr char kUsage[] =
     "Usage: sketchpad [--dark] [--script FILE] [DRAWING]\n"
     "\n"
     "  --dark           in dark colours, whatever the desktop's are\n"
-    "  --script FILE    plays a session and ends; docs/sketchpad.md lists the commands\n";
+    "  --script FILE    plays a session, with your settings, and ends; docs/sketchpad.md lists the\n"
+    "                   commands\n";
 
 struct Arguments
 {

@@ -122,6 +122,24 @@ TEST_F(GalleryComparison, RefusesPicturesOfTwoRatios)
     expectOneLineAbout(result.err, QStringLiteral("%1 2096 by").arg(same()));
 }
 
+TEST_F(GalleryComparison, DoesNotReplaceAPictureThatItCompares)
+{
+    const QString other = changed({{0, 0}});
+    const QString link = file("link.png");
+    ASSERT_TRUE(QFile::link(other, link));
+    for (const QString& difference : {other, link}) {
+        const ProgramResult compared = run({kCompare, other, kDifference, difference});
+        EXPECT_EQ(compared.status, 2);
+        expectOneLineAbout(compared.err,
+                           QStringLiteral("--difference would replace the picture of --compare"));
+        const ProgramResult with = run({kCompare, same(), kWith, other, kDifference, difference});
+        EXPECT_EQ(with.status, 2);
+        expectOneLineAbout(with.err,
+                           QStringLiteral("--difference would replace the picture of --with"));
+    }
+    EXPECT_EQ(run({kCompare, other, kWith, other}).out, total(0));
+}
+
 TEST_F(GalleryComparison, SaysTheSizeOfWhatIsNoSheet)
 {
     ASSERT_TRUE(image.copy(0, 0, 30, 20).save(file("small.png")));

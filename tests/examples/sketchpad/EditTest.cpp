@@ -38,6 +38,9 @@ const EditRow kEdits[] = {
      "polygon 0 3 000000 be4614 4 60,60 160,60 160,160 60,160\n"},
     {"Type", "tool text\ndrag 20,20\ntype Words\nkey return\n",
      kSquareLine + "text 0 3 000000 none 1 20,20 Words\n"},
+    {"PasteWhileTyping",
+     "clipboard some words\ntool text\ndrag 20,20\ntype <>\nkey left\nmenu paste\nkey return\n",
+     kSquareLine + "text 0 3 000000 none 1 20,20 <some words>\n"},
     {"Insert", "tool line\nmenu insert\n",
      kSquareLine + "line 0 3 000000 none 2 326,206 426,266\n"},
 };

@@ -31,6 +31,8 @@
 
 #include <KtQtBase/Messages.h>
 
+#include <map>
+
 namespace {
 
 class SketchpadMainWindow : public testing::Test
@@ -158,6 +160,29 @@ TEST_F(SketchpadMainWindow, DrawsAnIconForEachToolAndColor)
     EXPECT_FALSE(action(ID_PEN_COLOR_FIRST)->icon().isNull());
     const QImage red = action(ID_PEN_COLOR_FIRST + 1)->icon().pixmap(20).toImage();
     EXPECT_EQ(red.pixelColor(red.width() / 2, red.height() / 2), QColor(200, 30, 30));
+}
+
+// Pictures of the icons of all commands that have one, each by its command.
+std::map<UINT, QImage> icons(const MainWindow& window)
+{
+    std::map<UINT, QImage> pictures;
+    for (const QAction* action : window.findChildren<QAction*>()) {
+        if (const UINT id = action->data().toUInt(); id && !action->icon().isNull())
+            pictures[id] = action->icon().pixmap(20).toImage();
+    }
+    return pictures;
+}
+
+TEST_F(SketchpadMainWindow, DrawsTheIconsThatNoThemeHas)
+{
+    const std::map<UINT, QImage> pictures = icons(*window);
+    for (const UINT id : {ID_FILE_PRINT, ID_FILE_PRINT_PREVIEW, ID_APP_EXIT, ID_EDIT_CUT,
+                          ID_EDIT_COPY, ID_EDIT_PASTE, ID_EDIT_SELECT_ALL, ID_VIEW_ZOOM_IN,
+                          ID_VIEW_ZOOM_OUT, ID_VIEW_ZOOM_FULL, ID_VIEW_ZOOM_FIT}) {
+        ASSERT_TRUE(pictures.count(id)) << id;
+        for (const auto& [other, picture] : pictures)
+            EXPECT_TRUE(other == id || picture != pictures.at(id)) << id << " looks like " << other;
+    }
 }
 
 TEST_F(SketchpadMainWindow, ChecksThePresentToolPenAndFill)

@@ -130,6 +130,28 @@ TEST(SketchpadSettings, KeepTheRecentFilesNewestFirst)
                                  "File2=" + work + "/b.sketch\n"));
 }
 
+TEST(SketchpadSettings, ForgetARecentFileThatIsGone)
+{
+    Host host;
+    ASSERT_EQ(host.play(kDrawSquare + "save a\nsave b\n").status, 0);
+    std::filesystem::remove(host.work() / "b.sketch");
+    const SessionResult result =
+        host.play("answer ok\nmenu recent\nmenu recent\nexpect shapes 1\n");
+    EXPECT_EQ(result.status, 0) << result.err;
+    EXPECT_THAT(result.out, HasSubstr("Opened a.sketch"));
+    EXPECT_THAT(readFile(host.settings()), Not(HasSubstr("b.sketch")));
+}
+
+TEST(SketchpadSettings, KeepARecentFileThatCannotBeReadNow)
+{
+    Host host;
+    ASSERT_EQ(host.play(kDrawSquare + "save a\n").status, 0);
+    host.writeFile("a.sketch", "damaged");
+    ASSERT_EQ(host.play("answer ok\nmenu recent\n").status, 0);
+    EXPECT_THAT(readFile(host.settings()),
+                HasSubstr("File1=" + host.work().string() + "/a.sketch"));
+}
+
 TEST(SketchpadSettings, HoldNamesLongerThanTheFirstBuffer)
 {
     Host host;
