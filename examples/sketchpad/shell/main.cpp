@@ -20,12 +20,12 @@
 namespace {
 
 constexpr int kBadInput = 2;
-constexpr char kUsage[] =
-    "Usage: sketchpad [--dark] [--script FILE] [DRAWING]\n"
-    "\n"
-    "  --dark           in dark colours, whatever the desktop's are\n"
-    "  --script FILE    plays a session, with your settings, and ends; docs/sketchpad.md lists the\n"
-    "                   commands\n";
+constexpr char kUsage[] = "Usage: sketchpad [--dark] [--script FILE] [DRAWING]\n"
+                          "\n"
+                          "  --dark           in dark colours, whatever the desktop's are\n"
+                          "  --script FILE    plays a session, with your settings, and ends; "
+                          "docs/sketchpad.md lists the\n"
+                          "                   commands\n";
 
 struct Arguments
 {
