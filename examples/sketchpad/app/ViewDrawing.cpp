@@ -117,7 +117,7 @@ void CSketchView::DrawGrid(KtQtPainterWrapper& painter, int scale) const
     const LONG step = m_defaults.grid * scale;
     if (step == 0)
         return;
-    painter.setPen(PS_SOLID, scale, kGrid);
+    painter.setPen(PS_SOLID, 0, kGrid); // of one pixel at every zoom, so that all lines look alike
     for (LONG x = paper.left + step; x < paper.right; x += step) {
         const POINT line[] = {{x, paper.top}, {x, paper.bottom}};
         painter.drawPolyline(line, 2);

@@ -9,6 +9,7 @@
 
 #include <gtest/gtest.h>
 
+#include <algorithm>
 #include <cmath>
 #include <cstdlib>
 #include <set>
@@ -60,7 +61,26 @@ int mixedBlocks(const QImage& picture, const QRect& part, int size)
     return mixed;
 }
 
+// The longest run of the grid's colour in a row of pixels between two lines across.
+int widestGridLine(const QImage& picture)
+{
+    const int y = static_cast<int>(std::lround(picture.height() * 0.8));
+    int widest = 0;
+    int width = 0;
+    for (int x = 0; x < picture.width(); ++x) {
+        width = picture.pixel(x, y) == qRgb(214, 222, 235) ? width + 1 : 0;
+        widest = std::max(widest, width);
+    }
+    return widest;
+}
+
 } // namespace
+
+TEST(SketchpadPicture, HasGridLinesOfOnePixelOnEveryScreen)
+{
+    for (const char* ratio : {"1", "1.5", "2", "3"})
+        EXPECT_EQ(widestGridLine(pictureAt(ratio)), 1) << ratio;
+}
 
 TEST(SketchpadPicture, IsAsSharpAsTheScreen)
 {
