@@ -29,15 +29,16 @@ named_packages() {
         dnf:build) echo gcc-c++ cmake ninja-build pkgconf-pkg-config dejavu-sans-fonts ;;
         pacman:build) echo gcc cmake ninja pkgconf ttf-dejavu ;;
         zypper:build) echo gcc-c++ cmake ninja pkg-config dejavu-fonts ;;
-        # poppler-utils reads printed pages, Python the headers; the packages after them show the
-        # tests' windows on an invisible display.
-        apt:test) echo libgtest-dev libgmock-dev poppler-utils python3 xvfb xauth openbox xdotool ;;
+        # poppler-utils reads printed pages, Python the headers, and locales has the sources of
+        # locales; the packages after them show the tests' windows on an invisible display.
+        apt:test) echo libgtest-dev libgmock-dev poppler-utils python3 locales xvfb xauth openbox \
+            xdotool ;;
         brew:test) echo googletest poppler python3 ;;
-        dnf:test) echo gtest-devel gmock-devel poppler-utils python3 xorg-x11-server-Xvfb openbox \
-            xdotool ;;
+        dnf:test) echo gtest-devel gmock-devel poppler-utils python3 glibc-locale-source \
+            xorg-x11-server-Xvfb openbox xdotool ;;
         pacman:test) echo gtest poppler python xorg-server-xvfb xorg-xauth openbox xdotool ;;
-        zypper:test) echo gtest gmock poppler-tools python3 xorg-x11-server-Xvfb xauth openbox \
-            xdotool ;;
+        zypper:test) echo gtest gmock poppler-tools python3 glibc-i18ndata xorg-x11-server-Xvfb \
+            xauth openbox xdotool ;;
         # ktqt-trace is made by Python. Everything behind LLVM and Clang makes the programs that the
         # tests of ktqt-audit read.
         apt:tools) echo python3 llvm-14-dev libclang-14-dev llvm-14 clang-14 lld-14 \
