@@ -23,10 +23,20 @@ namespace {
 
 // ---- The narrow reader -------------------------------------------------------------------------
 
-// Every byte pair of the value is one character in UTF-8 and two in Latin-1.
-const std::string kProfile = "[Main]\nTitle = \"\xC3\xA9t\xC3\xA9 1,5\xC3\xA9\"\nWidth = 10\n"
-                             "[\xC4\xB1"
-                             "er]\nKey = 1\n";
+std::string longText()
+{
+    std::string text;
+    for (int letter = 0; letter < 600; ++letter)
+        text += "\xC3\xA9";
+    return text;
+}
+
+// Every pair of bytes above 127 is one character in UTF-8 and two in Latin-1. The long value ends
+// inside a character where the wide reader cuts it.
+const std::string kProfile =
+    "[Main]\nTitle = \"\xC3\xA9t\xC3\xA9 1,5\xC3\xA9\"\nWidth = 10\nLong = " + longText() +
+    "\n[\xC4\xB1"
+    "er]\nKey = 1\n";
 
 ScratchProfile& profile()
 {
@@ -42,6 +52,7 @@ struct ProfileRow
 
 const ProfileRow kProfileRows[] = {
     {"Value", {"Main", "Title", "none", 0}},
+    {"LongValue", {"Main", "Long", "none", 0}},
     {"Default", {"Main", "None", "no \xC3\xA9 ", 0}},
     {"Keys", {"Main", std::nullopt, "none", 0}},
     {"Sections", {std::nullopt, std::nullopt, "none", 0}},
@@ -92,7 +103,6 @@ void callNarrowReader(const Cell& cell, const ProfileQuestion& question)
     out.expect(written);
 }
 
-// A size of 2^31 - 1 asks for zeros up to there: a buffer of that size is read-profile-room's.
 GridRow ofNarrowReader(const ProfileRow& row)
 {
     std::vector<Column> columns = kTrueSizes;
@@ -113,32 +123,31 @@ using ProfileStringFunction = unsigned int (*)(const wchar_t*, const wchar_t*, c
 
 constexpr std::size_t kGreatestRoom = 1024;
 
-const ProfileQuestion kWideQuestion = kProfileRows[0].question;
-
 // The value up to the first byte that does not convert, with its terminator; a null buffer gets the
 // count all the same.
-Promise<wchar_t> wideReaderPromise(const Cell& cell)
+Promise<wchar_t> wideReaderPromise(const Cell& cell, const ProfileQuestion& question)
 {
-    const ProfileAnswer answer = slowAnswer(kWideQuestion, std::min(cell.size, kGreatestRoom));
+    const ProfileAnswer answer = slowAnswer(question, std::min(cell.size, kGreatestRoom));
     const bool nothing = cell.isNull() || cell.size == 0;
     const std::wstring written = nothing ? L"" : widened(answer.text).text + L'\0';
     return {answer.count, written, written.size()};
 }
 
-GridRow ofWideReader(const char* function, ProfileStringFunction call)
+GridRow ofWideReader(const char* function, ProfileStringFunction call, const ProfileRow& row)
 {
+    const std::wstring key(row.question.key->begin(), row.question.key->end());
     return {function,
-            "",
+            row.variant,
             Locales::All,
             kAllColumns,
-            [] { return exactRoom(kWideQuestion); },
+            [row] { return std::min(exactRoom(row.question), kGreatestRoom); },
             kGreatestUnsigned,
             writes<wchar_t>(
-                [call](wchar_t* out, std::size_t size) {
-                    return call(L"Main", L"Title", L"none", out, static_cast<unsigned int>(size),
+                [call, key](wchar_t* out, std::size_t size) {
+                    return call(L"Main", key.c_str(), L"none", out, static_cast<unsigned int>(size),
                                 profile().wideName().c_str());
                 },
-                wideReaderPromise)};
+                [row](const Cell& cell) { return wideReaderPromise(cell, row.question); })};
 }
 
 // ---- Registry values ---------------------------------------------------------------------------
@@ -275,8 +284,11 @@ GridRow ofLoadString(const char* function, LoadStringFunction call)
 
 std::vector<GridRow> profileRows()
 {
-    std::vector<GridRow> rows{ofWideReader("GetPrivateProfileString", ::GetPrivateProfileString),
-                              ofWideReader("GetPrivateProfileStringW", GetPrivateProfileStringW)};
+    std::vector<GridRow> rows;
+    for (const ProfileRow& row : {kProfileRows[0], kProfileRows[1]}) {
+        rows.push_back(ofWideReader("GetPrivateProfileString", ::GetPrivateProfileString, row));
+        rows.push_back(ofWideReader("GetPrivateProfileStringW", GetPrivateProfileStringW, row));
+    }
     for (const ProfileRow& row : kProfileRows)
         rows.push_back(ofNarrowReader(row));
     return rows;
