@@ -14,7 +14,6 @@
 #include <cstring>
 #include <functional>
 #include <limits>
-#include <memory>
 #include <string>
 #include <tuple>
 #include <type_traits>
@@ -147,12 +146,12 @@ std::string wordOfCall(const Function& function, Pass pass, int error)
 // ---- Objects -----------------------------------------------------------------------------------
 
 template<class Object>
-std::unique_ptr<Object> newObject()
+Object newObject()
 {
     if constexpr (std::is_default_constructible_v<Object>)
-        return std::make_unique<Object>();
+        return Object();
     else
-        return std::make_unique<Object>(nullptr);
+        return Object(nullptr);
 }
 
 template<class Object>
@@ -195,13 +194,13 @@ private:
     static Stub ofMethod(Method method)
     {
         return [=](Pass pass, int error) {
-            const auto object = newObject<Object>();
-            const auto before = bytesOf(*object);
+            Object object = newObject<Object>();
+            const auto before = bytesOf(object);
             const auto function = [&](auto&&... each) -> decltype(auto) {
-                return ((*object).*method)(std::forward<decltype(each)>(each)...);
+                return (object.*method)(std::forward<decltype(each)>(each)...);
             };
             const std::string word = wordOfCall<Arguments...>(function, pass, error);
-            EXPECT_EQ(bytesOf(*object), before);
+            EXPECT_EQ(bytesOf(object), before);
             return word;
         };
     }
