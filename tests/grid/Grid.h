@@ -43,7 +43,7 @@ inline const std::vector<Column> kSizes{
     Column::Zero,         Column::One,   Column::ExactMinusOne, Column::Exact,
     Column::ExactPlusOne, Column::Large, Column::Greatest};
 
-// The columns of a size that the caller promises to have: there is no true buffer of the greatest.
+// The columns of a size that the caller has to have in fact, which nobody has of the greatest.
 inline const std::vector<Column> kTrueSizes{Column::Zero,  Column::One,
                                             Column::Exact, Column::ExactMinusOne,
                                             Column::Large, Column::ExactPlusOne};
