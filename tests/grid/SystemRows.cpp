@@ -78,29 +78,35 @@ using CurrentDirectoryFunction = unsigned int (*)(unsigned int, wchar_t*);
 
 constexpr std::size_t kFolderRoom = 1024;
 
-std::wstring executableFolder()
+Widened executableFolder()
 {
-    const Widened folder = widened(std::filesystem::path(executable()).parent_path());
-    return folder.whole ? folder.text + L'\0' : std::wstring(1, L'\0');
+    return widened(std::filesystem::path(executable()).parent_path());
 }
 
-// The size that is passed does not count, and the room is always 1,024.
+// The size that is passed does not count, and the room is always 1,024. Behind the empty text of a
+// folder that does not convert nothing is promised.
+void callForFolder(const Cell& cell, CurrentDirectoryFunction call)
+{
+    const Widened folder = executableFolder();
+    const Output<wchar_t> out(cell, kFolderRoom);
+    EXPECT_EQ(call(static_cast<unsigned int>(cell.size), out.data()), 1024u);
+    if (cell.isNull())
+        out.expect(L"");
+    else if (folder.whole)
+        out.expect(folder.text + L'\0');
+    else
+        out.expect(L'\0' + out.text(kFolderRoom).substr(1));
+}
+
 GridRow ofCurrentDirectory(const char* function, CurrentDirectoryFunction call)
 {
     return {function,
             "",
             Locales::All,
             kAllColumns,
-            [] { return executableFolder().size(); },
+            [] { return executableFolder().text.size() + 1; },
             kGreatestUnsigned,
-            writes<wchar_t>(
-                [call](wchar_t* out, std::size_t size) {
-                    return call(static_cast<unsigned int>(size), out);
-                },
-                [](const Cell& cell) {
-                    const std::wstring written = cell.isNull() ? L"" : executableFolder();
-                    return Promise<wchar_t>{1024, written, kFolderRoom};
-                })};
+            [call](const Cell& cell) { callForFolder(cell, call); }};
 }
 
 // ---- Temporary names ---------------------------------------------------------------------------
