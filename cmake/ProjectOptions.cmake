@@ -84,8 +84,8 @@ function(ktqtbase_fortify_flags result)
     set(${result} ${flags} PARENT_SCOPE)
 endfunction()
 
-# Makes faults of memory that remain in a target harder to use. What ELF's loader fills in is
-# read-only from the first call on; macOS does likewise without being asked.
+# Makes faults of memory that remain in a target harder to use. What the loader fills in is read-only
+# from the first call on; the linker of macOS has no such flags.
 function(ktqtbase_harden target)
     if(NOT KTQTBASE_HARDEN)
         return()
