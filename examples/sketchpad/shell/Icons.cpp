@@ -147,7 +147,7 @@ QIcon colorIcon(COLORREF color, const QColor& ink)
 
 QIcon desktopIcon(const Named& name)
 {
-    const QIcon icon = QIcon::fromTheme(name.theme);
+    QIcon icon = QIcon::fromTheme(name.theme);
     if (!icon.isNull() || name.fallback == kNone)
         return icon;
     return QApplication::style()->standardIcon(name.fallback);
