@@ -32,6 +32,7 @@ option(KTQTBASE_WARNINGS_AS_ERRORS "Treat compiler warnings as errors" OFF)
 option(KTQTBASE_SANITIZE "Build with the sanitizers that KTQTBASE_SANITIZERS names" OFF)
 set(KTQTBASE_SANITIZERS address,undefined CACHE STRING "The sanitizers, as -fsanitize= takes them")
 option(KTQTBASE_COVERAGE "Build with coverage counters" OFF)
+option(KTQTBASE_HARDEN "Build with stack protection, checked buffers and read-only tables" ON)
 set(KTQTBASE_HOST_OSBASE "" CACHE FILEPATH
     "A host's own OS-base library to link instead of the bundled one")
 set(KTQTBASE_HOST_OSBASE_INCLUDE "" CACHE PATH
@@ -63,5 +64,42 @@ function(ktqtbase_target_settings target)
     if(KTQTBASE_COVERAGE)
         target_compile_options(${target} PRIVATE --coverage -fprofile-update=atomic)
         target_link_options(${target} PRIVATE --coverage)
+    endif()
+endfunction()
+
+# Sets a variable to the flags that check buffers of a known size, of which the C library has two
+# forms. They need an optimising build, know nothing of sanitizers, and give way to whoever builds
+# and chose a level himself. A compiler may have a level of its own, which is no choice.
+function(ktqtbase_fortify_flags result)
+    get_directory_property(definitions COMPILE_DEFINITIONS)
+    get_directory_property(options COMPILE_OPTIONS)
+    foreach(config IN ITEMS Release RelWithDebInfo MinSizeRel)
+        string(TOUPPER ${config} name)
+        set(chosen "${CMAKE_CXX_FLAGS} ${CMAKE_CXX_FLAGS_${name}} ${options} ${definitions}")
+        if(chosen MATCHES "-O([1-3gsz]|fast)" AND NOT KTQTBASE_SANITIZE
+                AND NOT chosen MATCHES "-O0|_FORTIFY_SOURCE|-fsanitize")
+            list(APPEND flags
+                "$<$<CONFIG:${config}>:-U_FORTIFY_SOURCE>" "$<$<CONFIG:${config}>:-D_FORTIFY_SOURCE=2>")
+        endif()
+    endforeach()
+    set(${result} ${flags} PARENT_SCOPE)
+endfunction()
+
+# Makes faults of memory that remain in a target harder to use. What the loader fills in is read-only
+# from the first call on; the linker of macOS has no such flags.
+function(ktqtbase_harden target)
+    if(NOT KTQTBASE_HARDEN)
+        return()
+    endif()
+    target_compile_options(${target} PRIVATE -fstack-protector-strong)
+    if(NOT APPLE)
+        target_link_options(${target} PRIVATE -Wl,-z,relro -Wl,-z,now)
+    endif()
+endfunction()
+
+function(ktqtbase_fortify target)
+    if(KTQTBASE_HARDEN)
+        ktqtbase_fortify_flags(flags)
+        target_compile_options(${target} PRIVATE ${flags})
     endif()
 endfunction()

@@ -16,7 +16,7 @@ ENDS_SENTENCE = re.compile(r"(Inert|On Windows|Kept|Result[^:]*):| |$")
 COMMENT = re.compile(r"// ?")
 ACCESS = re.compile(r"(public|protected|private)\b.*:$")
 DROPPED = re.compile(r"\b(KTQTBASE_EXPORT|__extension__)\b|\btemplate *<[^>]*>|\[\[\w+\]\]")
-SCOPE = re.compile(r"(namespace|class|struct|enum|extern(?= *\"))(?: class)?\b *(\w*)")
+SCOPE = re.compile(r"(namespace|class|struct|union|enum|extern(?= *\"))(?: class)?\b *(\w*)")
 FUNCTION = re.compile(r"\w+\((\w+)\) *\(|(~?\w+) *\(")
 SKIPPED = re.compile(r"$|extern template|using [^=]*$|friend|(class|struct|union) *\w*$|"
                      r".*= delete$|.*\boperator\b")

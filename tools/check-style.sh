@@ -37,7 +37,7 @@ unlicensed() {
 # matching itself.
 outside_references() {
     local words='\bsp[e]c(ification)?\b|\b[i]nterface\.md\b|\bsha[r]ed/|\b[P]art [0-9]|\b[i]ssue #?[0-9]'
-    git grep -nIiE "$words" -- ':!*.svg' ':!*.json' || true
+    git grep -nIiE "$words" -- ':!*.svg' ':!*.json' ':!*.abi' || true
 }
 
 untested_headers() {

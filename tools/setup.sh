@@ -63,8 +63,8 @@ named_packages() {
             libgtest-dev:arm64 libgmock-dev:arm64 ;;
         # The formatter's version is fixed, since each version formats some lines differently; so is
         # that of clang-tidy, since each version finds something new.
-        apt:check) echo git clang clang-format-14 clang-tidy-14 libgnustep-gui-dev python3 reuse \
-            unixodbc-dev valgrind ;;
+        apt:check) echo git abigail-tools binutils clang clang-format-14 clang-tidy-14 cppcheck \
+            libgnustep-gui-dev python3 reuse shellcheck unixodbc-dev valgrind ;;
         # The terminal and the browser of pictures in docs/.
         apt:pictures) echo xterm chromium ;;
         apt:bench) echo libbenchmark-dev libboost-filesystem-dev libglib2.0-dev libinih-dev \

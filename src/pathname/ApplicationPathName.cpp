@@ -101,8 +101,8 @@ int ProcessPathStatus(CRnUiPathname& path, CStdStr<wchar_t>** work)
     const unsigned int attributes = attributesOfText(work);
     if (attributes == INVALID_FILE_ATTRIBUTES)
         return 0;
-    return attributes & ktqtbase::kReadOnlyAttribute ? kExistsAndReadable
-                                                     : kExistsAndReadable | kMayBeWritten;
+    return (attributes & ktqtbase::kReadOnlyAttribute) ? kExistsAndReadable
+                                                       : kExistsAndReadable | kMayBeWritten;
 }
 
 void ProcessParentStatus(CRnUiPathname& parent, CStdStr<wchar_t>** work, int& status)

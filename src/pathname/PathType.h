@@ -31,7 +31,7 @@ inline path_type typeOnDisk(const CStdStr<wchar_t>& work, const CStdStr<wchar_t>
         prefix ? attributesInPrefix(work, *prefix) : GetFileAttributes(work.c_str());
     if (attributes == INVALID_FILE_ATTRIBUTES)
         return PT_NOT_FOUND;
-    return attributes & kDirectoryAttribute ? PT_DIRECTORY : PT_FILE;
+    return (attributes & kDirectoryAttribute) ? PT_DIRECTORY : PT_FILE;
 }
 
 // Whether a path object holds a pattern: a wildcard in its last component.

@@ -45,28 +45,28 @@ NarrowText::NarrowText(const wchar_t* wide)
 {
     if (!wide)
         return;
-    const std::size_t length = std::wcslen(wide);
-    char* const room = m_room.of(length + 1);
-    if (!narrowAscii(wide, length, room)) {
+    const std::size_t characters = std::wcslen(wide);
+    char* const room = m_room.of(characters + 1);
+    if (!narrowAscii(wide, characters, room)) {
         // Not four bytes a character: some C libraries write six for values beyond the last code
         // point, and a room too small would cut the text without a terminator.
-        convert(wide, length * MB_CUR_MAX + 1);
+        convert(wide, characters * MB_CUR_MAX + 1);
         return;
     }
-    room[length] = '\0';
+    room[characters] = '\0';
     m_text = room;
-    m_length = length;
+    m_length = characters;
 }
 
 void NarrowText::convert(const wchar_t* wide, std::size_t size)
 {
     char* const room = m_room.of(size);
-    const std::size_t length = std::wcstombs(room, wide, size);
+    const std::size_t bytes = std::wcstombs(room, wide, size);
     // Also -1, for text that does not convert.
-    if (length >= size)
+    if (bytes >= size)
         return;
     m_text = room;
-    m_length = length;
+    m_length = bytes;
 }
 
 bool widen(const char* narrow, wchar_t* wide, std::size_t size)

@@ -39,6 +39,15 @@ if(NOT installed OR NOT installed STREQUAL ours)
     message(FATAL_ERROR "The catalogue is not installed as it is: ${installed}")
 endif()
 
+# Nobody's folder but the library's own is searched for what it needs.
+if(NOT CMAKE_HOST_APPLE)
+    execute_process(COMMAND readelf --dynamic --wide ${prefix}/${LIBDIR}/libKtQtBase.so
+        OUTPUT_VARIABLE entries COMMAND_ERROR_IS_FATAL ANY)
+    if(NOT entries MATCHES "[(]RUNPATH[)] [^\n]*\\[\\$ORIGIN\\]")
+        message(FATAL_ERROR "The installed library looks elsewhere for others: ${entries}")
+    endif()
+endif()
+
 # The programs find their data and their library from where they were moved to.
 if(EXISTS ${BUILD_DIR}/audit/ktqt-audit)
     execute_process(COMMAND ${prefix}/${BINDIR}/ktqt-audit --explain CloseHandle

@@ -30,8 +30,8 @@ check() {
 while IFS= read -r line; do
     case "$inside:$line" in
         ':<!-- from '*) source=${line#<!-- from } source=${source% -->} ;;
-        ':```cpp') inside=yes snippet= ;;
-        'yes:```') check && inside= source= ;;
+        ':```cpp') inside=yes snippet='' ;;
+        'yes:```') check && inside='' source='' ;;
         yes:*) snippet+=$line$newline ;;
     esac
 done <"$document"

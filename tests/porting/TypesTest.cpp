@@ -6,6 +6,7 @@
 #include <gtest/gtest.h>
 
 #include <algorithm>
+#include <cstddef>
 #include <string>
 #include <type_traits>
 
@@ -211,6 +212,14 @@ TEST(PortingTypes, CompareANumberOfBytesWithSizeof)
 
 TEST(PortingRecords, HaveTheFieldsOfWindows)
 {
+    static_assert(offsetof(POINTS, x) == 0 && offsetof(POINTS, y) == 2);
+    static_assert(offsetof(LARGE_INTEGER, LowPart) == 0 && offsetof(LARGE_INTEGER, HighPart) == 4);
+    static_assert(offsetof(LARGE_INTEGER, u) == 0 && offsetof(LARGE_INTEGER, QuadPart) == 0);
+    static_assert(offsetof(ULARGE_INTEGER, LowPart) == 0 &&
+                  offsetof(ULARGE_INTEGER, HighPart) == 4);
+    static_assert(offsetof(ULARGE_INTEGER, u) == 0 && offsetof(ULARGE_INTEGER, QuadPart) == 0);
+    static_assert(offsetof(GUID, Data1) == 0 && offsetof(GUID, Data2) == 4);
+    static_assert(offsetof(GUID, Data3) == 6 && offsetof(GUID, Data4) == 8);
     LARGE_INTEGER size = {};
     size.QuadPart = -2;
     EXPECT_EQ(size.LowPart, 0xFFFFFFFEU);

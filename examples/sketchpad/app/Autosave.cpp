@@ -23,9 +23,9 @@ void RemoveFile(const std::wstring& path)
     fs::remove(Narrow(path).value_or(std::string()), ignored);
 }
 
-bool IsOlder(const std::wstring& path, const std::wstring& other)
+bool IsOlder(const std::wstring& name, const std::wstring& other)
 {
-    const auto time = TimeOf(path);
+    const auto time = TimeOf(name);
     const auto otherTime = TimeOf(other);
     return time && otherTime && *time < *otherTime;
 }
@@ -86,7 +86,7 @@ void CAutosave::Write(const std::wstring& path, const std::vector<CShape>& shape
 std::wstring CAutosave::Take(const std::wstring& path)
 {
     for (int number = 1; number <= kMostPrograms; ++number) {
-        const std::wstring name = NameFor(path, number);
+        std::wstring name = NameFor(path, number);
         if (!TimeOf(name) || !m_shell.HoldName(name))
             continue;
         m_path = name;

@@ -47,7 +47,7 @@ std::optional<std::string> MakeTemporary(const fs::path& path, mode_t mode)
     for (int i = 0; i < kTries; ++i) {
         wchar_t name[1024] = {};
         GetTempFileName(folder->c_str(), L"sketch", 0, name);
-        const auto bytes = Narrow(name);
+        auto bytes = Narrow(name);
         const int file =
             bytes ? open(bytes->c_str(), O_WRONLY | O_CREAT | O_EXCL | O_CLOEXEC, mode) : -1;
         if (file >= 0 && close(file) == 0)

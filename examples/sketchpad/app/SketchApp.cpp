@@ -55,6 +55,7 @@ CSketchApp::CSketchApp(CShell& shell, const CDefaults& defaults)
 // A text that is being typed is part of the drawing for every command; what is pasted goes into it.
 bool CSketchApp::OnCommand(UINT id)
 {
+    // NOLINTNEXTLINE(readability-use-anyofallof): what is found is called
     for (const CommandEntry& entry : kCommandMap) {
         if (id >= entry.first && id <= entry.last) {
             if (id != ID_EDIT_PASTE)

@@ -62,6 +62,7 @@ void CSketchView::OnCreate(HWND window, const CTextMeasure& measure)
 
 bool CSketchView::WindowProc(UINT message, WPARAM wParam, LPARAM lParam)
 {
+    // NOLINTNEXTLINE(readability-use-anyofallof): what is found is called
     for (const MessageEntry& entry : kMessageMap) {
         if (entry.message == message) {
             (this->*entry.handler)(wParam, lParam);

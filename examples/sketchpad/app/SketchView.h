@@ -97,7 +97,7 @@ private:
     void OnDragBy(WPARAM, LPARAM offset);
     void OnMoveBy(WPARAM, LPARAM offset);
     void OnTakeText(WPARAM, LPARAM lParam);
-    void OnEndText(WPARAM, LPARAM hit);
+    void OnEndText(WPARAM, LPARAM lParam);
 
     void DrawShape(KtQtPainterWrapper& painter, const CShape& shape, int scale) const;
     void DrawPaper(KtQtPainterWrapper& painter, int scale) const;

@@ -50,7 +50,7 @@ std::wstring Text(TextId id, const std::wstring& argument)
 
 std::wstring Text(TextId id, const std::wstring& first, const std::wstring& second)
 {
-    const std::wstring text = Text(id);
+    std::wstring text = Text(id);
     const std::size_t place = text.find(kPlaceholder);
     if (place == std::wstring::npos)
         return text;

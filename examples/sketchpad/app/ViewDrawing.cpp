@@ -35,6 +35,7 @@ std::vector<POINT> Scaled(const std::vector<POINT>& points, int scale)
 
 CRect Scaled(const CRect& rect, int scale)
 {
+    // NOLINTNEXTLINE(clang-analyzer-core.UndefinedBinaryOperatorResult): CRect sets its base's fields
     return CRect(rect.left * scale, rect.top * scale, rect.right * scale, rect.bottom * scale);
 }
 

@@ -79,7 +79,7 @@ QSize Canvas::sizeHint() const
 
 void Canvas::adjustToZoom()
 {
-    resize(sizeHint() * m_view.GetZoom() / 100);
+    resize(Canvas::sizeHint() * m_view.GetZoom() / 100);
     update();
 }
 

@@ -255,7 +255,7 @@ QIcon colorIcon(COLORREF color, const QColor& ink)
 
 QIcon desktopIcon(const Named& name, const QColor& ink)
 {
-    const QIcon icon = QIcon::fromTheme(name.theme);
+    QIcon icon = QIcon::fromTheme(name.theme);
     if (!icon.isNull())
         return icon;
     if (name.path)

@@ -45,11 +45,12 @@ MainWindow::MainWindow(const CDefaults& defaults)
     m_canvas->setAccessibleName(toQt(Text(IDS_CANVAS)));
     setCentralWidget(m_area);
     makeStatusLine();
+    // NOLINTNEXTLINE(cppcoreguidelines-prefer-member-initializer): behind the status line
     m_menus = new Menus(*this, m_app);
     placeWindow();
     m_canvas->setFocus();
     m_app.UpdateFrame();
-    ShowLine(Text(IDS_READY));
+    MainWindow::ShowLine(Text(IDS_READY));
     connect(&m_autosave, &QTimer::timeout, this, [this] { m_app.OnAutosave(); });
     m_autosave.start(defaults.autosave * 1000);
 }

@@ -34,7 +34,7 @@ private:
     void addCommands(QMenu* menu, const Commands& ids);
     QAction* addCommand(unsigned int id);
     void makeFileMenu();
-    void makeToolBar(const Commands& tools);
+    void makeToolBar(const Commands& commands);
 
     QMainWindow& m_window;
     CSketchApp& m_app;

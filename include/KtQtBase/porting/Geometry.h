@@ -23,6 +23,9 @@
 
 #include <KtQtBase/porting/HostMacros.h> // sets the host's macros aside
 
+// The analyser does not see what the constructors of CRect, CPoint and CSize write to their bases.
+// NOLINTBEGIN(clang-analyzer-core.UndefinedBinaryOperatorResult,clang-analyzer-core.CallAndMessage)
+
 // ---- The functions of Windows ------------------------------------------------------------------
 
 // Pointers must not be null; a destination may be a source, too. A rectangle is empty if its width
@@ -372,6 +375,7 @@ inline CRect operator|(CRect rect, const RECT& other)
 }
 
 #endif
+// NOLINTEND(clang-analyzer-core.UndefinedBinaryOperatorResult,clang-analyzer-core.CallAndMessage)
 
 #include <KtQtBase/porting/HostMacros.h> // gives them back
 

@@ -65,6 +65,7 @@
     KTQTBASE_PORTING_CHECK(name);                                                                  \
     using space::name
 
+// What is declared takes no parentheses. NOLINTBEGIN(bugprone-macro-parentheses)
 #define KTQTBASE_PORTING_FUNCTION(name, other)                                                     \
     KTQTBASE_PORTING_UNLESS_OFF(name, KTQTBASE_PORTING_ADD_FUNCTION)(name, other)
 #define KTQTBASE_PORTING_ADD_FUNCTION(name, other)                                                 \
@@ -83,6 +84,7 @@
     KTQTBASE_PORTING_CHECK(name);                                                                  \
     KTQTBASE_INERT(sentence) inline constexpr auto& name = ::other
 #endif
+// NOLINTEND(bugprone-macro-parentheses)
 
 KTQTBASE_PORTING_NAMES(KTQTBASE_PORTING_PUSH)
 

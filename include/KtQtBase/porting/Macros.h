@@ -102,6 +102,7 @@
 
 // A kind of handle, as the library's own are: no other kind converts into it.
 #if !defined(DECLARE_HANDLE) && !defined(KTQTBASE_PORTING_NO_DECLARE_HANDLE)
+// NOLINTNEXTLINE(bugprone-macro-parentheses): what is declared takes none
 #define DECLARE_HANDLE(name) using name = struct name##__*
 #endif
 

@@ -1,5 +1,6 @@
 // SPDX-License-Identifier: MIT
 #include "support/RowName.h"
+#include "support/VirtualTable.h"
 
 #include <KtQtBase/Messages.h>
 #include <KtQtBase/windows/Constants.h>
@@ -19,6 +20,7 @@
 
 namespace {
 
+using ktqtbase::test::callSlot;
 using ktqtbase::test::RowName;
 
 const int typeAtLoad = QKtMsgEvent::iKtMsgEventType;
@@ -190,6 +192,32 @@ TEST(QKtMsgEvent, HasItsFieldsInTheirOrder)
     EXPECT_EQ(distance(event, event.m_wParam), distance(twin, twin.wParam));
     EXPECT_EQ(distance(event, event.m_lParam), distance(twin, twin.lParam));
     EXPECT_EQ(sizeof event, sizeof twin);
+}
+
+// Notes what its destructor does. The memory that it is made in is nobody's to free.
+class DyingMessage : public QKtMsgEvent
+{
+public:
+    static inline int destroyed = 0;
+    static inline int deleted = 0;
+
+    DyingMessage() : QKtMsgEvent(1, 2, 3) {}
+    ~DyingMessage() override { ++destroyed; }
+
+    static void* operator new(std::size_t, void* memory) { return memory; }
+    static void operator delete(void*) { ++deleted; }
+    static void operator delete(void*, void*) {}
+};
+
+TEST(QKtMsgEvent, HasTheTwoFormsOfItsDestructorInTheFirstSlots)
+{
+    alignas(DyingMessage) unsigned char memory[sizeof(DyingMessage)];
+    callSlot<void>(*new (memory) DyingMessage, 0);
+    EXPECT_EQ(DyingMessage::destroyed, 1);
+    EXPECT_EQ(DyingMessage::deleted, 0);
+    callSlot<void>(*new (memory) DyingMessage, 1);
+    EXPECT_EQ(DyingMessage::destroyed, 2);
+    EXPECT_EQ(DyingMessage::deleted, 1);
 }
 
 TEST(QKtMsgEvent, HasTheNextTypeThatQtChooses)
