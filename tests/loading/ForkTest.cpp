@@ -21,14 +21,24 @@ using ktqtbase::test::TemporaryFolder;
 using ktqtbase::test::wide;
 using ktqtbase::test::writeFile;
 
+// A store of the test's own, for every settings object made after it.
+struct PrivateStore
+{
+    PrivateStore()
+    {
+        QSettings::setPath(QSettings::NativeFormat, QSettings::UserScope, folder.path().c_str());
+    }
+
+    const TemporaryFolder folder;
+};
+
 // What was made before the fork and is used behind it, by the child and by the parent.
 class Fork : public testing::Test
 {
 protected:
     Fork()
     {
-        QSettings::setPath(QSettings::NativeFormat, QSettings::UserScope, m_folder.path().c_str());
-        writeFile(m_folder / "a.ini", "[S]\nk=5\n");
+        writeFile(m_store.folder / "a.ini", "[S]\nk=5\n");
         m_key.Create(HKEY_CURRENT_USER, L"Software\\Fork");
         EXPECT_TRUE(ktuiSetCurrentDirPrefix());
         EXPECT_EQ(m_name.Parse(L"/no/such/file.txt", false), 0);
@@ -53,7 +63,7 @@ protected:
     void readFiles() const
     {
         wchar_t text[8] = {};
-        GetPrivateProfileString(L"S", L"k", L"", text, 8, wide(m_folder / "a.ini").c_str());
+        GetPrivateProfileString(L"S", L"k", L"", text, 8, wide(m_store.folder / "a.ini").c_str());
         EXPECT_STREQ(text, L"5");
         wchar_t program[1024] = {};
         EXPECT_EQ(GetModuleFileName(nullptr, program, 1024), 0u);
@@ -96,7 +106,7 @@ protected:
         return m_key.m_pSettings->value(name).toString();
     }
 
-    const TemporaryFolder m_folder;
+    const PrivateStore m_store;
     CRnUiPathname m_name;
     CRegKey m_key;
     QImage m_image{8, 8, QImage::Format_ARGB32_Premultiplied};
