@@ -251,8 +251,8 @@ TEST(FaultyGalleryPlace, InAFolderThatVanishedIsTold)
 
 TEST(FaultySketchpadPlace, OnAFullDiskKeepsTheDrawing)
 {
-    faults::expectHeldOrRefused(inChild([] {
-        Host host;
+    Host host;
+    faults::expectHeldOrRefused(inChild([&] {
         faults::mountSmallDisk(host.work(), 12288);
         host.writeFile("a.sketch", kSquareFile);
         host.writeFile("full", std::string(4096, 'x'));
@@ -267,8 +267,8 @@ TEST(FaultySketchpadPlace, OnAFullDiskKeepsTheDrawing)
 
 TEST(FaultySketchpadPlace, OnAReadOnlyDiskKeepsTheDrawing)
 {
-    faults::expectHeldOrRefused(inChild([] {
-        Host host;
+    Host host;
+    faults::expectHeldOrRefused(inChild([&] {
         faults::mountSmallDisk(host.work(), 65536);
         host.writeFile("a.sketch", kSquareFile);
         const std::string script =

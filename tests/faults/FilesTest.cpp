@@ -51,7 +51,7 @@ std::ptrdiff_t entriesOf(const fs::path& folder)
 
 // ---- System calls -------------------------------------------------------------------------------
 
-struct CallRow
+struct CopyCallRow
 {
     const char* name;
     const char* call;
@@ -59,7 +59,7 @@ struct CallRow
     bool isWhole; // whether the copy is, with whichever of its calls failing
 };
 
-class CopySystemCall : public testing::TestWithParam<CallRow>
+class CopySystemCall : public testing::TestWithParam<CopyCallRow>
 {
 protected:
     // Result: whether the n-th call was there to fail.
@@ -89,14 +89,14 @@ TEST_P(CopySystemCall, ThatFailsLeavesABeginningOfTheSource)
     EXPECT_EQ(entriesOf(m_folder.path()), 2);
 }
 
-const CallRow kCallRows[] = {
+const CopyCallRow kCopyCallRows[] = {
     {"OpenInterrupted", "open", EINTR, false},  {"OpenWithoutFiles", "open", EMFILE, false},
     {"ReadInterrupted", "read", EINTR, true},   {"ReadFailing", "read", EIO, false},
     {"WriteInterrupted", "write", EINTR, true}, {"WriteToAFullDisk", "write", ENOSPC, false},
     {"WriteFailing", "write", EIO, false},
 };
 
-INSTANTIATE_TEST_SUITE_P(Calls, CopySystemCall, testing::ValuesIn(kCallRows),
+INSTANTIATE_TEST_SUITE_P(Calls, CopySystemCall, testing::ValuesIn(kCopyCallRows),
                          ktqtbase::test::RowName());
 
 // ---- Places -------------------------------------------------------------------------------------

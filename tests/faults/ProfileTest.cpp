@@ -26,7 +26,7 @@ int openFiles()
 
 // ---- System calls -------------------------------------------------------------------------------
 
-struct CallRow
+struct ProfileCallRow
 {
     const char* name;
     const char* call;
@@ -35,7 +35,7 @@ struct CallRow
     int failures;
 };
 
-class ProfileSystemCall : public testing::TestWithParam<CallRow>
+class ProfileSystemCall : public testing::TestWithParam<ProfileCallRow>
 {};
 
 TEST_P(ProfileSystemCall, ThatFailsGivesWhatIsKnown)
@@ -56,7 +56,7 @@ TEST_P(ProfileSystemCall, ThatFailsGivesWhatIsKnown)
 }
 
 // A file that is smaller than it was said to be is not asked for its end.
-const CallRow kCallRows[] = {
+const ProfileCallRow kProfileCallRows[] = {
     {"OpenInterrupted", "open", EINTR, "none", 1},
     {"OpenWithoutFiles", "open", EMFILE, "none", 1},
     {"OpenWithoutRights", "open", EACCES, "none", 1},
@@ -68,7 +68,7 @@ const CallRow kCallRows[] = {
     {"CloseFailing", "close", EIO, "5", 1},
 };
 
-INSTANTIATE_TEST_SUITE_P(Calls, ProfileSystemCall, testing::ValuesIn(kCallRows),
+INSTANTIATE_TEST_SUITE_P(Calls, ProfileSystemCall, testing::ValuesIn(kProfileCallRows),
                          ktqtbase::test::RowName());
 
 // ---- Files that change --------------------------------------------------------------------------

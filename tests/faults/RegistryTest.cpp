@@ -100,7 +100,7 @@ INSTANTIATE_TEST_SUITE_P(Rows, FaultyStoreContent, testing::ValuesIn(kContentRow
 
 // ---- System calls -------------------------------------------------------------------------------
 
-struct CallRow
+struct StoreCallRow
 {
     const char* name;
     const char* call;
@@ -108,7 +108,7 @@ struct CallRow
     bool mayBeCut; // Qt 5 puts a file in place that it could not write
 };
 
-class FaultyStoreCall : public FaultyStore, public testing::WithParamInterface<CallRow>
+class FaultyStoreCall : public FaultyStore, public testing::WithParamInterface<StoreCallRow>
 {
 protected:
     static constexpr int kNotReached = 3;
@@ -143,7 +143,7 @@ TEST_P(FaultyStoreCall, ThatFailsLeavesTheFormerStoreOrTheNewOne)
     EXPECT_EQ(readFile(store()), changed);
 }
 
-const CallRow kCallRows[] = {
+const StoreCallRow kStoreCallRows[] = {
     {"OpenInterrupted", "open", EINTR, false},   {"OpenWithoutFiles", "open", EMFILE, false},
     {"OpenOnAFullDisk", "open", ENOSPC, false},  {"WriteInterrupted", "write", EINTR, false},
     {"WriteToAFullDisk", "write", ENOSPC, true}, {"WriteFailing", "write", EIO, true},
@@ -151,7 +151,7 @@ const CallRow kCallRows[] = {
     {"CloseFailing", "close", EIO, false},       {"RenameFailing", "rename", EIO, false},
 };
 
-INSTANTIATE_TEST_SUITE_P(Calls, FaultyStoreCall, testing::ValuesIn(kCallRows),
+INSTANTIATE_TEST_SUITE_P(Calls, FaultyStoreCall, testing::ValuesIn(kStoreCallRows),
                          ktqtbase::test::RowName());
 
 // ---- Places -------------------------------------------------------------------------------------
