@@ -12,6 +12,7 @@
 #include <QtGui/QPageSize>
 #include <QtGui/QPdfWriter>
 
+#include <algorithm>
 #include <cstdio>
 
 namespace {
@@ -58,6 +59,15 @@ bool openFile(QFile& file)
     return file.fileName().isEmpty() || file.open(QIODevice::ReadWrite) || cannotWrite(file);
 }
 
+// A full disk takes a part, and tells only to the next write why it takes no more.
+bool writeAll(QFile& file, const QByteArray& bytes)
+{
+    qint64 done = 0;
+    for (qint64 part = 1; part > 0 && done < bytes.size(); done += part)
+        part = std::max(file.write(bytes.mid(static_cast<int>(done))), qint64{0});
+    return done == bytes.size() && file.flush();
+}
+
 template<class Make>
 bool writeFile(QFile& file, Make make)
 {
@@ -65,7 +75,7 @@ bool writeFile(QFile& file, Make make)
         return true;
     const QByteArray bytes = make();
     file.resize(0);
-    return (file.write(bytes) == bytes.size() && file.flush()) || cannotWrite(file);
+    return writeAll(file, bytes) || cannotWrite(file);
 }
 
 double ratioOf(const QImage& image)

@@ -64,7 +64,8 @@ public:
     //   lpszValueName    in: the value's name; a null or empty one sets nothing
     //   bMulti           ignored
     //   nValueLen        ignored: the text ends at its first NUL
-    // Result: 0, even if the store cannot be written.
+    // Result: 0, even if the store cannot be written. Where the disk becomes full meanwhile, Qt 5
+    // may leave the store empty or cut.
     // On Windows: null names the key's default value, bMulti stores a list of texts, and upper and
     // lower case of a name do not differ.
     unsigned int SetValue(const wchar_t* lpszValue, const wchar_t* lpszValueName = nullptr,

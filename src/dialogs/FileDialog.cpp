@@ -7,6 +7,7 @@
 #include <QtCore/QFileInfo>
 
 #include <cstring>
+#include <memory>
 #include <utility>
 
 namespace {
@@ -75,6 +76,15 @@ void setUp(QFileDialog& dialog, const KtQFileDialgAttri& attri)
     dialog.setLabelText(QFileDialog::FileType, QStringLiteral("File Format:"));
 }
 
+// A dialog for one run. Nobody holds one for which there is no memory to watch it.
+QFileDialog* watchedDialog(KtQtFileDialog& self)
+{
+    auto dialog = std::make_unique<QFileDialog>(self.m_pParentWnd, self.m_strCaption,
+                                                self.m_strDirectory, self.m_strFilter);
+    new DialogWatch(self, dialog.get());
+    return dialog.release();
+}
+
 void takeSelection(KtQtFileDialog& self, const QFileDialog& dialog)
 {
     self.m_listSelectedFiles = dialog.selectedFiles();
@@ -118,10 +128,9 @@ int KtQtFileDialog::DoModal()
     if (!ktqtbase::hasWidgetApplication())
         return IDCANCEL;
     // The run's own pointer, since a host's handler may start another run meanwhile.
-    auto* const dialog = new QFileDialog(m_pParentWnd, m_strCaption, m_strDirectory, m_strFilter);
+    QFileDialog* const dialog = watchedDialog(*this);
     stopWatching(m_pDialog);
     m_pDialog = dialog;
-    new DialogWatch(*this, dialog);
     setUp(*dialog, m_attri);
     // Kept: a dialog that is visible before exec() does not block the host's other windows. The
     // folder is set last, so that it replaces the selected file's.

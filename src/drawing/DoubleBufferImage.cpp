@@ -74,10 +74,15 @@ std::unique_ptr<QImage> transparentImage(unsigned char* bits, int width, int hei
 
 } // namespace
 
-KtGrQtDoubleBufferImage::KtGrQtDoubleBufferImage(QWidget* destination)
-    : m_pMemPainter(new KtQtPainterWrapper), m_pFrontPainter(new KtQtPainterWrapper),
-      m_pDestWidget(destination), m_pPalette(new QPalette)
-{}
+KtGrQtDoubleBufferImage::KtGrQtDoubleBufferImage(QWidget* destination) : m_pDestWidget(destination)
+{
+    // An object that is not finished has no destructor to delete the first of the three.
+    auto memPainter = std::make_unique<KtQtPainterWrapper>();
+    auto frontPainter = std::make_unique<KtQtPainterWrapper>();
+    m_pPalette = new QPalette;
+    m_pMemPainter = memPainter.release();
+    m_pFrontPainter = frontPainter.release();
+}
 
 KtGrQtDoubleBufferImage::~KtGrQtDoubleBufferImage()
 {

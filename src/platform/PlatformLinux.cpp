@@ -5,28 +5,20 @@
 #include <QtGui/QScreen>
 
 #include <cstring>
-#include <string>
 
 #include <unistd.h>
 
 namespace {
 
-// readlink cuts a path that is too long without an error, so a path that fills all the room is read
-// again with more.
-std::string readExecutablePath()
+// The kernel has one page for this path, of at most 64 KiB. What is not read of the room takes no
+// memory.
+struct ExecutablePath
 {
-    std::string path;
-    for (std::size_t room = 1024;; room *= 2) {
-        path.resize(room);
-        const ssize_t length = readlink("/proc/self/exe", path.data(), room);
-        if (length < 0)
-            return std::string();
-        if (static_cast<std::size_t>(length) < room) {
-            path.resize(static_cast<std::size_t>(length));
-            return path;
-        }
-    }
-}
+    ExecutablePath() : length(readlink("/proc/self/exe", text, sizeof text)) {}
+
+    const ssize_t length;
+    char text[64 * 1024];
+};
 
 QRect mainScreenFrame()
 {
@@ -40,15 +32,16 @@ namespace ktqtbase::platform {
 
 int executablePath(char* buffer, std::uint32_t* size)
 {
-    // Read once, since the path does not change; never freed, so that it can be read until the
-    // process ends.
-    static const std::string& path = *new const std::string(readExecutablePath());
-    const auto needed = static_cast<std::uint32_t>(path.empty() ? 0 : path.size() + 1);
+    // Read once, since the path does not change. Nothing of it is on the heap, so that it can be read
+    // until the process ends and stays nowhere when the library is unloaded.
+    static const ExecutablePath path;
+    const auto needed = static_cast<std::uint32_t>(path.length > 0 ? path.length + 1 : 0);
     if (needed == 0 || needed > *size) {
         *size = needed;
         return -1;
     }
-    std::memcpy(buffer, path.c_str(), needed);
+    std::memcpy(buffer, path.text, needed - 1);
+    buffer[needed - 1] = '\0';
     return 0;
 }
 

@@ -50,8 +50,11 @@ std::optional<std::string> MakeTemporary(const fs::path& path, mode_t mode)
         auto bytes = Narrow(name);
         const int file =
             bytes ? open(bytes->c_str(), O_WRONLY | O_CREAT | O_EXCL | O_CLOEXEC, mode) : -1;
-        if (file >= 0 && close(file) == 0)
+        if (file >= 0) {
+            // Nothing is in it yet that could be lost.
+            close(file);
             return bytes;
+        }
     }
     return std::nullopt;
 }

@@ -3,6 +3,7 @@
 
 #include "string/QtText.h"
 
+#include <QtCore/QScopeGuard>
 #include <QtCore/QSettings>
 #include <QtCore/QString>
 #include <QtCore/QVariant>
@@ -45,11 +46,13 @@ unsigned int CRegKey::Create(HKEY, const wchar_t* lpszKeyName, wchar_t*, unsigne
     return ERROR_SUCCESS;
 }
 
+// Where memory runs out inside a group, the values after that must not go into it.
+
 unsigned int CRegKey::SetValue(const wchar_t* lpszValue, const wchar_t* lpszValueName, bool, int)
 {
     m_pSettings->beginGroup(toQt(m_pKeyName));
+    const auto ended = qScopeGuard([this] { m_pSettings->endGroup(); });
     store(*m_pSettings, toQt(lpszValueName), toQt(lpszValue));
-    m_pSettings->endGroup();
     return ERROR_SUCCESS;
 }
 
@@ -57,14 +60,16 @@ unsigned int CRegKey::QueryValue(wchar_t* szValue, const wchar_t* lpszValueName,
                                  unsigned int* pnChars)
 {
     m_pSettings->beginGroup(toQt(m_pKeyName));
+    auto ended = qScopeGuard([this] { m_pSettings->endGroup(); });
     const QString text = stored(*m_pSettings, toQt(lpszValueName));
     const unsigned int room = pnChars ? *pnChars : 0;
-    // Kept: the group stays open, as the header says.
-    if (static_cast<unsigned int>(text.size()) > room)
+    if (static_cast<unsigned int>(text.size()) > room) {
+        // Kept: the group stays open, as the header says.
+        ended.dismiss();
         return kTooLong;
+    }
     if (szValue)
         text.toWCharArray(szValue);
-    m_pSettings->endGroup();
     return ERROR_SUCCESS;
 }
 
