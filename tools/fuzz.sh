@@ -46,7 +46,7 @@ fuzzers() {
     done
 }
 
-if [ $# -gt 1 ] || ! { [ $# -eq 0 ] || fuzzers | grep -qxF -e "$1"; }; then
+if [ $# -gt 1 ] || { [ $# -eq 1 ] && ! [ -d "fuzz/corpus/${1:-none}" ]; }; then
     usage
 fi
 
@@ -57,18 +57,24 @@ trap 'rm -rf "$scratch"' EXIT
 # One fuzzer in a folder of its own, which is its home, too.
 run_one() {
     local name=$1 place=$scratch/$1 grown=$build/corpus/$1 options=()
-    if [ -n "$short" ]; then
-        grown=$place/corpus
-        options+=(-seed=1)
+    # A fuzzer allocates and frees much, and little that another run could find again.
+    local asan=malloc_context_size=8:quarantine_size_mb=16${ASAN_OPTIONS:+:$ASAN_OPTIONS}
+    if [ -f "fuzz/$name.options" ]; then
+        read -r -a options <"fuzz/$name.options"
     fi
     if [ -f "fuzz/$name.dict" ]; then
         options+=("-dict=$PWD/fuzz/$name.dict")
+    fi
+    if [ -n "$short" ]; then
+        grown=$place/corpus
+        options+=(-seed=1)
     fi
     mkdir -p "$place/home" "$grown" "$build/found/$name" "$build/log"
     chmod 700 "$place/home"
     local given=$PWD/fuzz/corpus/$name log=$build/log/$name.txt failed=0
     (cd "$place" && HOME=$place/home XDG_CONFIG_HOME=$place/home/config \
         XDG_RUNTIME_DIR=$place/home TMPDIR=$place QT_QPA_PLATFORM=offscreen LC_ALL=C.UTF-8 \
+        ASAN_OPTIONS=$asan \
         "$build/fuzz/$name" -max_total_time="$seconds" -timeout=20 -print_final_stats=1 \
         -artifact_prefix="$build/found/$name/" "${options[@]}" "$grown" "$given") >"$log" 2>&1 ||
         failed=$?

@@ -58,7 +58,7 @@ named_packages() {
         zypper:qt6) echo qt6-base-devel ;;
         apt:clang) echo clang ;;
         # LLVM names the functions in what a sanitizer tells.
-        apt:fuzz) echo clang llvm ;;
+        apt:fuzz) echo clang libclang-rt-dev llvm ;;
         apt:libcxx) echo clang libc++-dev libc++abi-dev googletest ;;
         apt:arm64) echo qemu-user-static g++-aarch64-linux-gnu qtbase5-dev:arm64 \
             libgtest-dev:arm64 libgmock-dev:arm64 ;;
