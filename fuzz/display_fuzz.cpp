@@ -71,12 +71,13 @@ void showAt(PathPair& pair, int width, bool intoItself)
 std::wstring variantOf(std::wstring text, unsigned int kind, wchar_t separator)
 {
     for (wchar_t& ch : text) {
-        if ((kind & 1) && ch < 0x80)
-            ch = static_cast<wchar_t>(std::towupper(static_cast<std::wint_t>(ch)));
+        const auto code = static_cast<std::wint_t>(ch);
+        if (kind & 1)
+            ch = static_cast<wchar_t>(kind & 2 ? std::towlower(code) : std::towupper(code));
     }
-    if (kind & 2)
+    if (kind & 4)
         text += separator;
-    if ((kind & 4) && !text.empty())
+    if ((kind & 8) && !text.empty())
         text.pop_back();
     return text.c_str();
 }
@@ -127,7 +128,7 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* bytes, std::size_t siz
     Input input(bytes, size);
     useCtype(input.oneIn(2));
     const int width = input.integer();
-    const unsigned int kind = input.below(8);
+    const unsigned int kind = input.below(16);
     const std::wstring volumeName = input.text();
     PathPair pair;
     draw(input, pair);

@@ -41,6 +41,7 @@ public:
         useCtype(locales & 1);
         useGlobalLocale((locales & 6) == 2);
         drawnDisk().renameResult = locales & 8 ? -1 : 0;
+        drawnDisk().isFull = locales & 16;
         drawSeparator(m_base);
         drawSeparator(m_path);
         drawPrefix();
@@ -161,8 +162,10 @@ private:
         const unsigned int seed = m_input.byte();
         std::srand(seed);
         const bool result = m_path.real.GetUniqueName(unique.real, force);
+        const int next = std::rand();
         std::srand(seed);
         expectSame("unique name", result, m_path.plain.uniqueName(unique.plain, force));
+        expectSame("number behind those that were taken", next, std::rand());
         expectSameFields(unique);
     }
 

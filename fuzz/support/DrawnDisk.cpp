@@ -22,7 +22,7 @@ unsigned int ktqtbase::fuzz::drawnAttributes(const std::wstring& name)
     unsigned int sum = 0;
     for (const wchar_t ch : name)
         sum = sum * 31 + static_cast<unsigned int>(ch);
-    return answers[sum % 6];
+    return answers[drawnDisk().isFull ? 1 : sum % 6];
 }
 
 unsigned int GetFileAttributes(const wchar_t* lpFileName)

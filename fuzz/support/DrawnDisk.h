@@ -14,6 +14,9 @@ struct DrawnDisk
     // The answer to GetCurrentDirectoryW, of 1,023 characters at most; none counts as a failure.
     std::wstring currentDirectory;
 
+    // Whether something has every name.
+    bool isFull = false;
+
     // The answer to _wrename, and what it was asked last.
     int renameResult = 0;
     std::wstring renamed;
