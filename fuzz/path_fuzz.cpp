@@ -138,7 +138,7 @@ private:
         expectSame("parse by the prefix", result, m_path.plain.parse(text, &m_prefix));
     }
 
-    void parseInCurrentDirectory()
+    void parseInDirectory()
     {
         const OptionalText text = m_input.optionalName();
         const int result = m_path.real.CRbUiPathname::Parse(pointerTo(text), false);
@@ -208,14 +208,52 @@ private:
         expectSameFields(m_base);
     }
 
-    void changeCase(bool upper)
+    void trimSlash() { cut("TrimSlash", &CRbUiPathname::TrimSlash, slow::trimSlash); }
+    void trim() { cut("Trim", &CRbUiPathname::Trim, slow::trim); }
+    void trimComponent()
     {
-        if (upper)
-            m_path.real.BaseToUpper();
-        else
-            m_path.real.BaseToLower();
-        m_path.plain.changeCase(upper);
+        cut("TrimComponent", &CRbUiPathname::TrimComponent, slow::trimComponent);
     }
+    void append() { edit("Append", &CRbUiPathname::Append, &PlainPath::append); }
+    void appendComponent()
+    {
+        edit("AppendComponent", &CRbUiPathname::AppendComponent, &PlainPath::appendComponent);
+    }
+    void replaceExtension()
+    {
+        edit("ReplaceExtensionAlways", &CRbUiPathname::ReplaceExtensionAlways,
+             &PlainPath::replaceExtension);
+    }
+    void appendSlash()
+    {
+        const int result = m_path.real.AppendSlash();
+        expectSame("AppendSlash", result, m_path.plain.appendSlash());
+    }
+    void removeSpaces()
+    {
+        m_path.real.RemoveSpaces();
+        m_path.plain.removeSpaces();
+    }
+    void baseToUpper()
+    {
+        m_path.real.BaseToUpper();
+        m_path.plain.changeCase(true);
+    }
+    void baseToLower()
+    {
+        m_path.real.BaseToLower();
+        m_path.plain.changeCase(false);
+    }
+    void becomeParent() { takeParent(true); }
+    void askParent() { takeParent(false); }
+    void becomeUnique() { takeUniqueName(true); }
+    void askUnique() { takeUniqueName(false); }
+    void askExists()
+    {
+        const bool result = m_path.real.Exists();
+        expectSame("Exists", result, m_path.plain.exists());
+    }
+    void parseOverBase() { parse(m_path, &m_base); }
 
     void runStep();
 
@@ -228,57 +266,20 @@ private:
 
 void Program::runStep()
 {
-    switch (m_input.below(24)) {
-    case 0:
-        return cut("TrimSlash", &CRbUiPathname::TrimSlash, slow::trimSlash);
-    case 1:
-        return cut("Trim", &CRbUiPathname::Trim, slow::trim);
-    case 2:
-        return cut("TrimComponent", &CRbUiPathname::TrimComponent, slow::trimComponent);
-    case 3:
-        return edit("Append", &CRbUiPathname::Append, &PlainPath::append);
-    case 4:
-        return edit("AppendComponent", &CRbUiPathname::AppendComponent,
-                    &PlainPath::appendComponent);
-    case 5:
-        return expectSame("AppendSlash", m_path.real.AppendSlash(), m_path.plain.appendSlash());
-    case 6:
-        m_path.real.RemoveSpaces();
-        return m_path.plain.removeSpaces();
-    case 7:
-        return changeCase(true);
-    case 8:
-        return changeCase(false);
-    case 9:
-        return takeParent(true);
-    case 10:
-        return takeParent(false);
-    case 11:
-        return takeUniqueName(true);
-    case 12:
-        return takeUniqueName(false);
-    case 13:
-        return expectSame("Exists", m_path.real.Exists(), m_path.plain.exists());
-    case 14:
-        return rename();
-    case 15:
-        return askStatus();
-    case 16:
-        return setByHost();
-    case 17:
-        return exchange();
-    case 18:
-        return parseOwn();
-    case 19:
-        return parseAsApplication();
-    case 20:
-        return parseInCurrentDirectory();
-    case 21:
-        return edit("ReplaceExtensionAlways", &CRbUiPathname::ReplaceExtensionAlways,
-                    &PlainPath::replaceExtension);
-    default:
-        return parse(m_path, &m_base);
-    }
+    static void (Program::*const steps[])() = {
+        &Program::trimSlash,        &Program::trim,
+        &Program::trimComponent,    &Program::append,
+        &Program::appendComponent,  &Program::appendSlash,
+        &Program::removeSpaces,     &Program::baseToUpper,
+        &Program::baseToLower,      &Program::becomeParent,
+        &Program::askParent,        &Program::becomeUnique,
+        &Program::askUnique,        &Program::askExists,
+        &Program::rename,           &Program::askStatus,
+        &Program::setByHost,        &Program::exchange,
+        &Program::parseOwn,         &Program::parseAsApplication,
+        &Program::parseInDirectory, &Program::replaceExtension,
+        &Program::parseOverBase,    &Program::parseOverBase};
+    (this->*steps[m_input.below(24)])();
 }
 
 } // namespace

@@ -250,27 +250,36 @@ bool PlainPath::findFreeDigits(std::size_t place)
     return false;
 }
 
+bool PlainPath::isUsable()
+{
+    if (name.type == slow::Wildcard)
+        return true;
+    if (name.type != kTypeOfHost)
+        lookUp();
+    return name.type == slow::NotFound;
+}
+
+// The room for the stem behind the folder, which is all that is left of the name.
+int PlainPath::cutToFolder(std::size_t extension)
+{
+    if (cut(slow::trim) == 3 && name.category == slow::Relative)
+        name.work.clear();
+    const int folder = static_cast<int>(name.work.size());
+    return std::min(1023 - folder, 1019) - static_cast<int>(extension) - 6;
+}
+
 bool PlainPath::uniqueName(PlainPath& result, bool force) const
 {
     if (name.type == slow::None)
         return false;
     result = PlainPath(*this);
-    if (!force) {
-        if (result.name.type == slow::Wildcard)
-            return true;
-        if (result.name.type != kTypeOfHost)
-            result.lookUp();
-        if (result.name.type == slow::NotFound)
-            return true;
-    }
+    if (!force && result.isUsable())
+        return true;
     std::wstring stem = result.fileName().value_or(L"");
     if (stem.empty())
         stem = L"ktTmp";
     const std::wstring extension = result.extension().value_or(L"");
-    if (result.cut(slow::trim) == 3 && result.name.category == slow::Relative)
-        result.name.work.clear();
-    const int folder = static_cast<int>(result.name.work.size());
-    const int room = std::min(1023 - folder, 1019) - static_cast<int>(extension.size()) - 6;
+    const int room = result.cutToFolder(extension.size());
     if (room < 1) {
         result.empty();
         return false;

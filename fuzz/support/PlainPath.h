@@ -68,6 +68,8 @@ public:
 private:
     void lookUp();
     void setVolume(const CRbUiVolumeDescriptor* found);
+    bool isUsable();
+    int cutToFolder(std::size_t extension);
     bool findFreeDigits(std::size_t place);
 };
 
