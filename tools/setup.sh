@@ -18,8 +18,8 @@ package_manager() {
     echo none
 }
 
-# The packages of one group (build, test, tools, check, faults, pictures, bench, qt5, qt6, clang, libcxx
-# or arm64) under a package manager's names.
+# The packages of one group (build, test, tools, check, faults, pictures, bench, fuzz, qt5, qt6,
+# clang, libcxx or arm64) under a package manager's names.
 named_packages() {
     case "$1:$2" in
         # The fonts are those of the examples' pictures.
@@ -58,6 +58,8 @@ named_packages() {
         pacman:qt6) echo qt6-base ;;
         zypper:qt6) echo qt6-base-devel ;;
         apt:clang) echo clang ;;
+        # LLVM names the functions in what a sanitizer tells.
+        apt:fuzz) echo clang libclang-rt-dev llvm ;;
         apt:libcxx) echo clang libc++-dev libc++abi-dev googletest ;;
         apt:arm64) echo qemu-user-static g++-aarch64-linux-gnu qtbase5-dev:arm64 \
             libgtest-dev:arm64 libgmock-dev:arm64 ;;

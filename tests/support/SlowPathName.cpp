@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: MIT
 #include "support/SlowPathName.h"
 
+#include <cwctype>
+#include <locale>
 #include <vector>
 
 namespace {
@@ -52,14 +54,19 @@ int firstIndex(const std::wstring& text, wchar_t ch)
     return -1;
 }
 
-bool endsWithSlash(const std::wstring& text)
+bool endsWith(const std::wstring& text, wchar_t ch)
 {
-    return !text.empty() && at(text, lengthOf(text) - 1) == L'/';
+    return !text.empty() && at(text, lengthOf(text) - 1) == ch;
+}
+
+bool isClosed(const Name& name)
+{
+    return endsWith(name.work, name.separator);
 }
 
 bool isLetter(wchar_t ch)
 {
-    return (ch >= L'a' && ch <= L'z') || (ch >= L'A' && ch <= L'Z');
+    return std::iswalpha(static_cast<std::wint_t>(ch)) != 0;
 }
 
 wchar_t lower(wchar_t ch)
@@ -69,7 +76,7 @@ wchar_t lower(wchar_t ch)
 
 wchar_t upper(wchar_t ch)
 {
-    return ch >= L'a' && ch <= L'z' ? static_cast<wchar_t>(ch - L'a' + L'A') : ch;
+    return static_cast<wchar_t>(std::towupper(static_cast<std::wint_t>(ch)));
 }
 
 std::wstring lowered(const std::wstring& text)
@@ -80,22 +87,14 @@ std::wstring lowered(const std::wstring& text)
     return result;
 }
 
+wchar_t secondOf(const std::wstring& text)
+{
+    return lengthOf(text) > 1 ? at(text, 1) : L'\0';
+}
+
 bool beginsWithDrive(const std::wstring& text)
 {
     return lengthOf(text) >= 2 && at(text, 1) == L':' && isLetter(at(text, 0));
-}
-
-std::wstring baseOf(const Name& name)
-{
-    const int slash = lastIndex(name.work, L'/');
-    return from(name.work, (slash != -1 ? slash : lastIndex(name.work, L':')) + 1);
-}
-
-std::wstring extensionOf(const Name& name)
-{
-    const std::wstring base = baseOf(name);
-    const int dot = lastIndex(base, L'.');
-    return dot == -1 ? L"" : from(base, dot + 1);
 }
 
 int cut(Name& name, int length)
@@ -109,7 +108,7 @@ int cutDrive(Name& name, int length)
 {
     cut(name, length);
     if (length == 2)
-        name.work += L'/';
+        name.work += name.separator;
     return 0;
 }
 
@@ -120,9 +119,8 @@ void takePrefix(Name& parent)
     parent.prefix.reset();
     if (parent.work.empty()) {
         parent.raised = true;
-    } else if (at(parent.work, 0) == L'/') {
-        const bool doubled = lengthOf(parent.work) > 1 && at(parent.work, 1) == L'/';
-        parent.category = doubled ? slow::Unc : slow::Rooted;
+    } else if (at(parent.work, 0) == parent.separator) {
+        parent.category = secondOf(parent.work) == parent.separator ? slow::Unc : slow::Rooted;
     } else if (beginsWithDrive(parent.work)) {
         parent.category = slow::Drive;
         parent.work[0] = upper(parent.work[0]);
@@ -131,42 +129,34 @@ void takePrefix(Name& parent)
 
 std::wstring shortenedBase(const Name& name, int width)
 {
-    const std::wstring base = baseOf(name);
-    const std::wstring extension = extensionOf(name);
+    const std::wstring base = slow::baseOf(name);
+    const std::wstring extension = slow::extensionOf(name).value_or(L"");
     const int e = lengthOf(extension);
     if (e == 0 || width < e + 3)
         return firstOf(base, width - 2) + L"~";
     return firstOf(base, width - 2 - e) + L"~." + extension;
 }
 
-std::wstring tail(const std::wstring& work, int prefix, int width)
+std::wstring tail(const Name& name, int prefix, int width)
 {
-    std::wstring rest = from(work, prefix);
-    while (!rest.empty() && lengthOf(rest) + prefix + 4 > width) {
-        rest = from(rest, 1);
-        while (!rest.empty() && at(rest, 0) != L'/')
-            rest = from(rest, 1);
+    const int length = lengthOf(name.work);
+    int start = prefix;
+    while (start < length && length - start + prefix + 4 > width) {
+        ++start;
+        while (start < length && at(name.work, start) != name.separator)
+            ++start;
     }
-    return rest;
+    return from(name.work, start);
 }
 
 bool isBlank(wchar_t ch)
 {
-    return ch == L' ' || ch == L'\t' || ch == L'\n' || ch == L'\v' || ch == L'\f' || ch == L'\r';
-}
-
-std::wstring withoutBlanks(std::wstring text)
-{
-    while (lengthOf(text) > 0 && isBlank(at(text, lengthOf(text) - 1)))
-        text = firstOf(text, lengthOf(text) - 1);
-    while (lengthOf(text) > 0 && isBlank(at(text, 0)))
-        text = from(text, 1);
-    return text;
+    return std::isspace(ch, std::locale());
 }
 
 std::wstring withoutQuotes(const std::wstring& text)
 {
-    const std::wstring bare = withoutBlanks(text);
+    const std::wstring bare = slow::withoutBlanks(text);
     const int length = lengthOf(bare);
     const bool isQuoted = length >= 2 && at(bare, 0) == L'"' && at(bare, length - 1) == L'"';
     return isQuoted ? from(firstOf(bare, length - 1), 1) : text;
@@ -182,37 +172,57 @@ int countOf(const std::wstring& text, wchar_t wanted)
     return count;
 }
 
-std::wstring withSlashes(std::wstring text)
+std::wstring withSeparators(std::wstring text, wchar_t separator)
 {
     for (wchar_t& ch : text) {
         if (ch == L'\\')
-            ch = L'/';
+            ch = separator;
     }
     return text;
 }
 
-int categoryOf(const std::wstring& text)
+int categoryOf(const std::wstring& text, wchar_t separator)
 {
-    const wchar_t second = lengthOf(text) > 1 ? at(text, 1) : L'\0';
-    if (at(text, 0) == L'/')
-        return second == L'/' ? slow::Unc : slow::Rooted;
-    return second == L':' && isLetter(at(text, 0)) ? slow::Drive : slow::Relative;
-}
-
-bool isPattern(const std::wstring& work)
-{
-    int start = lastIndex(work, L'/') + 1;
-    if (start == 0)
-        start = lastIndex(work, L':') + 1;
-    const std::wstring last = from(work, start);
-    return countOf(last, L'*') + countOf(last, L'?') > 0;
+    if (at(text, 0) == separator)
+        return secondOf(text) == separator ? slow::Unc : slow::Rooted;
+    return beginsWithDrive(text) ? slow::Drive : slow::Relative;
 }
 
 } // namespace
 
+std::wstring slow::baseOf(const Name& name)
+{
+    const int separator = lastIndex(name.work, name.separator);
+    return from(name.work, (separator != -1 ? separator : lastIndex(name.work, L':')) + 1);
+}
+
+std::optional<std::wstring> slow::extensionOf(const Name& name)
+{
+    const std::wstring base = baseOf(name);
+    const int dot = lastIndex(base, L'.');
+    return dot == -1 ? std::nullopt : std::make_optional(from(base, dot + 1));
+}
+
+std::wstring slow::withoutBlanks(const std::wstring& text)
+{
+    int end = lengthOf(text);
+    while (end > 0 && isBlank(at(text, end - 1)))
+        --end;
+    int start = 0;
+    while (start < end && isBlank(at(text, start)))
+        ++start;
+    return from(firstOf(text, end), start);
+}
+
+bool slow::isPattern(const Name& name)
+{
+    const std::wstring last = baseOf(name);
+    return countOf(last, L'*') + countOf(last, L'?') > 0;
+}
+
 int slow::trimSlash(Name& name)
 {
-    if (!endsWithSlash(name.work))
+    if (!isClosed(name))
         return 0;
     if (name.category > Relative)
         return 4;
@@ -228,11 +238,11 @@ int slow::trimSlash(Name& name)
 
 int slow::trim(Name& name)
 {
-    if (endsWithSlash(name.work))
+    if (isClosed(name))
         return 0;
     if (name.category > Relative)
         return 4;
-    const int slash = lastIndex(name.work, L'/');
+    const int slash = lastIndex(name.work, name.separator);
     if (name.category == Drive) {
         const int place = slash != -1 ? slash : firstIndex(name.work, L':');
         return place == -1 ? 4 : cutDrive(name, place + 1);
@@ -248,7 +258,7 @@ int slow::trimComponent(Name& name)
 {
     if (name.category > Relative)
         return 4;
-    const int slash = lastIndex(name.work, L'/');
+    const int slash = lastIndex(name.work, name.separator);
     if (name.category == Drive)
         return cutDrive(name, slash != -1 ? slash : firstIndex(name.work, L':') + 1);
     if (slash == -1)
@@ -262,9 +272,9 @@ Name slow::parentOf(const Name& name)
 {
     Name parent = name;
     parent.type = Directory;
-    if (endsWithSlash(parent.work))
+    if (isClosed(parent))
         trimSlash(parent);
-    int place = lastIndex(parent.work, L'/');
+    int place = lastIndex(parent.work, parent.separator);
     if (place == -1)
         place = lastIndex(parent.work, L':');
     if (place != -1)
@@ -278,7 +288,7 @@ Name slow::parentOf(const Name& name)
 
 bool slow::hasExtensionOf(const Name& name, const std::wstring& list)
 {
-    const std::wstring extension = lowered(extensionOf(name));
+    const std::wstring extension = lowered(extensionOf(name).value_or(L""));
     if (list.empty() || extension.empty())
         return list.empty() && extension.empty();
     std::vector<std::wstring> items(1);
@@ -306,28 +316,29 @@ std::wstring slow::displayName(const Name& name, int width)
     if (name.category > Relative)
         return L"";
     if (name.category == Rooted || name.category == Relative)
-        return w >= lengthOf(base) + 4 ? L"..." + tail(name.work, 0, w) : base;
+        return w >= lengthOf(base) + 4 ? L"..." + tail(name, 0, w) : base;
     const int v = name.volumeLength;
     if (w < lengthOf(base) + v + 5)
         return base;
-    return firstOf(name.work, v) + L"\\..." + tail(name.work, v, w);
+    return firstOf(name.work, v) + L"\\..." + tail(name, v, w);
 }
 
 std::wstring slow::fullPath(const Name& name)
 {
     if (name.category == Rooted || !name.prefix)
         return name.work;
-    return *name.prefix + (endsWithSlash(*name.prefix) ? L"" : L"/") + name.work;
+    const std::wstring joint(endsWith(*name.prefix, name.separator) ? 0 : 1, name.separator);
+    return *name.prefix + joint + name.work;
 }
 
-bool slow::matches(std::wstring path, std::wstring text)
+bool slow::matches(std::wstring path, std::wstring text, wchar_t separator)
 {
     if (beginsWithDrive(text))
         text[0] = upper(text[0]);
-    if (endsWithSlash(path) && !endsWithSlash(text))
-        text += L'/';
-    else if (endsWithSlash(text) && !endsWithSlash(path))
-        path += L'/';
+    if (endsWith(path, separator) && !endsWith(text, separator))
+        text += separator;
+    else if (endsWith(text, separator) && !endsWith(path, separator))
+        path += separator;
     return lowered(path) == lowered(text);
 }
 
@@ -350,26 +361,29 @@ bool slow::isValidFilename(const std::wstring& name, bool allowWildcards)
     return true;
 }
 
-slow::Parse slow::parse(const std::wstring& text, const std::optional<std::wstring>& base)
+slow::Parse slow::parse(const std::wstring& text, const std::optional<std::wstring>& base,
+                        wchar_t separator)
 {
     Parse result;
-    std::wstring work = withSlashes(withoutBlanks(withoutQuotes(text)));
-    if (work.empty() || countOf(work, L':') > 1)
+    const std::wstring bare = withoutBlanks(withoutQuotes(text));
+    if (bare.empty() || countOf(bare, L':') > 1)
         return result;
-    result.category = result.name.category = categoryOf(work);
+    std::wstring work = withSeparators(bare, separator);
+    result.category = result.name.category = categoryOf(work, separator);
     const bool isDrive = result.category == Drive;
-    const bool hasColon = countOf(work, L':') == 1;
+    const bool hasColon = countOf(work, L':') > 0;
     if (result.category == Unc || (!isDrive && hasColon) || (result.category == Relative && !base))
         return result;
-    if (isDrive && at(work, 0) >= L'a')
-        work[0] = static_cast<wchar_t>(at(work, 0) - (L'a' - L'A'));
+    if (isDrive)
+        work[0] = upper(at(work, 0));
     if (result.category == Rooted)
         result.name.prefix = L"";
     else if (result.category == Relative && !base->empty())
         result.name.prefix = *base;
     result.good = true;
     result.name.work = work;
-    result.name.type = isPattern(work) ? Wildcard : NotFound;
-    result.qualified = countOf(text, L':') > 0 || countOf(work, L'/') > 0;
+    result.name.separator = separator;
+    result.name.type = isPattern(result.name) ? Wildcard : NotFound;
+    result.qualified = countOf(text, L':') > 0 || countOf(work, separator) > 0;
     return result;
 }

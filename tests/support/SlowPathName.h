@@ -1,7 +1,8 @@
 // SPDX-License-Identifier: MIT
 //
 // A second, simple implementation of the path objects, for tests to compare with: plain values, one
-// character at a time, nothing shared with the library. Letters are those of ASCII.
+// character at a time, nothing shared with the library. Drive letters are those of the process's
+// LC_CTYPE, white space is that of the global std::locale.
 #ifndef KTQTBASE_TESTS_SUPPORT_SLOWPATHNAME_H
 #define KTQTBASE_TESTS_SUPPORT_SLOWPATHNAME_H
 
@@ -27,13 +28,14 @@ enum Type
     Directory
 };
 
-// A parsed name whose separator is the slash.
+// A parsed name.
 struct Name
 {
     int category = Relative;
     std::wstring work;
     std::optional<std::wstring> prefix;
     int type = File;
+    wchar_t separator = L'/';
     int volumeLength = 0; // of its volume's local name
     bool raised = false;  // in place of std::out_of_range
 };
@@ -48,7 +50,18 @@ struct Parse
 };
 
 // Parses a text; a relative one needs a base, which is given by its full path.
-Parse parse(const std::wstring& text, const std::optional<std::wstring>& base);
+Parse parse(const std::wstring& text, const std::optional<std::wstring>& base,
+            wchar_t separator = L'/');
+
+// Whether the last component holds a wildcard.
+bool isPattern(const Name& name);
+
+// The last component, and what stands behind its last dot, if it has one.
+std::wstring baseOf(const Name& name);
+std::optional<std::wstring> extensionOf(const Name& name);
+
+// A text without white space at its ends.
+std::wstring withoutBlanks(const std::wstring& text);
 
 // The edits. Result: the result code.
 int trimSlash(Name& name);
@@ -64,7 +77,7 @@ std::wstring displayName(const Name& name, int width);
 std::wstring fullPath(const Name& name);
 
 // Whether a full path and a text name the same place.
-bool matches(std::wstring path, std::wstring text);
+bool matches(std::wstring path, std::wstring text, wchar_t separator = L'/');
 
 // The rules for whole names of a volume with backslashes and the limit 1023.
 bool isValidFilename(const std::wstring& name, bool allowWildcards);

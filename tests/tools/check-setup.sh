@@ -341,6 +341,17 @@ NamesDebiansPackagesForTheBenchmarks() {
 cmake --build --preset bench --parallel 2"
 }
 
+NamesDebiansPackagesForTheFuzzers() {
+    lay_out_distribution dnf
+    printf '#!/bin/sh\necho "$@"\n' >"$work/project/tools/fuzz.sh"
+    chmod +x "$work/project/tools/fuzz.sh"
+    play ./run fuzz 5 path_fuzz
+    expect "The last line" "$(tail -n 1 "$work/output")" "5 path_fuzz"
+    sed -i '$d' "$work/output"
+    expect_names_of_debian "clang .* llvm" "cmake --preset fuzz
+cmake --build --preset fuzz --parallel 2"
+}
+
 # macOS
 
 lay_out_macos() {
