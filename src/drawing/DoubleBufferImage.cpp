@@ -77,11 +77,12 @@ std::unique_ptr<QImage> transparentImage(unsigned char* bits, int width, int hei
 KtGrQtDoubleBufferImage::KtGrQtDoubleBufferImage(QWidget* destination) : m_pDestWidget(destination)
 {
     // An object that is not finished has no destructor to delete the first of the three.
-    auto memPainter = std::make_unique<KtQtPainterWrapper>();
-    auto frontPainter = std::make_unique<KtQtPainterWrapper>();
+    auto back = std::make_unique<KtQtPainterWrapper>();
+    auto front = std::make_unique<KtQtPainterWrapper>();
+    // NOLINTNEXTLINE(cppcoreguidelines-prefer-member-initializer): the two above come first
     m_pPalette = new QPalette;
-    m_pMemPainter = memPainter.release();
-    m_pFrontPainter = frontPainter.release();
+    m_pMemPainter = back.release();
+    m_pFrontPainter = front.release();
 }
 
 KtGrQtDoubleBufferImage::~KtGrQtDoubleBufferImage()
