@@ -1,11 +1,11 @@
 // SPDX-License-Identifier: MIT
 //
 // The forms that other programs read.
+#include "QtText.h"
 #include "ReportPrinter.h"
 
 #include <QtCore/QJsonDocument>
 #include <QtCore/QJsonObject>
-#include <QtCore/QString>
 
 namespace {
 
@@ -18,8 +18,7 @@ public:
     {
         QJsonObject object;
         for (const Cell& cell : row)
-            object[cell.heading] =
-                cell.text ? QJsonValue(QString::fromStdWString(*cell.text)) : QJsonValue();
+            object[cell.heading] = cell.text ? QJsonValue(toQt(*cell.text)) : QJsonValue();
         m_output.write(m_isFirst ? "\n" : ",\n");
         m_output.write(QJsonDocument(object).toJson(QJsonDocument::Compact).toStdString());
         m_isFirst = false;
@@ -44,7 +43,7 @@ std::string quoted(const std::string& text)
 
 std::string csvCell(const Cell& cell)
 {
-    return cell.text ? quoted(QString::fromStdWString(*cell.text).toStdString()) : std::string();
+    return cell.text ? quoted(toQt(*cell.text).toStdString()) : std::string();
 }
 
 class CsvPrinter : public ReportPrinter

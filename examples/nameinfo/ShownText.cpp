@@ -1,5 +1,6 @@
 // SPDX-License-Identifier: MIT
 #include "ShownText.h"
+#include "QtText.h"
 
 #include <KtQtBase/PathName.h>
 
@@ -43,7 +44,7 @@ ShownText beginningOf(const std::wstring& text, int room)
         cells += cellsOf(ch);
         shown += wcwidth(ch) >= 0 ? std::wstring(1, ch) : numberOf(ch);
     }
-    return {QString::fromStdWString(shown).toStdString(), cells};
+    return {toQt(shown).toStdString(), cells};
 }
 
 // The library counts characters, of which a terminal may show one in two cells. So the largest

@@ -1,12 +1,26 @@
 // SPDX-License-Identifier: MIT
 #include "drawing/PlainPainter.h"
 
-#include "drawing/Twin.h"
 #include "platform/QtVersion.h"
 
+#include <cwchar>
+#include <string>
 #include <utility>
 
 namespace drawing {
+
+void beginPlain(QPainter& painter, QImage& image)
+{
+    painter.begin(&image);
+    painter.setPen(QPen(Qt::black, 0));
+    painter.setBrush(Qt::black);
+}
+
+void removeClip(QPainter& painter)
+{
+    painter.setClipping(false);
+    painter.setClipRegion(QRegion(), Qt::NoClip);
+}
 
 bool PlainPainter::beginDraw()
 {
@@ -67,7 +81,9 @@ void PlainPainter::setFontIndirect(const LOGFONTW* lf)
     font.setItalic(lf->lfItalic != 0);
     if (lf->lfWeight != 0)
         ktqtbase::platform::setFontWeight(font, lf->lfWeight / 10);
-    font.setPixelSize(m_image->depth() * (lf->lfHeight > 0 ? lf->lfHeight : lf->lfWeight) / 36);
+    const long long product =
+        1LL * m_image->depth() * (lf->lfHeight > 0 ? lf->lfHeight : lf->lfWeight);
+    font.setPixelSize(static_cast<int>(product) / 36);
     font.setFixedPitch(lf->lfPitchAndFamily == 1);
     m_painter.setFont(font);
 }
@@ -150,8 +166,8 @@ void PlainPainter::drawPolygon(const POINT* pts, int n)
 
 void PlainPainter::drawText(int x, int y, const wchar_t* text, int len)
 {
-    const QString whole = QString::fromStdWString(text);
-    m_painter.drawText(QPointF(x, y), len < 0 ? whole : whole.left(len));
+    const std::size_t length = len < 0 ? std::wcslen(text) : static_cast<std::size_t>(len);
+    m_painter.drawText(QPointF(x, y), QString::fromStdWString(std::wstring(text, length)));
 }
 
 void PlainPainter::drawAlphaRect(const CRect& rc, unsigned color, int alpha)

@@ -15,6 +15,13 @@
 
 namespace drawing {
 
+// Begins painting as the wrapper does: a black one-pixel pen and a black brush.
+void beginPlain(QPainter& painter, QImage& image);
+
+// Removes clipping. With Qt 5.15, Qt::NoClip alone would leave the pen and the brush that were used
+// under the clip with a pointer to the freed clip.
+void removeClip(QPainter& painter);
+
 class PlainPainter
 {
 public:

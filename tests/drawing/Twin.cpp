@@ -12,13 +12,6 @@ QImage drawing::ground(QImage::Format format, QSize size)
     return image.convertToFormat(format);
 }
 
-void drawing::beginPlain(QPainter& painter, QImage& image)
-{
-    painter.begin(&image);
-    painter.setPen(QPen(Qt::black, 0));
-    painter.setBrush(Qt::black);
-}
-
 ::testing::AssertionResult drawing::drawsLike(const WrapperCalls& calls,
                                               const PlainCalls& plainCalls, QImage::Format format)
 {
@@ -36,10 +29,4 @@ void drawing::beginPlain(QPainter& painter, QImage& image)
     if (expected == ground(format))
         return AssertionFailure() << "nothing was drawn";
     return support::samePicture(expected, actual);
-}
-
-void drawing::removeClip(QPainter& painter)
-{
-    painter.setClipping(false);
-    painter.setClipRegion(QRegion(), Qt::NoClip);
 }

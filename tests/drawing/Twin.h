@@ -7,6 +7,7 @@
 #ifndef KTQTBASE_TESTS_DRAWING_TWIN_H
 #define KTQTBASE_TESTS_DRAWING_TWIN_H
 
+#include "drawing/PlainPainter.h"
 #include "support/ImageComparison.h"
 
 #include <KtQtBase/PainterWrapper.h>
@@ -30,17 +31,10 @@ using PlainCalls = std::function<void(QPainter&)>;
 // A picture of many translucent colours, on which all painting can be seen.
 QImage ground(QImage::Format format = kScreen, QSize size = QSize(96, 96));
 
-// Begins painting as the wrapper does: a black one-pixel pen and a black brush.
-void beginPlain(QPainter& painter, QImage& image);
-
 // Success if both make the same picture and it is not just the ground. The wrapper's calls run
 // between its beginDraw and endDraw.
 ::testing::AssertionResult drawsLike(const WrapperCalls& calls, const PlainCalls& plainCalls,
                                      QImage::Format format = kScreen);
-
-// Removes clipping. With Qt 5.15, Qt::NoClip alone would leave the pen and the brush that were used
-// under the clip with a pointer to the freed clip.
-void removeClip(QPainter& painter);
 
 } // namespace drawing
 

@@ -32,7 +32,8 @@ bool ReadLine(std::istream& stream, std::string& line)
         return false;
     for (; stream && byte != '\n' && line.size() <= kLongestLine; stream.get(byte))
         line += byte;
-    if (!line.empty() && line.back() == '\r')
+    // All of them: a text that kept one at its end would lose it when it is saved and read again.
+    while (!line.empty() && line.back() == '\r')
         line.pop_back();
     return true;
 }

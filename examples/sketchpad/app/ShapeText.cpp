@@ -14,6 +14,7 @@ namespace {
 constexpr const char* kKinds[] = {"line", "polygon", "ellipse", "text"};
 constexpr std::size_t kEllipsePoints = 2;
 constexpr char kNoFill[] = "none";
+constexpr wchar_t kLastCharacter = L'\U0010FFFF';
 
 bool ReadKind(std::istream& stream, CShape& shape)
 {
@@ -50,6 +51,12 @@ bool ReadPoints(std::istream& stream, CShape& shape)
     return shape.kind != ShapeKind::Ellipse || shape.points.size() == kEllipsePoints;
 }
 
+// Some C libraries decode numbers that are no characters, too, and encode none of them again.
+bool IsUnicode(const std::wstring& text)
+{
+    return std::all_of(text.begin(), text.end(), [](wchar_t ch) { return ch <= kLastCharacter; });
+}
+
 bool ReadText(std::istream& stream, CShape& shape)
 {
     std::string rest;
@@ -57,9 +64,9 @@ bool ReadText(std::istream& stream, CShape& shape)
     if (shape.kind != ShapeKind::Text)
         return rest.empty();
     const auto text = Widen(rest);
-    if (!text || text->size() < 2)
+    if (!text || text->size() < 2 || text->front() != L' ' || !IsUnicode(*text))
         return false;
-    shape.text = text->substr(1); // the blank after the point
+    shape.text = text->substr(1); // behind the blank after the point
     return true;
 }
 

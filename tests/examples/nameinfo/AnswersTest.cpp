@@ -72,6 +72,16 @@ TEST(Nameinfo, TakesAByteOrderMarkForALetter)
     EXPECT_EQ(answerFor({QChar(0xFEFF) + QStringLiteral("/tmp")}, "category"), "relative");
 }
 
+TEST(Nameinfo, PrintsAByteOrderMarkInANameInEveryForm)
+{
+    for (const char* form : {"--csv", "--json", "--wide"}) {
+        SCOPED_TRACE(form);
+        const ProgramResult result =
+            runNameinfo({form, "--columns", "name", QChar(0xFEFF) + QStringLiteral("/tmp")});
+        EXPECT_THAT(result.out, testing::HasSubstr("\xEF\xBB\xBF/tmp"));
+    }
+}
+
 TEST(Nameinfo, TakesEverythingBehindTwoDashesForANameToo)
 {
     EXPECT_EQ(answerFor({"--", "--width"}, "work string"), "--width");

@@ -64,7 +64,9 @@ const DamageRow kDamage[] = {
     {"NoPoint", kFirst + "line 0 1 000000 none 0\n", "line 2: a point"},
     {"EllipseOfThreePoints", kFirst + "ellipse 0 1 000000 none 3 1,1 2,2 3,3\n", "a point"},
     {"TextMissing", kFirst + "text 0 1 000000 none 1 1,1\n", "line 2: the text"},
+    {"TextWithoutItsBlank", kFirst + "text 0 1 000000 none 1 1,1a b\n", "line 2: the text"},
     {"TextOfOtherBytes", kFirst + "text 0 1 000000 none 1 1,1 \xFF\xFE\n", "line 2: the text"},
+    {"TextBeyondUnicode", kFirst + "text 0 1 000000 none 1 1,1 \xF6\x9F\x98\x80\n", "the text"},
     {"CutLastLine", kFirst + kLine + "\nline 0 1", "line 3: the pen"},
     {"EndlessLine", kFirst + std::string(2000001, 'x'), "line 2: longer than 2,000,000 bytes"},
     {"TooManyShapes", lines(kLine, 100001), "line 100002: a drawing has at most 100,000 shapes"},
@@ -138,6 +140,17 @@ void expectOneShapeIn(const std::string& content)
 TEST(SketchpadOpen, ReadsTheLineEndsOfWindows)
 {
     expectOneShapeIn("SKETCHPAD 1\r\n" + kLine + "\r\n");
+}
+
+// The last one of several would otherwise be saved, and be gone when that is read.
+TEST(SketchpadOpen, KeepsNoCarriageReturnAtALinesEnd)
+{
+    Host host;
+    const std::string text = "text 0 1 000000 none 1 1,1 a\rb";
+    host.writeFile("in.sketch", kFirst + text + "\r\r\n");
+    const SessionResult result = host.play("open in.sketch\nsave out\n");
+    EXPECT_EQ(result.status, 0) << result.out << result.err;
+    EXPECT_EQ(host.file("out.sketch"), kFirst + text + "\n");
 }
 
 TEST(SketchpadOpen, ReadsAByteOrderMark)
