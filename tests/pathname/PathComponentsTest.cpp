@@ -216,6 +216,32 @@ TEST(GetFullPath, FillsABufferOfAnyLength)
     EXPECT_EQ(out, L"/p/" + work + L'\0');
 }
 
+// ---- Without a work string ---------------------------------------------------------------------
+
+// A type of a parsed name beside no text: no parse leaves that, but a host may.
+TEST(PathComponents, AreNotWrittenWithoutAWorkString)
+{
+    Built name(L"f", L"/p");
+    ReleaseStringPtr(&name.m_pWork);
+    using Member = void (CRbUiPathname::*)(Text&) const;
+    const Member members[] = {&CRbUiPathname::GetBasename, &CRbUiPathname::GetFilename,
+                              &CRbUiPathname::GetExtension};
+    for (const Member member : members) {
+        Text out(kUntouched);
+        (name.*member)(out);
+        EXPECT_EQ(out, kUntouched);
+    }
+}
+
+TEST(GetFullPath, IsThePrefixAndASeparatorWithoutAWorkString)
+{
+    Built name(L"f", L"/p");
+    ReleaseStringPtr(&name.m_pWork);
+    Text out;
+    EXPECT_TRUE(name.GetFullPath(out));
+    EXPECT_EQ(out, L"/p/");
+}
+
 // ---- Direct access -----------------------------------------------------------------------------
 
 TEST(GetPathString, IsTheWorkStringWithoutThePrefix)

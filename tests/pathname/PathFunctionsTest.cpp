@@ -122,6 +122,15 @@ TEST(GetPathCatType, RaisesTheTextsOwnLetterWhateverTheFirstItIsGiven)
     EXPECT_STREQ(text.c_str(), L"Qz:");
 }
 
+TEST(GetPathCatType, RaisesNothingInAnEmptyText)
+{
+    Text text;
+    path_category category = PC_RELATIVE;
+    EXPECT_EQ(GetPathCatType(L'x', L':', L'/', category, &text, nullptr), 0);
+    EXPECT_EQ(category, PC_DRIVE);
+    EXPECT_EQ(text, L"");
+}
+
 TEST(GetPathCatType, RefusesARelativeNameWithAnUnparsedBase)
 {
     const CRbUiPathname base;
@@ -225,6 +234,17 @@ TEST(GetRelPath, GivesNullForABaseWithoutAPath)
     Text* out = &before;
     GetRelPath(PC_RELATIVE, nullptr, &out, &basePointer);
     EXPECT_EQ(out, nullptr);
+}
+
+TEST(GetRelPath, GivesNullWithoutABase)
+{
+    const CRbUiPathname* none = nullptr;
+    for (const CRbUiPathname** base : {&none, static_cast<const CRbUiPathname**>(nullptr)}) {
+        Text before;
+        Text* out = &before;
+        GetRelPath(PC_RELATIVE, nullptr, &out, base);
+        EXPECT_EQ(out, nullptr);
+    }
 }
 
 TEST(GetRelPath, GivesARootedNameACopyOfTheText)

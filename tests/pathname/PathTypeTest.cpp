@@ -142,6 +142,17 @@ TEST(GetAttributes, FindsNoWildcardForAnUnparsedNameWithATypeElsewhere)
     EXPECT_EQ(name.m_type, PT_NONE);
 }
 
+TEST(GetAttributes, FindsNothingWithoutAText)
+{
+    CRbUiPathname name;
+    name.m_type = PT_FILE;
+    path_type type = PT_DIRECTORY;
+    name.GetAttributes(nullptr, nullptr, &type);
+    EXPECT_EQ(type, PT_NOT_FOUND);
+    name.GetAttributes(nullptr, nullptr, &name.m_type);
+    EXPECT_EQ(name.m_type, PT_NOT_FOUND);
+}
+
 TEST(GetAttributes, FindsAWildcardForAnUnparsedNameInItsOwnType)
 {
     CRbUiPathname name;

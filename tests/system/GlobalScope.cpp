@@ -12,7 +12,7 @@
 #define KTQTBASE_GLOBAL extern "C" __attribute__((visibility("default")))
 
 std::string ktqtbase::test::lastTemplate;
-bool ktqtbase::test::mktempFails = false;
+ktqtbase::test::MktempEnd ktqtbase::test::mktempEnd = ktqtbase::test::MktempEnd::Name;
 int ktqtbase::test::lastLoaderFlags = 0;
 std::wstring ktqtbase::test::lastFormat;
 std::string ktqtbase::test::localeOfLastFormat;
@@ -27,9 +27,14 @@ KTQTBASE_GLOBAL const wchar_t* loadstring(unsigned int)
 KTQTBASE_GLOBAL char* mktemp(char* text)
 {
     ktqtbase::test::lastTemplate = text;
-    if (ktqtbase::test::mktempFails) {
+    switch (ktqtbase::test::mktempEnd) {
+    case ktqtbase::test::MktempEnd::EmptyText:
         text[0] = '\0';
         return text;
+    case ktqtbase::test::MktempEnd::Null:
+        return nullptr;
+    case ktqtbase::test::MktempEnd::Name:
+        break;
     }
     return reinterpret_cast<char* (*)(char*)>(dlsym(RTLD_NEXT, "mktemp"))(text);
 }

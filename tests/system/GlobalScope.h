@@ -8,9 +8,18 @@
 
 namespace ktqtbase::test {
 
-// What the C library's mktemp was last given, and whether it fails.
+// How the C library's mktemp ends: where it finds no name, one library empties the text, another one
+// returns null.
+enum class MktempEnd
+{
+    Name,
+    EmptyText,
+    Null,
+};
+
+// What mktemp was last given, and how it ends.
 extern std::string lastTemplate;
-extern bool mktempFails;
+extern MktempEnd mktempEnd;
 
 // The flags of the loader's last dlopen.
 extern int lastLoaderFlags;

@@ -20,7 +20,8 @@ using ktqtbase::test::lastFormat;
 using ktqtbase::test::lastTemplate;
 using ktqtbase::test::localeOfLastFormat;
 using ktqtbase::test::LocaleScope;
-using ktqtbase::test::mktempFails;
+using ktqtbase::test::mktempEnd;
+using ktqtbase::test::MktempEnd;
 using ktqtbase::test::RowName;
 using ktqtbase::test::TemporaryFolder;
 using ktqtbase::test::wide;
@@ -120,11 +121,13 @@ TEST(GetTempFileName, AsksForCharactersThatNameNothingInTheWorkingFolder)
 
 TEST(GetTempFileName, HasNoUniquePartWhereNoneCanBeFound)
 {
-    Buffer buffer;
-    mktempFails = true;
-    EXPECT_EQ(GetTempFileName(L"/tmp/", L"kt", 0, buffer.text), 11u);
-    mktempFails = false;
-    EXPECT_STREQ(buffer.text, L"/tmp/kt.tmp");
+    for (const MktempEnd end : {MktempEnd::EmptyText, MktempEnd::Null}) {
+        Buffer buffer;
+        mktempEnd = end;
+        EXPECT_EQ(GetTempFileName(L"/tmp/", L"kt", 0, buffer.text), 11u);
+        mktempEnd = MktempEnd::Name;
+        EXPECT_STREQ(buffer.text, L"/tmp/kt.tmp");
+    }
 }
 
 TEST(GetTempFileName, LeavesTheLocaleOfUtf8)

@@ -103,6 +103,15 @@ TEST(VolumeValid, IsTrueForAnyNameAfterConstruction)
         EXPECT_TRUE(PlainVolume(name).VolumeValid()) << name;
 }
 
+TEST(VolumeValid, IsFalseWithoutAName)
+{
+    PlainVolume volume(L"C:");
+    ReleaseStringPtr(&volume.m_pLocalName);
+    volume.m_flags = 0;
+    volume.m_fsType = FS_NTFS;
+    EXPECT_FALSE(volume.VolumeValid());
+}
+
 TEST(VolumeValid, KeepsTheName)
 {
     PlainVolume volume(L"C:");
