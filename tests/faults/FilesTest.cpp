@@ -5,6 +5,7 @@
 // the source is as it was.
 #include "faults/Places.h"
 #include "faults/SystemCalls.h"
+#include "support/LocaleScope.h"
 #include "support/RowName.h"
 
 #include <KtQtBase/windows/Constants.h>
@@ -23,6 +24,9 @@ using ktqtbase::test::setMode;
 using ktqtbase::test::TemporaryFolder;
 using ktqtbase::test::wide;
 using ktqtbase::test::writeFile;
+
+// The temporary folder may have any name. For all tests of this program.
+const ktqtbase::test::LocaleScope kNamesOfUtf8("C.UTF-8", LC_CTYPE);
 
 // More than any buffer holds, and no two parts of it equal.
 std::string longContent()
