@@ -195,7 +195,6 @@ const CallRow kMoreGalleryRows[] = {
     {"OpenFailing", "open", EMFILE},       {"OpenInterrupted", "open", EINTR},
     {"WriteFailing", "write", EIO},        {"WriteInterrupted", "write", EINTR},
     {"TruncateFailing", "ftruncate", EIO}, {"CloseFailing", "close", EIO},
-    {"StatFailing", "stat", EIO},
 };
 
 INSTANTIATE_TEST_SUITE_P(MoreCalls, FaultyGallery, testing::ValuesIn(kMoreGalleryRows),

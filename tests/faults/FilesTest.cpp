@@ -5,6 +5,7 @@
 // the source is as it was.
 #include "faults/Places.h"
 #include "faults/SystemCalls.h"
+#include "support/LocaleScope.h"
 #include "support/RowName.h"
 
 #include <KtQtBase/windows/Constants.h>
@@ -23,6 +24,9 @@ using ktqtbase::test::setMode;
 using ktqtbase::test::TemporaryFolder;
 using ktqtbase::test::wide;
 using ktqtbase::test::writeFile;
+
+// The temporary folder may have any name. For all tests of this program.
+const ktqtbase::test::LocaleScope kNamesOfUtf8("C.UTF-8", LC_CTYPE);
 
 // More than any buffer holds, and no two parts of it equal.
 std::string longContent()
@@ -205,6 +209,8 @@ TEST(FaultyCopy, InAFolderThatVanishedIsTrue)
               0);
 }
 
+// A sanitizer looks at types by means of a pipe.
+#ifndef KTQTBASE_UNDER_SANITIZERS
 TEST(FaultyCopy, WithOneDescriptorLeftLeavesTheDestination)
 {
     const TemporaryFolder folder;
@@ -219,6 +225,7 @@ TEST(FaultyCopy, WithOneDescriptorLeftLeavesTheDestination)
         EXPECT_EQ(readFile(folder / "to"), "old");
     }
 }
+#endif
 
 // ---- Names and attributes -----------------------------------------------------------------------
 

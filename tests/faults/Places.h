@@ -18,13 +18,27 @@
 
 namespace faults {
 
+// Makes this process the root of a world of its own, in which it may mount. Result: whether it may.
+inline bool isRootApart()
+{
+    const std::string user = "0 " + std::to_string(geteuid()) + " 1";
+    const std::string group = "0 " + std::to_string(getegid()) + " 1";
+    if (geteuid() == 0)
+        return unshare(CLONE_NEWNS) == 0;
+    if (unshare(CLONE_NEWNS | CLONE_NEWUSER) != 0)
+        return false;
+    ktqtbase::test::writeFile("/proc/self/setgroups", "deny");
+    ktqtbase::test::writeFile("/proc/self/uid_map", user);
+    ktqtbase::test::writeFile("/proc/self/gid_map", group);
+    return geteuid() == 0;
+}
+
 // A small disk on a folder, of which so many bytes are free. Where mounting is refused the child
 // ends with kRefused.
 inline void mountSmallDisk(const std::filesystem::path& folder, int bytes)
 {
-    const int apart = geteuid() == 0 ? CLONE_NEWNS : CLONE_NEWNS | CLONE_NEWUSER;
     const std::string size = "mode=0777,size=" + std::to_string(bytes);
-    if (unshare(apart) != 0 || mount("none", "/", nullptr, MS_REC | MS_PRIVATE, nullptr) != 0 ||
+    if (!isRootApart() || mount("none", "/", nullptr, MS_REC | MS_PRIVATE, nullptr) != 0 ||
         mount("none", folder.c_str(), "tmpfs", 0, size.c_str()) != 0)
         _exit(kRefused);
 }

@@ -7,6 +7,7 @@
 
 #include <QtCore/QSettings>
 
+#include <clocale>
 #include <cstdio>
 #include <string>
 
@@ -14,7 +15,8 @@
 
 int main(int, char** argv)
 {
-    const QString folder = QString::fromLocal8Bit(argv[1]);
+    std::setlocale(LC_ALL, "C.UTF-8");
+    const QString folder = QString::fromUtf8(argv[1]);
     const auto in = [&](const char* name) { return (folder + name).toStdWString(); };
     QSettings::setPath(QSettings::NativeFormat, QSettings::UserScope, folder);
     access("/where the calls begin", F_OK);

@@ -5,6 +5,7 @@
 #include <KtQtBase/windows/Files.h>
 #include <KtQtBase/windows/Modules.h>
 
+#include <clocale>
 #include <cstdio>
 #include <cstring>
 
@@ -12,6 +13,7 @@
 
 int main(int argc, char** argv)
 {
+    std::setlocale(LC_ALL, "C.UTF-8");
     wchar_t file[1024] = {};
     wchar_t folder[1024] = {};
     if (argc == 2 && std::strcmp(argv[1], "behind") == 0)

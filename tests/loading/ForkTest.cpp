@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 //
 // A process that forks between calls of the library, and goes on in the child.
+#include "support/LocaleScope.h"
 #include "support/TemporaryFolder.h"
 
 #include <KtQtBase/KtQtBase.h>
@@ -106,6 +107,7 @@ protected:
         return m_key.m_pSettings->value(name).toString();
     }
 
+    const ktqtbase::test::LocaleScope m_utf8{"C.UTF-8", LC_CTYPE};
     const PrivateStore m_store;
     CRnUiPathname m_name;
     CRegKey m_key;
