@@ -1,0 +1,58 @@
+#!/usr/bin/env bash
+# SPDX-License-Identifier: MIT
+# Builds the reference out of the headers, the catalogue and the pages beside this script, with
+# nothing from the network; the packages are those of the group docs of tools/setup.sh.
+#
+#     docs/reference/build.sh FOLDER
+#
+# leaves FOLDER/html/index.html, FOLDER/man/ and FOLDER/KtQtBase.qch. A warning is an error.
+set -euo pipefail
+mkdir -p "$1"
+out=$(cd "$1" && pwd)
+cd "$(dirname "$0")/../.."
+here=docs/reference
+theme=${KTQTBASE_DOXYGEN_THEME:-/usr/share/doxygen-awesome-css}
+rm -rf "$out"/{html,man,pages,pictures,KtQtBase.qch}
+
+version() {
+    sed -n 's/^project(KtQtBase VERSION \([0-9.]*\).*/\1/p' CMakeLists.txt
+}
+
+# Doxygen's own, with the switch between light and dark.
+write_frame() {
+    doxygen -w html "$out/pages/header.html" "$out/pages/footer.html" "$out/pages/unused.css"
+    sed -i 's|^</head>|<script src="$relpath^doxygen-awesome-darkmode-toggle.js"></script>\
+<script>DoxygenAwesomeDarkModeToggle.init()</script>\n&|' "$out/pages/header.html"
+}
+
+settings() {
+    cat "$here/Doxyfile"
+    cat <<END
+PROJECT_NUMBER = $(version)
+OUTPUT_DIRECTORY = "$out"
+INPUT = include/KtQtBase docs/first-window.md "$out/pages"
+IMAGE_PATH = "$out/pictures" docs
+HTML_HEADER = "$out/pages/header.html"
+HTML_EXTRA_STYLESHEET = "$theme/doxygen-awesome.css" $here/style.css
+HTML_EXTRA_FILES = "$theme/doxygen-awesome-darkmode-toggle.js"
+GENERATE_QHP = YES
+END
+}
+
+# Where each Qt has its own tools, the name without a number may be a switch between them.
+help_generator() {
+    local name
+    for name in qhelpgenerator-qt5 qhelpgenerator; do
+        command -v "$name" && return
+    done
+    ls /usr/lib/qt5/bin/qhelpgenerator
+}
+
+"$here/pages.py" "$out/pages"
+"$here/pictures.py" docs/gallery.png "$out/pictures"
+write_frame
+doxygen <(settings)
+"$here/man.py" "$out/man"
+QT_QPA_PLATFORM=offscreen "$(help_generator)" "$out/html/index.qhp" -o "$out/KtQtBase.qch" >"$out/help.txt"
+rm -rf "$out"/{pages,pictures,help.txt} "$out/html/index.qhp"
+"$here/check.py" "$out"
