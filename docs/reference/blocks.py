@@ -63,15 +63,6 @@ class Writer:
 
     # ---- What is not a function ------------------------------------------------------------------
 
-    def file_comment(self, header):
-        text = comments.describe(header.opening).brief
-        lines = [f"@file {self.header}", f"@brief {Prose(self.catalogue).write(text)}"]
-        families = self.catalogue.header_families.get(self.header, [])
-        families = dict.fromkeys(families or filter(None, [self.UMBRELLAS.get(self.header)]))
-        for family in families:
-            lines += ["", f"Rules, an example and the names: @ref {group(family)}."]
-        return lines if families else lines + self.passage(header.opening, Prose(self.catalogue))
-
     def group_comment(self, piece):
         text = Prose(self.catalogue, piece.scope)
         return [f"@name {escaped(piece.name)}", *self.passage(piece.comment, text)]
@@ -117,7 +108,8 @@ class Writer:
         brief = told.brief or piece.behind
         lines = self.in_group(piece)
         lines += [f"@brief {sign}{prose.write(brief)}"] if brief else []
-        lines += ["", prose.write(told.more)] if told.more else []
+        again = brief if piece.kind in ("class", "record") else ""
+        lines += ["", prose.write(f"{again} {told.more}")] if again or told.more else []
         return lines + self.details(told, prose, piece)
 
     def field_comment(self, piece):
@@ -147,9 +139,9 @@ class Writer:
         status = self.status_of(piece, told)
         sign = badge(status) + " " if status else ""
         lines = self.in_group(piece)
-        lines += [f"@brief {sign}{prose.write(told.brief)}"] if told.brief or sign else []
-        lines += self.anchor_of(piece)
-        lines += ["", prose.write(told.more)] if told.more else []
+        brief = prose.write(told.brief)
+        lines += [f"@brief {sign}{brief}"] if told.brief or sign else []
+        lines += ["", f"{sign}{brief} {prose.write(told.more)}", *self.anchor_of(piece)]
         lines += self.parameters(told, prose, arguments_of(piece.code))
         for label, text in told.results:
             label = label.replace("Result, ", "").replace("Result", "")

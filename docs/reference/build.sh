@@ -25,12 +25,20 @@ write_frame() {
 <script>DoxygenAwesomeDarkModeToggle.init()</script>\n&|' "$out/pages/header.html"
 }
 
+# Doxygen's own, with other tabs, and without a list of all members, which are all in one place.
+write_layout() {
+    doxygen -l "$out/pages/default.xml"
+    sed -e "/<navindex>/,/<\/navindex>/{ /<navindex>/r $here/tabs.xml
+        d; }" -e '/<allmemberslink/s/yes/no/' "$out/pages/default.xml" >"$out/pages/layout.xml"
+}
+
 settings() {
     cat "$here/Doxyfile"
     cat <<END
 PROJECT_NUMBER = $(version)
 OUTPUT_DIRECTORY = "$out"
 INPUT = include/KtQtBase docs/first-window.md "$out/pages"
+LAYOUT_FILE = "$out/pages/layout.xml"
 IMAGE_PATH = "$out/pictures" docs
 HTML_HEADER = "$out/pages/header.html"
 HTML_EXTRA_STYLESHEET = "$theme/doxygen-awesome.css" $here/style.css
@@ -51,7 +59,11 @@ help_generator() {
 "$here/pages.py" "$out/pages"
 "$here/pictures.py" docs/gallery.png "$out/pictures"
 write_frame
+write_layout
 doxygen <(settings)
+# Pages of folders, to which nothing leads.
+rm -f "$out"/html/dir_*.html
+sed -i '/dir_[0-9a-f]*\.html/d' "$out/html/index.qhp"
 "$here/man.py" "$out/man"
 QT_QPA_PLATFORM=offscreen "$(help_generator)" "$out/html/index.qhp" -o "$out/KtQtBase.qch" >"$out/help.txt"
 rm -rf "$out"/{pages,pictures,help.txt} "$out/html/index.qhp"

@@ -17,7 +17,8 @@ import headers  # noqa: E402
 from blocks import Writer  # noqa: E402
 from catalogue import Catalogue  # noqa: E402
 
-NAMESPACE = re.compile(r"namespace (\w+)")
+# An enumerator with nothing behind it.
+UNSAID_VALUE = re.compile(r"(\w+ = \w+)(,|$)(?! */\*\*<)")
 CALLABLE = ("function", "method", "operator")
 
 
@@ -32,9 +33,10 @@ class Filter:
         self.header = header
         self.writer = Writer(Catalogue(), header.name)
         self.others = others
-        self.lines = as_comment(self.writer.file_comment(header))
+        self.lines = []
         self.in_group = False
         self.before = None
+        self.topic = comments.describe(header.opening).brief
 
     def write(self):
         for piece in self.header.pieces:
@@ -64,22 +66,28 @@ class Filter:
     # Outside of classes the groups are the families.
     def write_group(self, piece):
         self.before = None
+        self.topic = piece.name if not piece.scope else self.topic
         if piece.scope:
             self.end_group()
-            self.lines += as_comment(self.writer.group_comment(piece)) + ["/// @{"]
+            self.lines += as_comment(self.writer.group_comment(piece)) + ["/// @{", ""]
             self.in_group = True
 
     def write_note(self, piece):
         self.before = None
 
     def write_enumerators(self, piece):
-        self.lines.append(piece.code)
+        self.lines.append(UNSAID_VALUE.sub(rf"\1\2 /**< A value of {piece.scope}. */ ", piece.code))
 
-    # The class that a header is all about is described by its opening.
-    def write_class(self, piece):
-        if not piece.comment and piece.kind == "class":
+    def on_topic(self, piece):
+        """A name that nothing is said of has the title of its group, and the class that a header is
+        all about that header's first sentence."""
+        brief = self.topic
+        if piece.kind == "class":
             brief = comments.describe(self.header.opening).brief
-            piece = piece._replace(comment=(brief,))
+        return piece if piece.comment or piece.behind else piece._replace(comment=(brief,))
+
+    def write_class(self, piece):
+        piece = self.on_topic(piece)
         self.lines += as_comment(self.writer.plain_comment(piece)) + [piece.code + " {"]
 
     write_record = write_class
@@ -91,6 +99,7 @@ class Filter:
             self.write_declaration(piece)
 
     def write_macro(self, piece):
+        piece = self.on_topic(piece)
         self.lines += as_comment(self.writer.plain_comment(piece)) + [piece.code]
 
     def write_field(self, piece):
@@ -102,16 +111,16 @@ class Filter:
         self.lines += self.writer.another_name(piece, self.others[piece.code])
 
     def write_declaration(self, piece):
-        piece = self.with_comment(piece)
-        self.before = piece if piece.kind in CALLABLE else None
-        comment = self.writer.function_comment if piece.kind in CALLABLE else \
-            self.writer.plain_comment
+        is_function = piece.kind in CALLABLE
+        piece = self.with_comment(piece) if is_function else self.on_topic(piece)
+        self.before = piece if is_function else None
+        comment = self.writer.function_comment if is_function else self.writer.plain_comment
         self.lines += as_comment(comment(piece)) + [piece.code + ";"]
 
     def with_comment(self, piece):
         """A function of a namespace has the comment of the global one; one that stands by itself
         below another, since the formatter sets bodies apart, has the comment of that one."""
-        if piece.comment or piece.kind not in CALLABLE or "~" in piece.code:
+        if piece.comment or "~" in piece.code:
             return piece
         twin = self.others.get(piece.name)
         if piece.scope and twin and piece.kind == "function":

@@ -14,7 +14,7 @@ QUOTED_OR_GAP = re.compile(r'("(?:\\.|[^"\\])*")|  +')
 WORD = re.compile(r"`[^`]+`|\b[A-Za-z_]\w*(?:::\w+)*")
 # A name is told from a word of English by a capital letter or a line in its middle; one of capital
 # letters alone by the catalogue.
-LIKE_A_NAME = re.compile(r"\w*[a-z_][A-Z_]|\w+::|\w*_")
+LIKE_A_NAME = re.compile(r"\w*[a-z_][A-Z_]|Q[A-Z][a-z]|\w+::|\w*_")
 
 
 def escaped(text):

@@ -61,7 +61,7 @@ class Pages:
         own = self.headers_of(family)
         brief = self.prose.write(comments.describe(own[0].opening).brief)
         lines = [f"@defgroup {group(family.name)} {family.title}", f"@brief {brief}", "",
-                 self.counts(family), ""]
+                 f"Names here: {self.counts(family)}.", ""]
         lines += [f"@section example-{family.name} A worked example", *self.example(family, own)]
         lines += [f"@section rules-{family.name} Rules"]
         for header in own:
@@ -73,7 +73,7 @@ class Pages:
     def counts(self, family):
         found = collections.Counter(entry["status"] for entry in family.entries)
         parts = [f"{badge(status)} {found[status]}" for status, _ in STATUS_WORDS if found[status]]
-        return "Names here: " + ", ".join(parts) + "."
+        return ", ".join(parts)
 
     def example(self, family, own):
         if family.name in self.examples:
@@ -171,6 +171,21 @@ class Pages:
         sign = "" if entry["status"] == "works" else " " + badge(entry["status"])
         return reference(entry) + sign
 
+    def headers_page(self):
+        lines = ["A host includes KtQtBase.h for all of it, or one header alone.", ""]
+        for header in self.headers:
+            anchor = re.sub(r"\W", "-", header.name)
+            lines += [f"@section header-{anchor} {header.name}"]
+            owners = [family for family in self.catalogue.families
+                      if header in self.headers_of(family)]
+            for family in owners:
+                lines += [f"@ref {group(family.name)}", ""]
+            if owners:
+                lines += [self.prose.write(comments.describe(header.opening).brief), ""]
+            else:
+                lines += Writer(self.catalogue, header.name).passage(header.opening, self.prose)
+        return page("headers", "Headers", lines)
+
     def totals(self):
         """The table of the front page, with its counts."""
         entries = [entry for entry in self.catalogue.entries.values()
@@ -190,7 +205,8 @@ class Pages:
     def write(self, folder):
         folder.mkdir(parents=True, exist_ok=True)
         pages = {"front": self.front(), "differences": self.differences(), "inert": self.inert(),
-                 "oddities": self.oddities(), "index": self.index()}
+                 "oddities": self.oddities(), "index": self.index(),
+                 "headers": self.headers_page()}
         for family in self.catalogue.families:
             pages[group(family.name)] = self.family(family)
         for name, lines in pages.items():
