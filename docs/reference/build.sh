@@ -19,10 +19,12 @@ version() {
 }
 
 # Doxygen's own, with the switch between light and dark.
+# shellcheck disable=SC2016 # the name is Doxygen's, not the shell's
 write_frame() {
-    doxygen -w html "$out/pages/header.html" "$out/pages/footer.html" "$out/pages/unused.css"
-    sed -i 's|^</head>|<script src="$relpath^doxygen-awesome-darkmode-toggle.js"></script>\
-<script>DoxygenAwesomeDarkModeToggle.init()</script>\n&|' "$out/pages/header.html"
+    doxygen -w html "$out/pages/plain.html" "$out/pages/footer.html" "$out/pages/unused.css"
+    sed '/^<\/head>/i\
+<script src="$relpath^doxygen-awesome-darkmode-toggle.js"></script>\
+<script>DoxygenAwesomeDarkModeToggle.init()</script>' "$out/pages/plain.html" >"$out/pages/header.html"
 }
 
 # Doxygen's own, with other tabs, and without a list of all members, which are all in one place.
@@ -63,8 +65,8 @@ write_layout
 doxygen <(settings)
 # Pages of folders, to which nothing leads.
 rm -f "$out"/html/dir_*.html
-sed -i '/dir_[0-9a-f]*\.html/d' "$out/html/index.qhp"
+sed '/dir_[0-9a-f]*\.html/d' "$out/html/index.qhp" >"$out/html/help.qhp"
 "$here/man.py" "$out/man"
-QT_QPA_PLATFORM=offscreen "$(help_generator)" "$out/html/index.qhp" -o "$out/KtQtBase.qch" >"$out/help.txt"
-rm -rf "$out"/{pages,pictures,help.txt} "$out/html/index.qhp"
+QT_QPA_PLATFORM=offscreen "$(help_generator)" "$out/html/help.qhp" -o "$out/KtQtBase.qch" >"$out/help.txt"
+rm -rf "$out"/{pages,pictures,help.txt} "$out"/html/*.qhp
 "$here/check.py" "$out"

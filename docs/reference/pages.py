@@ -20,7 +20,7 @@ from blocks import Writer, badge, group, table  # noqa: E402
 from catalogue import Catalogue, full_name  # noqa: E402
 from markup import Prose, code, escaped, link  # noqa: E402
 
-SNIPPETS = headers.ROOT / "tests" / "docs" / "FamilySnippets.cpp"
+SNIPPETS = headers.ROOT / "tests" / "docs"
 STATUS_WORDS = (("works", "work as on Windows"), ("differs", "differ"), ("inert", "do nothing here"))
 SENTENCE_OF = {"differs": "windows", "inert": "here"}
 
@@ -45,7 +45,8 @@ class Pages:
         self.prose = Prose(self.catalogue)
         self.headers = headers.read_all()
         self.by_name = {header.name: header for header in self.headers}
-        self.examples = set(re.findall(r"// \[([\w-]+)\]$", SNIPPETS.read_text(), re.MULTILINE))
+        self.examples = {family: path.name for path in sorted(SNIPPETS.glob("*.cpp")) for family in
+                         re.findall(r"// \[([\w-]+)\]$", path.read_text(), re.MULTILINE)}
 
     # ---- Families --------------------------------------------------------------------------------
 
@@ -77,13 +78,13 @@ class Pages:
 
     def example(self, family, own):
         if family.name in self.examples:
-            return [f"@snippet {SNIPPETS.name} {family.name}"]
+            return [f"@snippet{{trimleft}} {self.examples[family.name]} {family.name}"]
         for header in own:
             blocks = comments.parse(header.opening, with_code=True)
             codes = [block for block in blocks if block.kind == "code"]
             if codes:
                 return ["@code{.cpp}", *codes[0].items, "@endcode"]
-        sys.exit(f"{family.name}: there is no example, neither in {own[0].name} nor in {SNIPPETS}")
+        sys.exit(f"{family.name}: there is no example, neither in {own[0].name} nor in tests/docs")
 
     def rules(self, header):
         """A header's opening and what it says of its groups; its first example stands above."""
