@@ -75,7 +75,9 @@ class Writer:
         return written
 
     def part(self, block, prose):
-        text = comments.joined(block) if block.kind not in ("rows", "arguments", "code") else ""
+        text = comments.joined(block) if block.kind not in ("rows", "arguments", "code", "table") else ""
+        if block.kind == "table":
+            return ["@code{.unparsed}", *block.items, "@endcode"]
         if block.kind == "code":
             return ["@code{.cpp}", *block.items, "@endcode"]
         if block.kind == "rows":
@@ -167,7 +169,7 @@ class Writer:
             if own:
                 text = self.argument_text(argument, prose)
                 lines.append(f"@param{direction} {','.join(own)} {text}")
-            elif not re.fullmatch(r"\w+(, \w+)*", argument.names) or not names:
+            elif not argument.direction or not names:
                 others.append(argument)
         return ([""] + lines if lines else []) + self.members(others, prose)
 

@@ -58,6 +58,18 @@ help_generator() {
     ls /usr/lib/qt5/bin/qhelpgenerator
 }
 
+# What it says of each step is shown only if it fails.
+write_help() {
+    local run=$out/pages/run
+    mkdir -m 700 "$run"
+    sed '/dir_[0-9a-f]*\.html/d' "$out/html/index.qhp" >"$out/html/help.qhp"
+    if ! XDG_RUNTIME_DIR=$run QT_QPA_PLATFORM=offscreen "$(help_generator)" \
+        "$out/html/help.qhp" -o "$out/KtQtBase.qch" >"$run/told.txt" 2>&1; then
+        cat "$run/told.txt" >&2
+        return 1
+    fi
+}
+
 "$here/pages.py" "$out/pages"
 "$here/pictures.py" docs/gallery.png "$out/pictures"
 write_frame
@@ -65,8 +77,7 @@ write_layout
 doxygen <(settings)
 # Pages of folders, to which nothing leads.
 rm -f "$out"/html/dir_*.html
-sed '/dir_[0-9a-f]*\.html/d' "$out/html/index.qhp" >"$out/html/help.qhp"
 "$here/man.py" "$out/man"
-QT_QPA_PLATFORM=offscreen "$(help_generator)" "$out/html/help.qhp" -o "$out/KtQtBase.qch" >"$out/help.txt"
-rm -rf "$out"/{pages,pictures,help.txt} "$out"/html/*.qhp
+write_help
+rm -rf "$out"/{pages,pictures} "$out"/html/*.qhp
 "$here/check.py" "$out"

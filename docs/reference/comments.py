@@ -18,6 +18,8 @@ from typing import NamedTuple, Tuple
 
 LABEL = re.compile(r"(Inert|On Windows|Kept|Result[^:]*): *(.*)")
 ARGUMENT = re.compile(r" *(\S(?:[^ ]| (?! ))*?)  +(\S.*)$")
+# Three columns, of which the second one is no direction.
+TABLE = re.compile(r" *\S+(?: \S+)*  +(?!(?:in|out|in/out): )\S+(?: \S+)*  +\S")
 DIRECTION = re.compile(r"(in/out|in|out)(?:: *|$)(.*)")
 # Between two rows on a line; only where columns meet is it a single blank.
 GAP = re.compile(r"(.*\S)  +(.*)|(.*); (.*)|(.*\S) (\S+)$")
@@ -42,8 +44,8 @@ class Row(NamedTuple):
 
 
 class Block(NamedTuple):
-    """A part of a comment: "text", "arguments", "rows", "code", "list" or a label, with its lines,
-    Arguments or Rows."""
+    """A part of a comment: "text", "arguments", "rows", "code", "table", "list" or a label, with its
+    lines, Arguments or Rows."""
     kind: str
     items: tuple
 
@@ -78,6 +80,9 @@ class Parser:
                 self.append("code", "")
         elif label:
             self.append(label[1], label[2], fresh=True)
+        elif indentation(line) >= 2 and TABLE.match(line) and "=>" not in line and \
+                not self.continues(line):
+            self.append("table", line)
         elif self.with_code and indentation(line) >= 4 and self.last() != "list":
             self.append("code", line[4:])
         elif indentation(line) >= 2:
@@ -87,7 +92,7 @@ class Parser:
         self.after_blank = not line
 
     def read_text(self, line):
-        if self.last() in ("", "arguments", "rows", "code", "list") or self.after_blank:
+        if self.last() in ("", "arguments", "rows", "code", "table", "list") or self.after_blank:
             self.append("text", line, fresh=True)
         else:
             self.blocks[-1][1].append(line)

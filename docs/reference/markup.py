@@ -11,10 +11,10 @@ from catalogue import anchor
 SPECIAL = re.compile(r"([\\@#%$*_`\[\]!|])")
 ENTITIES = {"&": "&amp;", "<": "&lt;", ">": "&gt;", '"': "&quot;"}
 QUOTED_OR_GAP = re.compile(r'("(?:\\.|[^"\\])*")|  +')
-WORD = re.compile(r"`[^`]+`|\b[A-Za-z_]\w*(?:::\w+)*")
+WORD = re.compile(r'`[^`]+`|\bL"(?:\\.|[^"\\])*"|\b[A-Za-z_]\w*(?:(?:::|->|\(\)->)\w+)*(?:\(\))?')
 # A name is told from a word of English by a capital letter or a line in its middle; one of capital
 # letters alone by the catalogue.
-LIKE_A_NAME = re.compile(r"\w*[a-z_][A-Z_]|Q[A-Z][a-z]|\w+::|\w*_")
+LIKE_A_NAME = re.compile(r"\w*[a-z_][A-Z_]|Q[A-Z][a-z]|\w+::|\w*_|.*\(\)|L\"")
 
 
 def escaped(text):
@@ -55,7 +55,7 @@ class Prose:
     def word(self, text):
         if text.startswith("`"):
             return code(text.strip("`"))
-        name = self.target(text)
+        name = self.target(text[:-2] if text.endswith("()") else text)
         if name:
             return link(name, text)
         known = text.isupper() and text in self.catalogue.entries
