@@ -6,6 +6,7 @@
 
 #include <firstwindow/Panel.h>
 
+#include <QtCore/QSettings>
 #include <QtTest/QTest>
 #include <QtWidgets/QMessageBox>
 #include <QtWidgets/QPushButton>
@@ -28,6 +29,12 @@ using ktqtbase::test::TemporaryFolder;
 class FirstWindow : public testing::Test
 {
 protected:
+    FirstWindow()
+    {
+        QSettings::setPath(QSettings::NativeFormat, QSettings::UserScope,
+                           QString::fromStdString(m_settings.path().string()));
+    }
+
     void click(Qt::MouseButton button, const QPoint& place)
     {
         QTest::mouseClick(&m_panel, button, Qt::NoModifier, place);
@@ -40,6 +47,7 @@ protected:
         click(Qt::RightButton, QPoint(5, 5));
     }
 
+    TemporaryFolder m_settings;
     Dots m_dots;
     Panel m_panel{m_dots};
 };
