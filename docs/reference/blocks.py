@@ -1,6 +1,6 @@
 # SPDX-License-Identifier: MIT
-"""Writes the comment of a declaration as lines with Doxygen's commands, in the order of a reference:
-brief, arguments, result, rows, errors, remarks, "Kept:", "On Windows:".
+"""Writes the comment of a declaration as lines with Doxygen's commands, in the order of a
+reference: brief, arguments, result, rows, errors, remarks, "Kept:", "On Windows:".
 
 Needs Python 3 and nothing else.
 """
@@ -75,7 +75,8 @@ class Writer:
         return written
 
     def part(self, block, prose):
-        text = comments.joined(block) if block.kind not in ("rows", "arguments", "code", "table") else ""
+        drawn = ("rows", "arguments", "code", "table")
+        text = "" if block.kind in drawn else comments.joined(block)
         if block.kind == "table":
             return ["@code{.unparsed}", *block.items, "@endcode"]
         if block.kind == "code":

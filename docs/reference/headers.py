@@ -1,6 +1,6 @@
 # SPDX-License-Identifier: MIT
-"""Reads a public header into the pieces that a reference shows: its opening block, its ruled groups,
-and each declaration with the comment above it and the one behind it.
+"""Reads a public header into the pieces that a reference shows: its opening block, its ruled
+groups, and each declaration with the comment above it and the one behind it.
 
 The grammar of declarations is that of tools/catalogue_headers.py, whose reader this one listens to.
 
@@ -23,7 +23,8 @@ UNSHOWN = ("HostMacros.h", "ConstantNames.h", "Names.h")
 RULE = re.compile(r"-{4} (.*?) -{4,}$|-{4} (.*?) -{4}$")
 MACROS = re.compile(r"\b(KTQTBASE_EXPORT|__extension__)\b|\[\[\w+\]\]")
 PORTING = re.compile(r"KTQTBASE_PORTING_(\w+)\((\w+), *(.*)\)$", re.DOTALL)
-DROPPED = re.compile(r"extern template|using (?:std::|[^=]*$)|friend|(class|struct|union) *\w*$|.*= delete$")
+DROPPED = re.compile(
+    r"extern template|using (?:std::|[^=]*$)|friend|(class|struct|union) *\w*$|.*= delete$")
 OUTSIDE = re.compile(r"[\w>]::~?(\w+|operator[^\w\s(]+)\($")
 IN_PARENTHESES = re.compile(r"\((\w+)\)(?=\()")
 INITIALISERS = re.compile(r"(?<=\))( noexcept)? *:(?!:).*$")
