@@ -28,6 +28,7 @@ option(KTQTBASE_BUILD_EXAMPLES "Build the example programs" ${PROJECT_IS_TOP_LEV
 option(KTQTBASE_BUILD_FUZZERS "Build the fuzzers, which need clang++" OFF)
 option(KTQTBASE_BUILD_BENCHMARKS "Build the benchmarks" OFF)
 option(KTQTBASE_BUILD_TOOLS "Build the programs that help to port a host" ${PROJECT_IS_TOP_LEVEL})
+option(KTQTBASE_BUILD_DOCS "Build the reference, with Doxygen" OFF)
 option(KTQTBASE_WARNINGS_AS_ERRORS "Treat compiler warnings as errors" OFF)
 option(KTQTBASE_SANITIZE "Build with the sanitizers that KTQTBASE_SANITIZERS names" OFF)
 set(KTQTBASE_SANITIZERS address,undefined CACHE STRING "The sanitizers, as -fsanitize= takes them")

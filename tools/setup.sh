@@ -18,8 +18,8 @@ package_manager() {
     echo none
 }
 
-# The packages of one group (build, test, tools, check, coverage, faults, pictures, bench, fuzz, qt5,
-# qt6, clang, libcxx or arm64) under a package manager's names.
+# The packages of one group (build, test, tools, check, coverage, docs, faults, pictures, bench, fuzz,
+# qt5, qt6, clang, libcxx or arm64) under a package manager's names.
 named_packages() {
     case "$1:$2" in
         # The fonts are those of the examples' pictures.
@@ -71,6 +71,8 @@ named_packages() {
         apt:faults) echo strace ;;
         apt:coverage) echo gcovr ;;
         brew:coverage) echo gcovr ;;
+        # The last one writes the help file of Qt's programs.
+        apt:docs) echo doxygen doxygen-awesome-css python3 python3-pil qttools5-dev-tools ;;
         # The terminal and the browser of pictures in docs/.
         apt:pictures) echo xterm chromium ;;
         apt:bench) echo libbenchmark-dev libboost-filesystem-dev libglib2.0-dev libinih-dev \

@@ -211,6 +211,20 @@ cmake --build --preset release --parallel 2 --target examples/all ktqt-audit pic
 pictures.sh build/release gallery nameinfo" 0
 }
 
+BuildsTheReferenceWithoutTheLibrary() {
+    lay_out_debian
+    fake id "echo 0"
+    lacks doxygen
+    mkdir -p "$work/project/docs/reference"
+    recorded build.sh
+    mv "$work/bin/build.sh" "$work/project/docs/reference"
+    play ./run docs
+    expect_end "Installing: doxygen
+The reference is build/docs/html/index.html." "apt-get update
+apt-get install -y --no-install-recommends doxygen
+build.sh build/docs" 0
+}
+
 # The build folder holds no programs, which is where this run ends.
 InstallsTheOtherArchitecture() {
     lay_out_debian
