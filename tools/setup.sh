@@ -57,7 +57,7 @@ named_packages() {
         dnf:qt6) echo qt6-qtbase-devel ;;
         pacman:qt6) echo qt6-base ;;
         zypper:qt6) echo qt6-base-devel ;;
-        apt:clang) echo clang ;;
+        apt:clang) echo clang libclang-rt-dev ;;
         # LLVM names the functions in what a sanitizer tells.
         apt:fuzz) echo clang libclang-rt-dev llvm ;;
         apt:libcxx) echo clang libc++-dev libc++abi-dev googletest ;;
