@@ -294,6 +294,8 @@ def parse_arguments():
     parser.add_argument("--rows", action="store_true",
                         help="end with the survivors as rows for docs/mutants.md")
     parser.add_argument("--list", action="store_true", help="only list the changes")
+    parser.add_argument("--check", action="store_true",
+                        help="only look for rows of docs/mutants.md that fit no source any more")
     return parser.parse_args()
 
 
@@ -363,6 +365,8 @@ def main():
     arguments = parse_arguments()
     os.chdir(ROOT)
     found, rows = all_mutants(), explained()
+    if arguments.check:
+        return 0 if tell_stale(rows, found) else 1
     order, count = selection(found, arguments)
     if arguments.list:
         for mutant in order:
