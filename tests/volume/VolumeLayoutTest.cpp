@@ -101,6 +101,8 @@ template<class Base>
 void expectDestructorInTheFirstSlots()
 {
     using Dying = DyingVolume<Base>;
+    Dying::destroyed = 0;
+    Dying::deleted = 0;
     alignas(Dying) unsigned char memory[sizeof(Dying)];
     callSlot<void>(*new (memory) Dying, 0);
     EXPECT_EQ(Dying::destroyed, 1);

@@ -211,6 +211,8 @@ public:
 
 TEST(QKtMsgEvent, HasTheTwoFormsOfItsDestructorInTheFirstSlots)
 {
+    DyingMessage::destroyed = 0;
+    DyingMessage::deleted = 0;
     alignas(DyingMessage) unsigned char memory[sizeof(DyingMessage)];
     callSlot<void>(*new (memory) DyingMessage, 0);
     EXPECT_EQ(DyingMessage::destroyed, 1);
