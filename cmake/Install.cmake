@@ -1,6 +1,6 @@
 # SPDX-License-Identifier: MIT
 # What `cmake --install` installs: the libraries, their headers, the CMake package, the
-# pkg-config module and the catalogue. No installed file holds the prefix, so a host may move them.
+# pkg-config module, the catalogue and what debuggers load. No installed file holds the prefix, so a host may move them.
 
 include(CMakePackageConfigHelpers)
 
@@ -19,6 +19,7 @@ install(DIRECTORY include/KtQtBase ${KTQTBASE_GENERATED_INCLUDE}/KtQtBase
     DESTINATION ${CMAKE_INSTALL_INCLUDEDIR})
 install(DIRECTORY catalogue DESTINATION ${CMAKE_INSTALL_DATADIR}/KtQtBase)
 install(EXPORT KtQtBaseTargets NAMESPACE KtQtBase:: DESTINATION ${KTQTBASE_CMAKE_DIR})
+include(cmake/InstallDebugger.cmake)
 
 # A host's own OS-base library is not installed; the package only names its place.
 if(KTQTBASE_HOST_OSBASE)

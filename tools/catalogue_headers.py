@@ -23,7 +23,8 @@ SKIPPED = re.compile(r"$|extern template|using [^=]*$|friend|(class|struct|union
 CONSTANT = re.compile(r"(?:static |inline )*(?:constexpr|inline const)\b[^(]*?\b(\w+)(?: *=.*)?$")
 GLOBAL = re.compile(r"(?:extern|static)\b[^(=]*\b(\w+)$")
 TYPE = re.compile(r"using (\w+) *=|typedef\b.*\b(\w+)$")
-MACRO = re.compile(r"#define ((?!KTQTBASE_)\w+)")
+# The names of the library's own macros are its business, except those that tell its version.
+MACRO = re.compile(r"#define ((?!KTQTBASE_)\w+|KTQTBASE_VERSION(?!_H\b)\w*)")
 TYPE_KINDS = {"class": "class", "struct": "record", "enum": "type"}
 
 # What strict mode says of a function; a test of the headers compares it with the comment.

@@ -29,16 +29,17 @@ named_packages() {
         dnf:build) echo gcc-c++ cmake ninja-build pkgconf-pkg-config dejavu-sans-fonts ;;
         pacman:build) echo gcc cmake ninja pkgconf ttf-dejavu ;;
         zypper:build) echo gcc-c++ cmake ninja pkg-config dejavu-fonts ;;
-        # poppler-utils reads printed pages, Python the headers, and locales has the sources of
-        # locales; the packages after them show the tests' windows on an invisible display.
-        apt:test) echo libgtest-dev libgmock-dev poppler-utils python3 locales xvfb xauth openbox \
-            xdotool ;;
+        # poppler-utils reads printed pages, Python the headers, gdb a host's memory, and locales has
+        # the sources of locales; the packages after them show the tests' windows on an invisible
+        # display.
+        apt:test) echo libgtest-dev libgmock-dev poppler-utils python3 gdb locales xvfb xauth \
+            openbox xdotool ;;
         brew:test) echo googletest poppler python3 ;;
-        dnf:test) echo gtest-devel gmock-devel poppler-utils python3 glibc-locale-source \
+        dnf:test) echo gtest-devel gmock-devel poppler-utils python3 gdb glibc-locale-source \
             xorg-x11-server-Xvfb openbox xdotool ;;
-        pacman:test) echo gtest poppler python xorg-server-xvfb xorg-xauth openbox xdotool ;;
-        zypper:test) echo gtest gmock poppler-tools python3 glibc-i18ndata xorg-x11-server-Xvfb \
-            xauth openbox xdotool ;;
+        pacman:test) echo gtest poppler python gdb xorg-server-xvfb xorg-xauth openbox xdotool ;;
+        zypper:test) echo gtest gmock poppler-tools python3 gdb glibc-i18ndata \
+            xorg-x11-server-Xvfb xauth openbox xdotool ;;
         # ktqt-trace is made by Python. Everything behind LLVM and Clang makes the programs that the
         # tests of ktqt-audit read.
         apt:tools) echo python3 llvm-14-dev libclang-14-dev llvm-14 clang-14 lld-14 \
@@ -66,7 +67,8 @@ named_packages() {
         # The formatter's version is fixed, since each version formats some lines differently; so is
         # that of clang-tidy, since each version finds something new.
         apt:check) echo git abigail-tools binutils clang clang-format-14 clang-tidy-14 cppcheck \
-            libgnustep-gui-dev python3 reuse shellcheck unixodbc-dev valgrind ;;
+            libgnustep-gui-dev lldb-14 python3 python3-lldb-14 reuse shellcheck unixodbc-dev \
+            valgrind ;;
         # What interrupts system calls.
         apt:faults) echo strace ;;
         apt:coverage) echo gcovr ;;

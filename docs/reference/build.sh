@@ -15,7 +15,8 @@ theme=${KTQTBASE_DOXYGEN_THEME:-/usr/share/doxygen-awesome-css}
 rm -rf "$out"/{html,man,pages,pictures,KtQtBase.qch}
 
 version() {
-    sed -n 's/^project(KtQtBase VERSION \([0-9.]*\).*/\1/p' CMakeLists.txt
+    sed -nE 's/^#define KTQTBASE_VERSION_[MP][A-Z]+ ([0-9]+)$/\1/p' include/KtQtBase/Version.h |
+        paste -sd. -
 }
 
 # Doxygen's own, with the switch between light and dark.

@@ -39,8 +39,8 @@ def quoted(text):
 
 
 def version():
-    text = (headers.ROOT / "CMakeLists.txt").read_text(encoding="utf-8")
-    return re.search(r"^project\(KtQtBase VERSION ([\d.]+)", text, re.MULTILINE)[1]
+    text = (headers.ROOT / "include/KtQtBase/Version.h").read_text(encoding="utf-8")
+    return ".".join(re.findall(r"^#define KTQTBASE_VERSION_[MP]\w+ (\d+)$", text, re.MULTILINE))
 
 
 class Page:

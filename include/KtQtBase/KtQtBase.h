@@ -14,6 +14,7 @@
 #include <KtQtBase/PainterWrapper.h>
 #include <KtQtBase/PathName.h>
 #include <KtQtBase/RegistryKey.h>
+#include <KtQtBase/Version.h>
 #include <KtQtBase/VolumeDescriptor.h>
 #include <KtQtBase/WideString.h>
 #include <KtQtBase/WindowsFunctions.h>

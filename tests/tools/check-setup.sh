@@ -491,7 +491,7 @@ platform: from Qt, key: $work/home/.Xauthority" 0
 SetsNothingUpThatOnlyTestsNeed() {
     lay_out_demo
     recorded cmake
-    lacks libgtest-dev libgmock-dev poppler-utils python3 xvfb xauth openbox xdotool
+    lacks libgtest-dev libgmock-dev poppler-utils python3 gdb xvfb xauth openbox xdotool
     play ./run demo
     expect "What was called first" "$(head -n 2 "$work/calls")" "cmake --preset release\
  -B build/examples -DKTQTBASE_BUILD_TESTS=OFF -DKTQTBASE_BUILD_TOOLS=OFF

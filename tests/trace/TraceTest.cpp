@@ -332,7 +332,7 @@ TEST(Trace, LeavesTheProgramsArgumentsToIt)
 
 TEST(Trace, TellsItsVersionAndItsOptions)
 {
-    EXPECT_EQ(trace({"--version"}).out, "ktqt-trace " KTQTBASE_VERSION "\n");
+    EXPECT_EQ(trace({"--version"}).out, "ktqt-trace " TRACE_VERSION "\n");
     EXPECT_THAT(trace({"--help"}).out, HasSubstr("--only <status>"));
 }
 
