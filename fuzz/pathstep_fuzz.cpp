@@ -62,6 +62,12 @@ bool isDrive(wchar_t first, wchar_t second)
     return second == L':' && std::iswalpha(static_cast<std::wint_t>(first));
 }
 
+// A separator may be a letter, too.
+bool namesDrive(wchar_t first, wchar_t second, wchar_t separator)
+{
+    return first != separator && isDrive(first, second);
+}
+
 void raise(std::wstring& text)
 {
     if (!text.empty())
@@ -73,18 +79,11 @@ wchar_t secondOf(const std::wstring& text)
     return text.size() > 1 ? text[1] : L'\0';
 }
 
-// Result: whether it is a drive.
-bool classify(wchar_t first, wchar_t second, wchar_t separator, int& category, std::wstring& text)
+int categoryOf(wchar_t first, wchar_t second, wchar_t separator, int otherwise)
 {
-    if (first == separator) {
-        category = second == separator ? PC_UNC : PC_ROOTED;
-        return false;
-    }
-    if (!isDrive(first, second))
-        return false;
-    category = PC_DRIVE;
-    raise(text);
-    return true;
+    const int slashes = first != separator ? 0 : second != separator ? 1 : 2;
+    const int categories[] = {otherwise, PC_ROOTED, PC_UNC};
+    return namesDrive(first, second, separator) ? PC_DRIVE : categories[slashes];
 }
 
 void readWork(const Drawn& drawn)
@@ -109,14 +108,14 @@ void readCategory(const Drawn& drawn, const CRbUiPathname* base)
     const int result =
         GetPathCatType(drawn.first, drawn.second, drawn.separator, category, &text, base);
     std::wstring expectedText = drawn.text;
-    int expectedCategory = PC_RELATIVE;
-    int expected = 0;
-    if (!classify(drawn.first, drawn.second, drawn.separator, expectedCategory, expectedText)) {
-        const bool isBased = base && base->m_type >= PT_NOT_FOUND && base->m_type <= PT_DIRECTORY;
-        if (holds(drawn.text, L':') || (expectedCategory == PC_RELATIVE && !isBased))
-            expected = 1;
-    }
-    expectSame("category's result", result, expected);
+    const int expectedCategory =
+        categoryOf(drawn.first, drawn.second, drawn.separator, PC_RELATIVE);
+    const bool isBased = base && base->m_type >= PT_NOT_FOUND && base->m_type <= PT_DIRECTORY;
+    const bool lacksBase = expectedCategory == PC_RELATIVE && !isBased;
+    const bool isBad = expectedCategory != PC_DRIVE && (holds(drawn.text, L':') || lacksBase);
+    if (expectedCategory == PC_DRIVE)
+        raise(expectedText);
+    expectSame("category's result", result, isBad ? 1 : 0);
     expectSame("category", static_cast<int>(category), expectedCategory);
     expectSame<std::wstring>("text of the category", text, expectedText);
 }
@@ -135,8 +134,12 @@ void classifyPrefix(const Drawn& drawn)
     expectSame("raised", raised, drawn.text.empty());
     std::wstring expectedText = drawn.text;
     int expected = drawn.category;
-    if (!raised)
-        classify(drawn.text[0], secondOf(drawn.text), drawn.separator, expected, expectedText);
+    if (!raised) {
+        const wchar_t second = secondOf(drawn.text);
+        expected = categoryOf(drawn.text[0], second, drawn.separator, drawn.category);
+        if (namesDrive(drawn.text[0], second, drawn.separator))
+            raise(expectedText);
+    }
     expectSame("category of a prefix", static_cast<int>(category), expected);
     expectSame<std::wstring>("prefix", *text, expectedText);
 }

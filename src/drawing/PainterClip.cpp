@@ -32,7 +32,7 @@ QPainterPath pathOf(const POINT* points, const unsigned int* counts, unsigned in
 // One fill polygon for all of them, since a union of regions would have no holes.
 QRegion oddEvenRegion(const POINT* points, const unsigned int* counts, unsigned int n)
 {
-    if (!points || n == 0)
+    if (!points)
         return QRegion();
     const QPolygonF outline = pathOf(points, counts, n).toFillPolygon(QTransform());
     return QRegion(outline.toPolygon(), Qt::OddEvenFill);

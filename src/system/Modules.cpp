@@ -89,7 +89,7 @@ HINSTANCE GetModuleHandle(const wchar_t* lpModuleName)
         return kMainProgram;
     ktqtbase::useUtf8Locale();
     NarrowText name(lpModuleName);
-    if (!name.converted() || name.length() >= ktqtbase::kTextRoom)
+    if (!name.converted())
         return nullptr;
     dropDllSuffix(name.data());
     return openMapped("", 0, name.c_str());

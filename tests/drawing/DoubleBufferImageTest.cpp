@@ -232,6 +232,8 @@ const SizeRow kRefused[] = {
     {"negative width", -1, 50, 4},
     {"negative height", 100, -1, 4},
     {"negative bytes", 100, 50, -4},
+    {"negative width times 0", -1, 50, 0},
+    {"negative height times 0", 100, -1, 0},
     {"two negatives", -100, -50, 4},
     {"lowest numbers", INT_MIN, INT_MIN, INT_MIN},
     {"2^31 bytes", 1 << 15, 1 << 14, 4},

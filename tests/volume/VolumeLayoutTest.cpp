@@ -4,7 +4,7 @@
 // are compiled against both.
 #include <KtQtBase/VolumeDescriptor.h>
 
-#include "support/VirtualTable.h"
+#include "support/DestructorSlots.h"
 #include "volume/PlainVolume.h"
 
 #include <gtest/gtest.h>
@@ -16,6 +16,7 @@
 namespace {
 
 using ktqtbase::test::callSlot;
+using ktqtbase::test::expectDestructorInTheFirstSlots;
 using Text = CStdStr<wchar_t>;
 using Volume = CRbUiVolumeDescriptor;
 
@@ -81,41 +82,10 @@ TEST(VolumeSlots, FollowTheDeclaredOrder)
     EXPECT_EQ(called(15), "next");
 }
 
-// Notes what its destructor does. The memory that it is made in is nobody's to free.
-template<class Base>
-class DyingVolume : public Base
-{
-public:
-    static inline int destroyed = 0;
-    static inline int deleted = 0;
-
-    DyingVolume() : Base(L"C:") {}
-    ~DyingVolume() override { ++destroyed; }
-
-    static void* operator new(std::size_t, void* memory) { return memory; }
-    static void operator delete(void*) { ++deleted; }
-    static void operator delete(void*, void*) {}
-};
-
-template<class Base>
-void expectDestructorInTheFirstSlots()
-{
-    using Dying = DyingVolume<Base>;
-    Dying::destroyed = 0;
-    Dying::deleted = 0;
-    alignas(Dying) unsigned char memory[sizeof(Dying)];
-    callSlot<void>(*new (memory) Dying, 0);
-    EXPECT_EQ(Dying::destroyed, 1);
-    EXPECT_EQ(Dying::deleted, 0);
-    callSlot<void>(*new (memory) Dying, 1);
-    EXPECT_EQ(Dying::destroyed, 2);
-    EXPECT_EQ(Dying::deleted, 1);
-}
-
 TEST(VolumeSlots, BeginWithTheTwoFormsOfTheDestructor)
 {
-    expectDestructorInTheFirstSlots<PlainVolume>();
-    expectDestructorInTheFirstSlots<CRbUiNTFSVolumeDescriptor>();
+    expectDestructorInTheFirstSlots<PlainVolume>(L"C:");
+    expectDestructorInTheFirstSlots<CRbUiNTFSVolumeDescriptor>(L"C:");
 }
 
 class RecordingNtfsVolume : public CRbUiNTFSVolumeDescriptor

@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: MIT
+#include "support/DestructorSlots.h"
 #include "support/RowName.h"
-#include "support/VirtualTable.h"
 
 #include <KtQtBase/Messages.h>
 #include <KtQtBase/windows/Constants.h>
@@ -20,7 +20,6 @@
 
 namespace {
 
-using ktqtbase::test::callSlot;
 using ktqtbase::test::RowName;
 
 const int typeAtLoad = QKtMsgEvent::iKtMsgEventType;
@@ -194,32 +193,9 @@ TEST(QKtMsgEvent, HasItsFieldsInTheirOrder)
     EXPECT_EQ(sizeof event, sizeof twin);
 }
 
-// Notes what its destructor does. The memory that it is made in is nobody's to free.
-class DyingMessage : public QKtMsgEvent
-{
-public:
-    static inline int destroyed = 0;
-    static inline int deleted = 0;
-
-    DyingMessage() : QKtMsgEvent(1, 2, 3) {}
-    ~DyingMessage() override { ++destroyed; }
-
-    static void* operator new(std::size_t, void* memory) { return memory; }
-    static void operator delete(void*) { ++deleted; }
-    static void operator delete(void*, void*) {}
-};
-
 TEST(QKtMsgEvent, HasTheTwoFormsOfItsDestructorInTheFirstSlots)
 {
-    DyingMessage::destroyed = 0;
-    DyingMessage::deleted = 0;
-    alignas(DyingMessage) unsigned char memory[sizeof(DyingMessage)];
-    callSlot<void>(*new (memory) DyingMessage, 0);
-    EXPECT_EQ(DyingMessage::destroyed, 1);
-    EXPECT_EQ(DyingMessage::deleted, 0);
-    callSlot<void>(*new (memory) DyingMessage, 1);
-    EXPECT_EQ(DyingMessage::destroyed, 2);
-    EXPECT_EQ(DyingMessage::deleted, 1);
+    ktqtbase::test::expectDestructorInTheFirstSlots<QKtMsgEvent>(1u, WPARAM(2), LPARAM(3));
 }
 
 TEST(QKtMsgEvent, HasTheNextTypeThatQtChooses)
