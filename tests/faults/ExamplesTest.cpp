@@ -45,6 +45,7 @@ public:
                    const fs::path& below)
     {
         environment.insert("LD_PRELOAD", FAULT_CALLS);
+        environment.insert("LD_LIBRARY_PATH", FAULT_CALLS_FOLDER);
         // The sanitizer wants to be the first library, and works as the second one.
         environment.insert("ASAN_OPTIONS", "verify_asan_link_order=0:detect_leaks=0");
         environment.insert("KTFAULT_CALL", row.call);

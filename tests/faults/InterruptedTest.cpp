@@ -111,6 +111,7 @@ protected:
         const fs::path mark = m_log / "mark";
         fs::remove(mark);
         QStringList arguments{"LD_PRELOAD=" FAULT_CALLS,
+                              "LD_LIBRARY_PATH=" FAULT_CALLS_FOLDER,
                               "ASAN_OPTIONS=verify_asan_link_order=0:detect_leaks=0",
                               QString("KTFAULT_CALL=%1").arg(call),
                               QString("KTFAULT_AT=%1").arg(n),

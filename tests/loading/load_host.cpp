@@ -12,6 +12,7 @@
 
 #include <QtWidgets/QApplication>
 
+#include <clocale>
 #include <cstdio>
 #include <cstdlib>
 #include <memory>
@@ -129,6 +130,8 @@ int main(int argc, char** argv)
 {
     if (argc != 5)
         return 2;
+    // The program's own path may have letters beyond ASCII.
+    std::setlocale(LC_CTYPE, "C.UTF-8");
     const int rounds = std::atoi(argv[2]);
     Host host{argv[1], argv[3], argv[4], argc, argv};
     g_paints = host.how == "paint";
