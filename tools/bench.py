@@ -16,6 +16,8 @@ import statistics
 import subprocess
 import sys
 
+import bench_page
+
 UNITS = {"KB": 1024, "MB": 1024 ** 2, "K": 1000}
 NANOSECONDS = {"ns": 1, "us": 1e3, "ms": 1e6, "s": 1e9}
 
@@ -30,6 +32,8 @@ def parse_arguments():
     parser.add_argument("--only", default="", help="measure the works that match this expression")
     parser.add_argument("--markdown", type=pathlib.Path,
                         help="put the table between the marks of this file, the plot beside it")
+    parser.add_argument("--html", action="store_true",
+                        help="write the results as a page, bench.html in the build's folder")
     return parser.parse_args()
 
 
@@ -189,6 +193,19 @@ def markdown_table(results):
     return "\n".join("| " + " | ".join(line) + " |" for line in lines) + "\n"
 
 
+def context(build):
+    """What a benchmark program told of the machine; one that ran nothing told nothing."""
+    outs = [build / f"{program.name}-all.json" for program in programs(build)]
+    return next(json.loads(out.read_text())["context"] for out in outs if out.read_text())
+
+
+def write_page(arguments, goals, results):
+    plot = (arguments.build / "growth.svg").read_text()
+    out = arguments.build / "bench.html"
+    out.write_text(bench_page.page(goals, results, cells, context(arguments.build), plot))
+    print(f"The page is {out}.\n")
+
+
 def write_results(arguments, rows, results):
     growth = {row["work"] for row in results if row["group"] == "growth"}
     points = {work: {} for work in sorted(growth)}
@@ -221,6 +238,8 @@ def main():
     goals = json.loads(arguments.goals.read_text())
     rows, results = judge_twice(arguments, goals)
     write_results(arguments, rows, results)
+    if arguments.html:
+        write_page(arguments, goals, results)
     print(text_table(results))
     misses = sum(missed(row) for row in results)
     print(f"\n{len(results) - misses} of {len(results)} goals met")
