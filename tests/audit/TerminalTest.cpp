@@ -29,7 +29,7 @@ std::string shownOn(const Terminal& terminal, const QString& variable, const QSt
     process->setProcessEnvironment(environment);
     process->setStandardOutputFile(terminal.name());
     process.start(AUDIT, {"--catalogue", AUDIT_CATALOGUE, text(folder / "main.cpp")});
-    process->waitForFinished();
+    process->waitForFinished(ChildProcess::kPatience);
     return terminal.text();
 }
 

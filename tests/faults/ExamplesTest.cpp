@@ -141,7 +141,7 @@ GalleryRun runGallery(const fs::path& folder, const QStringList& arguments,
     process->setWorkingDirectory(folder.c_str());
     process->setProcessEnvironment(environment);
     GalleryRun run;
-    if (process.start() && process->waitForFinished(30000) &&
+    if (process.start() && process->waitForFinished(ChildProcess::kPatience) &&
         process->exitStatus() == QProcess::NormalExit)
         run.status = process->exitCode();
     run.err = process->readAllStandardError().toStdString();

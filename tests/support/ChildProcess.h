@@ -14,6 +14,10 @@
 class ChildProcess
 {
 public:
+    // How long to wait for what comes at once, in milliseconds: a sanitizer, an emulator and other
+    // work on the machine slow a program down many times. CTest ends a test that hangs.
+    static constexpr int kPatience = 240000;
+
     ChildProcess() : m_process(new QProcess) {}
     ChildProcess(const ChildProcess&) = delete;
     ChildProcess& operator=(const ChildProcess&) = delete;
@@ -51,7 +55,7 @@ public:
         if (!isThere())
             return;
         m_process->kill();
-        m_process->waitForFinished();
+        m_process->waitForFinished(kPatience);
     }
 
 private:

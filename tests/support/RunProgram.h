@@ -27,7 +27,8 @@ inline ProgramResult runProgram(const char* program, const QStringList& argument
         return result;
     process->write(input);
     process->closeWriteChannel();
-    if (process->waitForFinished(60000) && process->exitStatus() == QProcess::NormalExit)
+    if (process->waitForFinished(ChildProcess::kPatience) &&
+        process->exitStatus() == QProcess::NormalExit)
         result.status = process->exitCode();
     result.out = process->readAllStandardOutput().toStdString();
     result.err = process->readAllStandardError().toStdString();

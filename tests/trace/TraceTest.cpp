@@ -228,10 +228,10 @@ TEST(Trace, PassesASignalOnAndTellsWhatWasCalled)
 {
     ChildProcess process;
     ASSERT_TRUE(process.start(KTQT_TRACE, {TRACE_CALLS, "close", "2", "wait"}));
-    while (!process->canReadLine() && process->waitForReadyRead(30000)) {
+    while (!process->canReadLine() && process->waitForReadyRead(ChildProcess::kPatience)) {
     }
     kill(static_cast<pid_t>(process->processId()), SIGTERM);
-    ASSERT_TRUE(process->waitForFinished(30000));
+    ASSERT_TRUE(process->waitForFinished(ChildProcess::kPatience));
     EXPECT_EQ(process->exitCode(), 128 + SIGTERM);
     EXPECT_THAT(process->readAllStandardError().toStdString(), HasSubstr("CloseHandle"));
 }

@@ -34,7 +34,7 @@ std::string shownOn(const Terminal& terminal, const QStringList& arguments)
     ChildProcess process;
     process->setStandardOutputFile(terminal.name());
     EXPECT_TRUE(process.start(NAMEINFO, arguments));
-    EXPECT_TRUE(process->waitForFinished());
+    EXPECT_TRUE(process->waitForFinished(ChildProcess::kPatience));
     return terminal.text();
 }
 

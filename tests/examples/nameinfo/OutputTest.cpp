@@ -91,7 +91,7 @@ TEST(Nameinfo, TellsSomebodyAtATerminalHowFarItIs)
     timer.start();
     ASSERT_TRUE(process.start(NAMEINFO, {"--csv", "--list", "-"}));
     std::string shown;
-    while (shown.empty() && timer.elapsed() < 60000) {
+    while (shown.empty() && timer.elapsed() < ChildProcess::kPatience) {
         process->write("/tmp\n");
         process->waitForReadyRead(50);
         shown = terminal.text();
@@ -99,7 +99,7 @@ TEST(Nameinfo, TellsSomebodyAtATerminalHowFarItIs)
     EXPECT_GE(timer.elapsed(), 2000);
     EXPECT_THAT(shown, MatchesRegex("\r\033\\[K[0-9]+ names answered"));
     process->closeWriteChannel();
-    EXPECT_TRUE(process->waitForFinished());
+    EXPECT_TRUE(process->waitForFinished(ChildProcess::kPatience));
     EXPECT_THAT(terminal.text(), MatchesRegex("(\r\033\\[K[0-9]+ names answered)*\r\033\\[K"));
 }
 
@@ -109,7 +109,7 @@ TEST(Nameinfo, SaysNothingOfAShortRun)
     ChildProcess process;
     process->setStandardErrorFile(terminal.name());
     ASSERT_TRUE(process.start(NAMEINFO, {"--csv", "--list", NAMES_LIST}));
-    EXPECT_TRUE(process->waitForFinished());
+    EXPECT_TRUE(process->waitForFinished(ChildProcess::kPatience));
     EXPECT_EQ(terminal.text(), "");
 }
 

@@ -83,7 +83,7 @@ TEST(Nameinfo, AsksTheTerminalBeforeTheEnvironment)
     process->setStandardOutputFile(terminal.name());
     ASSERT_TRUE(
         process.start("/usr/bin/env", {"COLUMNS=200", NAMEINFO, "--list", SHORT_NAMES_LIST}));
-    EXPECT_TRUE(process->waitForFinished());
+    EXPECT_TRUE(process->waitForFinished(ChildProcess::kPatience));
     EXPECT_THAT(widthsOf(terminal.text()), Each(Le(60)));
 }
 

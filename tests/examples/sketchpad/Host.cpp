@@ -15,7 +15,7 @@ QString toQt(const fs::path& path)
 SessionResult run(ChildProcess& process)
 {
     SessionResult result;
-    if (process.start() && process->waitForFinished(30000) &&
+    if (process.start() && process->waitForFinished(ChildProcess::kPatience) &&
         process->exitStatus() == QProcess::NormalExit)
         result.status = process->exitCode();
     process.end();

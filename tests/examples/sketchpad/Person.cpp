@@ -13,7 +13,6 @@
 
 namespace {
 
-constexpr int kPatience = 10000;
 constexpr int kMoveSteps = 4;
 
 QString xdotool(const QStringList& arguments)
@@ -50,7 +49,7 @@ bool Person::waitFor(const std::function<bool()>& condition)
     QElapsedTimer timer;
     timer.start();
     while (!condition()) {
-        if (timer.elapsed() > kPatience)
+        if (timer.elapsed() > ChildProcess::kPatience)
             return false;
         QThread::msleep(20);
     }
@@ -69,7 +68,7 @@ bool Person::waitForTitle(const QString& end) const
 
 bool Person::waitForEnd(int status)
 {
-    return m_program->waitForFinished(kPatience) && m_program->exitCode() == status;
+    return m_program->waitForFinished(ChildProcess::kPatience) && m_program->exitCode() == status;
 }
 
 bool Person::waitForBox() const

@@ -206,7 +206,7 @@ TEST(SketchpadScript, IsRefusedWhereItCannotBeRead)
     const Host host;
     ChildProcess process;
     host.prepare(*process, {"--script", "none"});
-    ASSERT_TRUE(process.start() && process->waitForFinished());
+    ASSERT_TRUE(process.start() && process->waitForFinished(ChildProcess::kPatience));
     EXPECT_EQ(process->exitCode(), 2);
     EXPECT_THAT(process->readAllStandardError().toStdString(), HasSubstr("none cannot be read"));
 }
@@ -225,7 +225,7 @@ TEST(SketchpadProgram, TellsItsUsageWithoutADisplay)
     QProcessEnvironment environment = process->processEnvironment();
     environment.insert("QT_QPA_PLATFORM", "none");
     process->setProcessEnvironment(environment);
-    ASSERT_TRUE(process.start() && process->waitForFinished());
+    ASSERT_TRUE(process.start() && process->waitForFinished(ChildProcess::kPatience));
     EXPECT_EQ(process->exitCode(), 0);
     EXPECT_THAT(process->readAllStandardOutput().toStdString(), StartsWith("Usage: sketchpad"));
 }
