@@ -5,7 +5,7 @@
     tools/catalogue-tables.py [--update] FILE...
 
 A table of inert calls stands under a comment, <!-- inert: all -->, or <!-- inert: NAME NAME --> for a
-few; the counts of names stand in the table under <!-- counts -->, as the second cell of each row.
+few, and so one of what differs, <!-- differs: all -->; the counts of names stand in the table under <!-- counts -->, as the second cell of each row.
 Prints each file with a table that is not so and fails; --update writes the tables instead.
 
 Needs Python 3 and nothing else.
@@ -18,10 +18,12 @@ import re
 import sys
 
 CATALOGUE = pathlib.Path(__file__).resolve().parent.parent / "catalogue"
-HEAD = "| Call | What it does here | Instead |\n|---|---|---|\n"
-INERT = re.compile(r"(<!-- inert: ([\w: ]+?) -->\n)((?:\|.*\n)*)")
+HEADS = {"inert": "| Call | What it does here | Instead |\n|---|---|---|\n",
+         "differs": "| Name | On Windows | Instead |\n|---|---|---|\n"}
+SAID = {"inert": "here", "differs": "windows"}
+TABLE = re.compile(r"(<!-- (inert|differs): ([\w: ]+?) -->\n)((?:\|.*\n)*)")
 COUNTS = re.compile(r"(<!-- counts -->\n)((?:\|.*\n)*)")
-COUNT = re.compile(r"^\| (works|differs|inert|not here) \| [\d,]+ ", re.MULTILINE)
+COUNT = re.compile(r"^\| (works|differs|inert|not here) \| [\d,]+ \| [\d,]* ?", re.MULTILINE)
 
 
 def read_entries():
@@ -41,9 +43,11 @@ def windows_names():
 
 
 def counts(entries):
-    found = collections.Counter(entry["status"] for entry in entries)
+    """How many names have a status: those of functions and methods, and the others."""
+    found = collections.Counter(
+        (entry["status"], entry["kind"] in ("function", "method")) for entry in entries)
     here = {entry["name"] for entry in entries}
-    found["not here"] = sum(not {name, name + "W"} & here for name in windows_names())
+    found["not here", True] = sum(not {name, name + "W"} & here for name in windows_names())
     return found
 
 
@@ -51,26 +55,33 @@ def full_name(entry):
     return "::".join(filter(None, (entry["scope"], entry["name"])))
 
 
-def inert_calls(entries):
-    """The entries by their full names, those of one family together."""
+def names_with(status, entries):
+    """The entries of a status by their full names, those of one family together."""
     return {full_name(entry): entry for entry in entries
-            if entry["status"] == "inert" and not entry.get("porting")}
+            if entry["status"] == status and not entry.get("porting")}
 
 
 def row(entry):
-    return f"| `{full_name(entry)}` | {entry['here']} | {entry['instead']} |\n"
+    said = entry[SAID[entry["status"]]].replace("|", "\\|")
+    return f"| `{full_name(entry)}` | {said} | {entry['instead']} |\n"
 
 
-def inert_table(names, calls):
-    entries = calls.values() if names == "all" else [calls[name] for name in names.split()]
-    return HEAD + "".join(map(row, entries))
+def table(status, names, entries):
+    found = names_with(status, entries)
+    chosen = found.values() if names == "all" else [found[name] for name in names.split()]
+    return HEADS[status] + "".join(map(row, chosen))
+
+
+def count(status, found):
+    others = f"{found[status, False]:,} " if status != "not here" else ""
+    return f"| {status} | {found[status, True]:,} | {others}"
 
 
 def with_tables(text, entries):
-    calls, found = inert_calls(entries), counts(entries)
-    text = INERT.sub(lambda match: match[1] + inert_table(match[2], calls), text)
-    return COUNTS.sub(lambda table: COUNT.sub(
-        lambda match: f"| {match[1]} | {found[match[1]]:,} ", table[0]), text)
+    found = counts(entries)
+    text = TABLE.sub(lambda match: match[1] + table(match[2], match[3], entries), text)
+    return COUNTS.sub(
+        lambda match: COUNT.sub(lambda line: count(line[1], found), match[0]), text)
 
 
 def arguments():
@@ -87,7 +98,7 @@ def main():
     for path in given.files:
         text = path.read_text(encoding="utf-8")
         wanted = with_tables(text, entries)
-        has_table = INERT.search(text) or COUNTS.search(text)
+        has_table = TABLE.search(text) or COUNTS.search(text)
         if not has_table or wanted != text and not given.update:
             print(f"{path}: its table is not the catalogue's: tools/catalogue-tables.py --update {path}")
             stale = 1

@@ -6,7 +6,7 @@
 //     dialog.GetOFN().lpstrTitle = L"Import";
 //     dialog.GetOFN().lpstrFilter = L"Text (*.txt);;All files (*)";
 //     dialog.GetOFN().nFilterIndex = 1;
-//     dialog.GetOFN().lpstrInitialDir = L"C:\\data\\in";
+//     dialog.GetOFN().lpstrInitialDir = L"/data/in";
 //     if (dialog.DoModal() == IDOK) {
 //         POSITION pos = dialog.GetStartPosition();
 //         while (pos)
@@ -103,9 +103,9 @@ public:
     // Shows the dialog and waits until the user closes it.
     // Result: IDOK (1) if the user accepted; IDCANCEL (2) for any other end, also if the parent
     // died meanwhile or the program has no QApplication. Then the former selection stays.
+    // Qt asks the user before a file is replaced, whatever the flags say.
     // Kept: other windows take input meanwhile. Part of the interface.
-    // On Windows: the parent is disabled, and if the flags say so, the user is asked before a file
-    // is replaced.
+    // On Windows: the parent is disabled, and the user is asked only if the flags say so.
     int DoModal();
 
     // Sets path name, file name and extension from the first selected file, and the block's

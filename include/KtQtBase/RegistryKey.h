@@ -3,7 +3,7 @@
 // Registry keys, kept in the user's Qt settings.
 //
 //     CRegKey key;
-//     key.Create(HKEY_CURRENT_USER, L"Software\\App\\Options");
+//     key.Create(HKEY_CURRENT_USER, L"Software/App/Options");
 //     key.SetValue(L"7", L"Count");
 //
 //     wchar_t text[11] = {};      // zeros: QueryValue writes no terminator

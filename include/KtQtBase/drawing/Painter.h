@@ -64,7 +64,8 @@ public:
     // Result: the device, or null.
     QPaintDevice* wrappedDevice() const;
 
-    // Result: the painter, never null; it belongs to the wrapper.
+    // Result: the painter, never null. The wrapper made it and never deletes it, so that pointers to it
+    // stay valid: a host that makes many wrappers deletes it once the wrapper is gone.
     QPainter* wrappedPainter() const;
 
     // Starts painting: a solid black pen of width 0 (one pixel under any transformation), a solid

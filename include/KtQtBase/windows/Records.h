@@ -48,6 +48,7 @@ struct RECT
 };
 
 // A RECT with constructors, 16 bytes. The four values are stored as passed, never put in order.
+// On Windows: with many more members, such as Width; Porting.h adds its operators.
 class CRect : public RECT
 {
 public:

@@ -57,6 +57,7 @@ using HKEY = struct HKEY__*;
 using POSITION = struct POSITION__*;
 
 // The parent window of MFC-style signatures is a Qt widget.
+// On Windows: a class of MFC, with its own members; here a window has those of QWidget.
 using CWnd = QWidget;
 
 #endif
