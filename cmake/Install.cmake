@@ -1,6 +1,6 @@
 # SPDX-License-Identifier: MIT
-# What `cmake --install` installs: the libraries, their headers, what CMake and pkg-config find them by,
-# the catalogue and what debuggers load. No installed file holds the prefix, so a host may
+# What `cmake --install` installs: the libraries, their headers, what CMake, pkg-config and qmake find
+# them by, the catalogue and what debuggers load. No installed file holds the prefix, so a host may
 # move them.
 
 include(CMakePackageConfigHelpers)
@@ -60,3 +60,7 @@ file(RELATIVE_PATH KTQTBASE_PC_INCLUDEDIR
     ${KTQTBASE_FULL_PC_DIR} ${CMAKE_INSTALL_FULL_INCLUDEDIR})
 configure_file(cmake/KtQtBase.pc.in ${PROJECT_BINARY_DIR}/KtQtBase.pc @ONLY)
 install(FILES ${PROJECT_BINARY_DIR}/KtQtBase.pc DESTINATION ${KTQTBASE_PC_DIR})
+
+# What a project of qmake includes; it is as deep as the pkg-config module.
+configure_file(cmake/KtQtBase.pri.in ${PROJECT_BINARY_DIR}/KtQtBase.pri @ONLY)
+install(FILES ${PROJECT_BINARY_DIR}/KtQtBase.pri DESTINATION ${CMAKE_INSTALL_LIBDIR}/KtQtBase)
