@@ -1,0 +1,5 @@
+# SPDX-License-Identifier: MIT
+# What is the same with each compiler and each sanitizer, so that one kind of build tests it. What
+# needs a program that is not installed is left out.
+
+add_installed_test(Package.AnswersEachFormOfFindPackage RunProject.cmake -DPROJECT=asking)
