@@ -3,3 +3,5 @@
 # needs a program that is not installed is left out.
 
 add_installed_test(Package.AnswersEachFormOfFindPackage RunProject.cmake -DPROJECT=asking)
+add_installed_test(Consumer.IsCompiledInManyWays RunProject.cmake -DPROJECT=variants)
+add_installed_test(Consumer.SharesTheLibraryBetweenItsParts RunProject.cmake -DPROJECT=together)
