@@ -5,3 +5,6 @@
 add_installed_test(Package.AnswersEachFormOfFindPackage RunProject.cmake -DPROJECT=asking)
 add_installed_test(Consumer.IsCompiledInManyWays RunProject.cmake -DPROJECT=variants)
 add_installed_test(Consumer.SharesTheLibraryBetweenItsParts RunProject.cmake -DPROJECT=together)
+add_consumer_test(Consumer.FetchesTheContent RunSubdirectory.cmake -DPROJECT=fetched)
+add_consumer_test(Consumer.IsAddedByAFunction RunSubdirectory.cmake
+    -DPROJECT=fetched -DBY_FUNCTION=ON)
