@@ -8,3 +8,9 @@ add_installed_test(Consumer.SharesTheLibraryBetweenItsParts RunProject.cmake -DP
 add_consumer_test(Consumer.FetchesTheContent RunSubdirectory.cmake -DPROJECT=fetched)
 add_consumer_test(Consumer.IsAddedByAFunction RunSubdirectory.cmake
     -DPROJECT=fetched -DBY_FUNCTION=ON)
+
+find_program(KTQTBASE_MESON meson)
+if(KTQTBASE_MESON)
+    add_installed_test(Consumer.FindsTheInstalledLibraryByMeson RunMeson.cmake
+        -DMESON=${KTQTBASE_MESON})
+endif()
