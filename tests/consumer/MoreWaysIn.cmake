@@ -14,3 +14,9 @@ if(KTQTBASE_MESON)
     add_installed_test(Consumer.FindsTheInstalledLibraryByMeson RunMeson.cmake
         -DMESON=${KTQTBASE_MESON})
 endif()
+
+find_program(KTQTBASE_CLANG clang++)
+find_path(KTQTBASE_GNUSTEP Foundation/Foundation.h PATHS /usr/include/GNUstep)
+if(APPLE OR (KTQTBASE_CLANG AND KTQTBASE_GNUSTEP))
+    add_installed_test(Consumer.HasObjectiveCSources RunProject.cmake -DPROJECT=objcxx)
+endif()
