@@ -3,6 +3,7 @@
 # needs a program that is not installed is left out.
 
 add_installed_test(Package.AnswersEachFormOfFindPackage RunProject.cmake -DPROJECT=asking)
+add_consumer_test(Package.HasALibraryFolderOfTwoLevels RunDeepFolder.cmake)
 add_installed_test(Consumer.IsCompiledInManyWays RunProject.cmake -DPROJECT=variants)
 add_installed_test(Consumer.SharesTheLibraryBetweenItsParts RunProject.cmake -DPROJECT=together)
 add_consumer_test(Consumer.FetchesTheContent RunSubdirectory.cmake -DPROJECT=fetched)

@@ -3,7 +3,8 @@
 // What each part of the program tells, and does for the others.
 #pragma once
 
-#include <KtQtBase/KtQtBase.h>
+#include <KtQtBase/Messages.h>
+#include <KtQtBase/PathName.h>
 
 struct Part
 {
