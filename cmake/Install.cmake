@@ -1,6 +1,7 @@
 # SPDX-License-Identifier: MIT
-# What `cmake --install` installs: the libraries, their headers, the CMake package, the
-# pkg-config module, the catalogue and what debuggers load. No installed file holds the prefix, so a host may move them.
+# What `cmake --install` installs: the libraries, their headers, what CMake, pkg-config and qmake find
+# them by, the catalogue and what debuggers load. No installed file holds the prefix, so a host may
+# move them.
 
 include(CMakePackageConfigHelpers)
 
@@ -23,8 +24,9 @@ include(cmake/InstallDebugger.cmake)
 
 # A host's own OS-base library is not installed; the package only names its place.
 if(KTQTBASE_HOST_OSBASE)
-    set(KTQTBASE_PC_OSBASE_LIBS "${KTQTBASE_HOST_OSBASE}")
-    set(KTQTBASE_PC_OSBASE_CFLAGS "-I${KTQTBASE_HOST_OSBASE_INCLUDE}")
+    # A blank would end the name.
+    string(REPLACE " " "\\ " KTQTBASE_PC_OSBASE_LIBS "${KTQTBASE_HOST_OSBASE}")
+    string(REPLACE " " "\\ " KTQTBASE_PC_OSBASE_CFLAGS "-I${KTQTBASE_HOST_OSBASE_INCLUDE}")
 else()
     set(KTQTBASE_PC_OSBASE_LIBS "-lKtOsBase")
     install(TARGETS KtOsBase EXPORT KtOsBaseTargets)
@@ -49,10 +51,16 @@ install(FILES
     ${PROJECT_BINARY_DIR}/KtQtBaseConfigVersion.cmake
     DESTINATION ${KTQTBASE_CMAKE_DIR})
 
-# The library folder may be one or two levels deep, so the relative path to the prefix is computed.
-file(RELATIVE_PATH KTQTBASE_PC_PREFIX
-    ${CMAKE_INSTALL_FULL_LIBDIR}/pkgconfig ${CMAKE_INSTALL_PREFIX})
-file(RELATIVE_PATH KTQTBASE_PC_LIBDIR ${CMAKE_INSTALL_PREFIX} ${CMAKE_INSTALL_FULL_LIBDIR})
-file(RELATIVE_PATH KTQTBASE_PC_INCLUDEDIR ${CMAKE_INSTALL_PREFIX} ${CMAKE_INSTALL_FULL_INCLUDEDIR})
+# The library folder may be one or two levels deep, so relative paths are computed. Some versions of
+# pkg-config put a prefix of their own in place of the module's one, and count one level for it; so
+# the other folders are relative to the module itself.
+set(KTQTBASE_FULL_PC_DIR ${CMAKE_INSTALL_FULL_LIBDIR}/pkgconfig)
+file(RELATIVE_PATH KTQTBASE_PC_PREFIX ${KTQTBASE_FULL_PC_DIR} ${CMAKE_INSTALL_PREFIX})
+file(RELATIVE_PATH KTQTBASE_PC_INCLUDEDIR
+    ${KTQTBASE_FULL_PC_DIR} ${CMAKE_INSTALL_FULL_INCLUDEDIR})
 configure_file(cmake/KtQtBase.pc.in ${PROJECT_BINARY_DIR}/KtQtBase.pc @ONLY)
 install(FILES ${PROJECT_BINARY_DIR}/KtQtBase.pc DESTINATION ${KTQTBASE_PC_DIR})
+
+# What a project of qmake includes; it is as deep as the pkg-config module.
+configure_file(cmake/KtQtBase.pri.in ${PROJECT_BINARY_DIR}/KtQtBase.pri @ONLY)
+install(FILES ${PROJECT_BINARY_DIR}/KtQtBase.pri DESTINATION ${CMAKE_INSTALL_LIBDIR}/KtQtBase)

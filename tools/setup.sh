@@ -29,16 +29,16 @@ named_packages() {
         dnf:build) echo gcc-c++ cmake ninja-build pkgconf-pkg-config dejavu-sans-fonts ;;
         pacman:build) echo gcc cmake ninja pkgconf ttf-dejavu ;;
         zypper:build) echo gcc-c++ cmake ninja pkg-config dejavu-fonts ;;
-        # poppler-utils reads printed pages, Python the headers, gdb a host's memory, and locales has
-        # the sources of locales; the packages after them show the tests' windows on an invisible
-        # display.
-        apt:test) echo libgtest-dev libgmock-dev poppler-utils python3 gdb locales xvfb xauth \
+        # poppler-utils reads printed pages, Python the headers, gdb a host's memory, Meson builds a
+        # host, and locales has the sources of locales; the packages after them show the tests'
+        # windows on an invisible display.
+        apt:test) echo libgtest-dev libgmock-dev poppler-utils python3 gdb meson locales xvfb xauth \
             openbox xdotool ;;
-        brew:test) echo googletest poppler python3 ;;
-        dnf:test) echo gtest-devel gmock-devel poppler-utils python3 gdb glibc-locale-source \
+        brew:test) echo googletest poppler python3 meson ;;
+        dnf:test) echo gtest-devel gmock-devel poppler-utils python3 gdb meson glibc-locale-source \
             xorg-x11-server-Xvfb openbox xdotool ;;
-        pacman:test) echo gtest poppler python gdb xorg-server-xvfb xorg-xauth openbox xdotool ;;
-        zypper:test) echo gtest gmock poppler-tools python3 gdb glibc-i18ndata \
+        pacman:test) echo gtest poppler python gdb meson xorg-server-xvfb xorg-xauth openbox xdotool ;;
+        zypper:test) echo gtest gmock poppler-tools python3 gdb meson glibc-i18ndata \
             xorg-x11-server-Xvfb xauth openbox xdotool ;;
         # ktqt-trace is made by Python. Everything behind LLVM and Clang makes the programs that the
         # tests of ktqt-audit read.

@@ -98,20 +98,22 @@ public:
     bool LoadString(unsigned int id);
 };
 
-// Defined in the header: a call into the library would cost as much as the copy of a short text.
+// Defined in the header: a call into the library would cost as much as the copy of a short text. The
+// brackets are for hosts with macros named min and max.
 template<class T>
 CStdStr<T> CStdStr<T>::Mid(int first, int count) const
 {
-    const std::size_t start = std::min(static_cast<std::size_t>(std::max(first, 0)), this->size());
-    const std::size_t wanted = static_cast<std::size_t>(std::max(count, 0));
-    return CStdStr(this->data() + start, std::min(wanted, this->size() - start));
+    const std::size_t start =
+        (std::min)(static_cast<std::size_t>((std::max)(first, 0)), this->size());
+    const std::size_t wanted = static_cast<std::size_t>((std::max)(count, 0));
+    return CStdStr(this->data() + start, (std::min)(wanted, this->size() - start));
 }
 
 template<class T>
 CStdStr<T> CStdStr<T>::Left(int count) const
 {
-    const std::size_t wanted = static_cast<std::size_t>(std::max(count, 0));
-    return CStdStr(this->data(), std::min(wanted, this->size()));
+    const std::size_t wanted = static_cast<std::size_t>((std::max)(count, 0));
+    return CStdStr(this->data(), (std::min)(wanted, this->size()));
 }
 
 // The operations are compiled once, in the library, and for the wide string only.

@@ -5,7 +5,7 @@
 include(${CMAKE_CURRENT_LIST_DIR}/ConfigureHost.cmake)
 
 file(REMOVE_RECURSE ${WORK_DIR})
-configure_host(${CMAKE_CURRENT_LIST_DIR}/strict ${WORK_DIR} ${BUILD_DIR})
+configure_host(${CMAKE_CURRENT_LIST_DIR}/strict ${WORK_DIR} -DKtQtBase_DIR=${BUILD_DIR})
 execute_process(COMMAND ${CMAKE_COMMAND} --build ${WORK_DIR}
     OUTPUT_VARIABLE said ERROR_VARIABLE said COMMAND_ERROR_IS_FATAL ANY)
 string(REGEX MATCHALL "main.cpp:[0-9]+:[0-9]+: warning: [^\n]*" warnings "${said}")

@@ -38,8 +38,9 @@ constexpr int MulDiv(int number, int numerator, int denominator)
     const long long product = static_cast<long long>(number) * numerator;
     const long long half = (denominator < 0 ? -1LL * denominator : denominator) / 2;
     const long long result = (product < 0 ? product - half : product + half) / denominator;
+    // The brackets are for hosts with macros named min and max.
     const bool fits =
-        result >= std::numeric_limits<int>::min() && result <= std::numeric_limits<int>::max();
+        result >= (std::numeric_limits<int>::min)() && result <= (std::numeric_limits<int>::max)();
     return fits ? static_cast<int>(result) : -1;
 }
 
