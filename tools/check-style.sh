@@ -28,7 +28,7 @@ platform_conditionals() {
 # keep the pattern from being taken for the notice of this file.
 unlicensed() {
     git ls-files -z '*.h' '*.cpp' '*.mm' '*.cmake' '*CMakeLists.txt' '*.in' '*.sh' '*.py' \
-        '*.mjs' '*.yml' run .ci/run |
+        '*.mjs' '*.yml' '*.build' '*.pro' run .ci/run |
         xargs -0 awk 'FNR == 1 { seen = 0 } /SPDX-License-Identifier[:] MIT/ { seen = 1 }
             FNR == 2 && !seen { print FILENAME }'
 }

@@ -4,6 +4,7 @@
 # name. Plain debug builds, many sources at once: what is asked here is which library was linked, and
 # anything else would only slow that down.
 
+include(${CMAKE_CURRENT_LIST_DIR}/BuildByQmake.cmake)
 set(host_source ${CMAKE_CURRENT_LIST_DIR}/host)
 set(prefix ${WORK_DIR}/prefix)
 set(osbase "${WORK_DIR}/os base")
@@ -57,3 +58,8 @@ execute_process(COMMAND ${COMPILER} -std=c++17 ${host_source}/program/main.cpp
     -o ${WORK_DIR}/plain ${flags}
     -Wl,-rpath,${osbase} -Wl,-rpath,${prefix}/${LIBDIR} COMMAND_ERROR_IS_FATAL ANY)
 execute_process(COMMAND ${WORK_DIR}/plain COMMAND_ERROR_IS_FATAL ANY)
+
+if(QMAKE)
+    build_by_qmake(${host_source}/program/host.pro ${WORK_DIR}/qmake ${prefix} "${BUILDERS_FLAGS}")
+    execute_process(COMMAND ${WORK_DIR}/qmake/host COMMAND_ERROR_IS_FATAL ANY)
+endif()
