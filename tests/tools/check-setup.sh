@@ -552,7 +552,7 @@ expect_installed() {
     expect_end "" "cmake --preset release -B build/install -DKTQTBASE_BUILD_TESTS=OFF\
  -DKTQTBASE_BUILD_EXAMPLES=OFF
 cmake --build build/install --parallel 2
-cmake --install build/install --prefix $1" 0
+cmake -DBUILD=$work/project/build/install -DPREFIX=$1 -P tools/install.cmake" 0
 }
 
 InstallsTheLibraryWithoutTests() {
@@ -573,6 +573,13 @@ InstallsNothingWithoutAPrefix() {
     play ./run install
     expect "What was called" "$(cat "$work/calls")" ""
     expect "The exit status" "$status" 2
+}
+
+UninstallsFromTheCallersFolder() {
+    lay_out_debian
+    mkdir "$work/elsewhere"
+    play bash -c 'cd ../elsewhere && ../project/run uninstall --prefix out'
+    expect_end "" "cmake -DPREFIX=$work/elsewhere/out -P tools/uninstall.cmake" 0
 }
 
 "$@"
