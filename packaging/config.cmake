@@ -1,0 +1,7 @@
+# SPDX-License-Identifier: MIT
+# Read by cpack before it makes the packages of a kind. A summary of the whole project would stand
+# above that of each .deb.
+
+if(CPACK_GENERATOR STREQUAL "DEB")
+    set(CPACK_PACKAGE_DESCRIPTION_SUMMARY "${CPACK_DEFAULT_PACKAGE_DESCRIPTION_SUMMARY}")
+endif()
