@@ -24,8 +24,10 @@ function(ktqtbase_describe component package)
     string(REGEX REPLACE "\n\n.*" "" text "${text}")
     string(REGEX REPLACE ".*\nDescription: " "" text "${text}")
     string(REGEX REPLACE "\n [.]?" "\n" text "${text}")
-    string(REGEX MATCH "^[^\n]*" summary "${text}")
-    string(REGEX REPLACE "^[^\n]*\n" "" long "${text}")
+    string(FIND "${text}" "\n" end)
+    string(SUBSTRING "${text}" 0 ${end} summary)
+    math(EXPR end "${end} + 1")
+    string(SUBSTRING "${text}" ${end} -1 long)
     set(CPACK_DEBIAN_${component}_DESCRIPTION "${text}" PARENT_SCOPE)
     set(CPACK_RPM_${component}_PACKAGE_SUMMARY "${summary}" PARENT_SCOPE)
     set(CPACK_RPM_${component}_PACKAGE_DESCRIPTION "${long}" PARENT_SCOPE)
@@ -84,7 +86,12 @@ set(CPACK_RPM_EXCLUDE_FROM_AUTO_FILELIST_ADDITION
     /usr/${CMAKE_INSTALL_LIBDIR} /usr/${CMAKE_INSTALL_LIBDIR}/cmake
     /usr/${CMAKE_INSTALL_LIBDIR}/pkgconfig /usr/share/gdb /usr/share/gdb/auto-load
     /usr/share/gdb/auto-load/usr /usr/share/gdb/auto-load/usr/${CMAKE_INSTALL_LIBDIR}
-    /usr/share/man/man3ktqt)
+    /usr/share/doc /usr/share/licenses /usr/share/man /usr/share/man/man1 /usr/share/man/man3)
+# The same sources give the same bytes, whoever builds them and when.
+set(CPACK_RPM_SPEC_MORE_DEFINE "%define packager ${KTQTBASE_PACKAGER}
+%define _buildhost localhost
+%define use_source_date_epoch_as_buildtime 1
+%define clamp_mtime_to_source_date_epoch 1")
 set(CPACK_RPM_RUNTIME_PACKAGE_NAME ${KTQTBASE_RUNTIME_PACKAGE})
 set(CPACK_RPM_RUNTIME_POST_INSTALL_SCRIPT_FILE ${PROJECT_SOURCE_DIR}/packaging/ldconfig.sh)
 set(CPACK_RPM_RUNTIME_POST_UNINSTALL_SCRIPT_FILE ${PROJECT_SOURCE_DIR}/packaging/ldconfig.sh)

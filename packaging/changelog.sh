@@ -3,7 +3,7 @@
 # Prints the changelog that Debian's tools read the version from: one entry, of this version, by
 # whoever packages it, at the time of the last change of the sources.
 #
-#     packaging/changelog.sh MAINTAINER
+#     packaging/changelog.sh
 set -euo pipefail
 cd "$(dirname "$0")/.."
 # shellcheck source=tools/files.sh
@@ -13,5 +13,5 @@ ktqtbase ($(project_version)-1) unstable; urgency=medium
 
   * Version $(project_version). CHANGELOG.md tells what is new.
 
- -- $1  $(LC_ALL=C date -u -R -d "@$(project_time)")
+ -- $(maintainer)  $(LC_ALL=C date -u -R -d "@$(project_time)")
 END

@@ -14,7 +14,6 @@ cd "$(dirname "$0")/.."
 setup build docs packages
 setup tools
 build=build/packages
-maintainer="${DEBFULLNAME:-The KtQtBase authors} <${DEBEMAIL:-ktqtbase@example.org}>"
 SOURCE_DATE_EPOCH=$(project_time)
 export SOURCE_DATE_EPOCH
 
@@ -25,7 +24,7 @@ write_control_files() {
     version=$(project_version)
     major=${version%%.*}
     mkdir -p "$build/debian"
-    packaging/changelog.sh "$maintainer" >"$build/debian/changelog"
+    packaging/changelog.sh >"$build/debian/changelog"
     printf '%s %s libktqtbase%s (>= %s)\n' libKtOsBase "$major" "$major" "$version" \
         libKtQtBase "$major" "$major" "$version" >"$build/debian/shlibs"
     echo "activate-noawait ldconfig" >"$build/debian/triggers"
@@ -51,7 +50,7 @@ repack_symbols() {
     rm "$1"
 }
 
-cmake --preset packages -DKTQTBASE_PACKAGER="$maintainer"
+cmake --preset packages -DKTQTBASE_PACKAGER="$(maintainer)"
 cmake --build --preset packages --parallel "$(getconf _NPROCESSORS_ONLN)"
 write_control_files
 rm -rf "$build/packages"

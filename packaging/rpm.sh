@@ -17,8 +17,10 @@ build=build/rpm
 SOURCE_DATE_EPOCH=$(project_time)
 export SOURCE_DATE_EPOCH
 
+# Fedora's libraries can be executed, which its tools look for.
 cmake --preset packages -B "$build" -DCMAKE_INSTALL_LIBDIR=lib64 \
-    -DCMAKE_INSTALL_DOCDIR=share/doc/ktqtbase-doc
+    -DCMAKE_INSTALL_DOCDIR=share/doc/ktqtbase-doc -DCMAKE_INSTALL_SO_NO_EXE=0 \
+    -DKTQTBASE_PACKAGER="$(maintainer)"
 cmake --build "$build" --parallel "$(getconf _NPROCESSORS_ONLN)"
 rm -rf "$build/packages"
 (cd "$build" && cpack -G RPM)

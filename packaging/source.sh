@@ -12,7 +12,6 @@ cd "$(dirname "$0")/.."
 # shellcheck source=tools/files.sh
 . tools/files.sh
 setup packages
-maintainer="${DEBFULLNAME:-The KtQtBase authors} <${DEBEMAIL:-ktqtbase@example.org}>"
 version=$(project_version)
 out=$PWD/build/source
 sources=$out/ktqtbase-$version
@@ -25,7 +24,7 @@ mkdir "$out"
 cp "$archive" "$out/ktqtbase_$version.orig.tar.xz"
 tar -C "$out" -xf "$archive"
 cp -r "$sources/packaging/debian" "$sources"
-sed -i "s|@MAINTAINER@|$maintainer|" "$sources/debian/control"
-packaging/changelog.sh "$maintainer" >"$sources/debian/changelog"
+sed -i "s|@MAINTAINER@|$(maintainer)|" "$sources/debian/control"
+packaging/changelog.sh >"$sources/debian/changelog"
 (cd "$out" && dpkg-source --build "$sources")
 rm -r "$sources"

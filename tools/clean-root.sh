@@ -16,10 +16,11 @@ system_sources() {
 # Runs a script of the project in a new minimal root, which is gone afterwards. The script finds the
 # sources of the project in /project, and the files that are named after it in /files; what it leaves
 # in /out is then in build/out/.
-in_clean_root() {
-    local script=$1 place suite sources
+in_clean_root() (
+    local script=$1 place suite sources enter
     shift
     place=$(mktemp -d)
+    trap 'rm -rf "$place"' EXIT
     suite=$(. /etc/os-release && echo "$VERSION_CODENAME")
     mapfile -t sources < <(system_sources)
     mkdir "$place/project" "$place/files" "$place/out"
@@ -27,13 +28,14 @@ in_clean_root() {
     cp "$@" "$place/files"
     # How it reaches its sources, and whether those of a fixed day are too old.
     apt-config dump Acquire | grep -E '^Acquire::(Check-|https?::Proxy)' >"$place/apt.conf" || true
+    # Settings of the caller, such as a compiler's, are not for it.
+    enter="env -i -C /project PATH=/usr/sbin:/usr/bin:/sbin:/bin HOME=/root LC_ALL=C.UTF-8"
     mmdebstrap --variant=apt --format=null --aptopt="$place/apt.conf" \
         --customize-hook="cp -r '$place/project' '$place/files' '$place/out' \"\$1\"" \
-        --customize-hook="chroot \"\$1\" env -C /project LC_ALL=C.UTF-8 DEBIAN_FRONTEND=noninteractive '$script'" \
+        --customize-hook="chroot \"\$1\" $enter DEBIAN_FRONTEND=noninteractive '$script'" \
         --customize-hook="cp -rT \"\$1\"/out '$place/out'" \
         "$suite" /dev/null "${sources[@]}"
     rm -rf build/out
     mkdir -p build
     mv "$place/out" build
-    rm -rf "$place"
-}
+)

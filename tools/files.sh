@@ -1,8 +1,9 @@
 # shellcheck shell=bash
 # SPDX-License-Identifier: MIT
-# The files of the project and their time, with git or without it. Sourced, never run, from the
-# folder that holds the project. In an unpacked source archive all files are the project's, but for
-# those of builds.
+# What packages and checks need to know of the project: its files and their time, with git or
+# without it, its version, and who makes packages of it. Sourced, never run, from the folder that
+# holds the project. In an unpacked source archive all files are the project's, but for those of
+# builds.
 
 # Whether a name is below one of the patterns, in which * stands for slashes, too.
 matches() {
@@ -59,4 +60,9 @@ version_of() {
 
 project_version() {
     version_of <include/KtQtBase/Version.h
+}
+
+# Whom packages name, told in the variables that Debian's tools read.
+maintainer() {
+    echo "${DEBFULLNAME:-The KtQtBase authors} <${DEBEMAIL:-ktqtbase@example.org}>"
 }

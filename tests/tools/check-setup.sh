@@ -582,4 +582,30 @@ UninstallsFromTheCallersFolder() {
     expect_end "" "cmake -DPREFIX=$work/elsewhere/out -P tools/uninstall.cmake" 0
 }
 
+# Packing
+
+MakesTheArchiveWithItsPackages() {
+    lay_out_debian
+    fake id "echo 0"
+    recorded dist.sh
+    mv "$work/bin/dist.sh" "$work/project/tools"
+    lacks xz-utils
+    play ./run dist
+    expect_end "Installing: xz-utils" "apt-get update
+apt-get install -y --no-install-recommends xz-utils
+dist.sh build/dist" 0
+}
+
+MakesPackagesOfAKnownKind() {
+    lay_out_debian
+    mkdir "$work/project/packaging"
+    recorded rpm.sh
+    mv "$work/bin/rpm.sh" "$work/project/packaging"
+    play ./run package rpm
+    expect_end "" "rpm.sh" 0
+    play ./run package exe
+    expect "What was called" "$(cat "$work/calls")" ""
+    expect "The exit status" "$status" 2
+}
+
 "$@"
