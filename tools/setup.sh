@@ -74,6 +74,7 @@ named_packages() {
         apt:coverage) echo gcovr ;;
         brew:coverage) echo gcovr ;;
         apt:dist) echo git xz-utils ;;
+        brew:dist | dnf:dist | pacman:dist | zypper:dist) echo git xz ;;
         # What makes and reads packages of Debian and of Fedora's kind, and a clean root to try them
         # in.
         apt:packages) echo debhelper dpkg-dev git lintian mmdebstrap python3 rpm rpmlint ruby \
