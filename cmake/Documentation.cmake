@@ -20,5 +20,6 @@ install(DIRECTORY ${KTQTBASE_DOCS}/html DESTINATION ${CMAKE_INSTALL_DOCDIR}
     COMPONENT documentation)
 install(FILES ${KTQTBASE_DOCS}/KtQtBase.qch DESTINATION ${CMAKE_INSTALL_DOCDIR}
     COMPONENT documentation)
+# The pages of installed programs are installed with these, and examples are not installed.
 install(DIRECTORY ${KTQTBASE_DOCS}/man/ DESTINATION ${CMAKE_INSTALL_MANDIR}
-    COMPONENT documentation)
+    COMPONENT documentation PATTERN man1 EXCLUDE)

@@ -1,7 +1,8 @@
 # SPDX-License-Identifier: MIT
 # What `cmake --install` installs: the libraries, their headers, what CMake, pkg-config and qmake find
 # them by, the catalogue and what debuggers load. No installed file holds the prefix, so a host may
-# move them.
+# move them. The components are runtime, development, documentation and tools; Packages.cmake makes
+# one package of each.
 
 include(CMakePackageConfigHelpers)
 
@@ -15,11 +16,13 @@ else()
     set_target_properties(KtQtBase PROPERTIES INSTALL_RPATH "$ORIGIN")
 endif()
 
-install(TARGETS KtQtBase KtQtBaseStrict EXPORT KtQtBaseTargets)
+install(TARGETS KtQtBase KtQtBaseStrict EXPORT KtQtBaseTargets
+    LIBRARY COMPONENT runtime NAMELINK_COMPONENT development)
 install(DIRECTORY include/KtQtBase ${KTQTBASE_GENERATED_INCLUDE}/KtQtBase
-    DESTINATION ${CMAKE_INSTALL_INCLUDEDIR})
-install(DIRECTORY catalogue DESTINATION ${CMAKE_INSTALL_DATADIR}/KtQtBase)
-install(EXPORT KtQtBaseTargets NAMESPACE KtQtBase:: DESTINATION ${KTQTBASE_CMAKE_DIR})
+    DESTINATION ${CMAKE_INSTALL_INCLUDEDIR} COMPONENT development)
+install(DIRECTORY catalogue DESTINATION ${CMAKE_INSTALL_DATADIR}/KtQtBase COMPONENT tools)
+install(EXPORT KtQtBaseTargets NAMESPACE KtQtBase:: DESTINATION ${KTQTBASE_CMAKE_DIR}
+    COMPONENT development)
 include(cmake/InstallDebugger.cmake)
 
 # A host's own OS-base library is not installed; the package only names its place.
@@ -29,9 +32,12 @@ if(KTQTBASE_HOST_OSBASE)
     string(REPLACE " " "\\ " KTQTBASE_PC_OSBASE_CFLAGS "-I${KTQTBASE_HOST_OSBASE_INCLUDE}")
 else()
     set(KTQTBASE_PC_OSBASE_LIBS "-lKtOsBase")
-    install(TARGETS KtOsBase EXPORT KtOsBaseTargets)
-    install(DIRECTORY osbase/include/KtOsBase DESTINATION ${CMAKE_INSTALL_INCLUDEDIR})
-    install(EXPORT KtOsBaseTargets NAMESPACE KtOsBase:: DESTINATION ${KTQTBASE_CMAKE_DIR})
+    install(TARGETS KtOsBase EXPORT KtOsBaseTargets
+        LIBRARY COMPONENT runtime NAMELINK_COMPONENT development)
+    install(DIRECTORY osbase/include/KtOsBase DESTINATION ${CMAKE_INSTALL_INCLUDEDIR}
+        COMPONENT development)
+    install(EXPORT KtOsBaseTargets NAMESPACE KtOsBase:: DESTINATION ${KTQTBASE_CMAKE_DIR}
+        COMPONENT development)
 endif()
 
 # The build folder is a package, too.
@@ -49,7 +55,7 @@ write_basic_package_version_file(${PROJECT_BINARY_DIR}/KtQtBaseConfigVersion.cma
 install(FILES
     ${PROJECT_BINARY_DIR}/KtQtBaseConfig.cmake
     ${PROJECT_BINARY_DIR}/KtQtBaseConfigVersion.cmake
-    DESTINATION ${KTQTBASE_CMAKE_DIR})
+    DESTINATION ${KTQTBASE_CMAKE_DIR} COMPONENT development)
 
 # The library folder may be one or two levels deep, so relative paths are computed. Some versions of
 # pkg-config put a prefix of their own in place of the module's one, and count one level for it; so
@@ -59,8 +65,18 @@ file(RELATIVE_PATH KTQTBASE_PC_PREFIX ${KTQTBASE_FULL_PC_DIR} ${CMAKE_INSTALL_PR
 file(RELATIVE_PATH KTQTBASE_PC_INCLUDEDIR
     ${KTQTBASE_FULL_PC_DIR} ${CMAKE_INSTALL_FULL_INCLUDEDIR})
 configure_file(cmake/KtQtBase.pc.in ${PROJECT_BINARY_DIR}/KtQtBase.pc @ONLY)
-install(FILES ${PROJECT_BINARY_DIR}/KtQtBase.pc DESTINATION ${KTQTBASE_PC_DIR})
+install(FILES ${PROJECT_BINARY_DIR}/KtQtBase.pc DESTINATION ${KTQTBASE_PC_DIR}
+    COMPONENT development)
 
 # What a project of qmake includes; it is as deep as the pkg-config module.
 configure_file(cmake/KtQtBase.pri.in ${PROJECT_BINARY_DIR}/KtQtBase.pri @ONLY)
-install(FILES ${PROJECT_BINARY_DIR}/KtQtBase.pri DESTINATION ${CMAKE_INSTALL_LIBDIR}/KtQtBase)
+install(FILES ${PROJECT_BINARY_DIR}/KtQtBase.pri DESTINATION ${CMAKE_INSTALL_LIBDIR}/KtQtBase
+    COMPONENT development)
+
+# Packages of a distribution have their own places and forms for these.
+option(KTQTBASE_INSTALL_NOTES "Install the licence, the readme and the changelog" ON)
+if(KTQTBASE_INSTALL_NOTES)
+    install(FILES LICENSE DESTINATION ${CMAKE_INSTALL_DOCDIR} COMPONENT runtime)
+    install(FILES README.md CHANGELOG.md DESTINATION ${CMAKE_INSTALL_DOCDIR}
+        COMPONENT documentation)
+endif()

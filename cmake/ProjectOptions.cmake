@@ -29,6 +29,7 @@ option(KTQTBASE_BUILD_FUZZERS "Build the fuzzers, which need clang++" OFF)
 option(KTQTBASE_BUILD_BENCHMARKS "Build the benchmarks" OFF)
 option(KTQTBASE_BUILD_TOOLS "Build the programs that help to port a host" ${PROJECT_IS_TOP_LEVEL})
 option(KTQTBASE_BUILD_DOCS "Build the reference, with Doxygen" OFF)
+option(KTQTBASE_PACKAGES "Let cpack make packages; the scripts in packaging/ do the rest" OFF)
 option(KTQTBASE_WARNINGS_AS_ERRORS "Treat compiler warnings as errors" OFF)
 option(KTQTBASE_SANITIZE "Build with the sanitizers that KTQTBASE_SANITIZERS names" OFF)
 set(KTQTBASE_SANITIZERS address,undefined CACHE STRING "The sanitizers, as -fsanitize= takes them")
@@ -106,4 +107,14 @@ function(ktqtbase_fortify target)
         ktqtbase_fortify_flags(flags)
         target_compile_options(${target} PRIVATE ${flags})
     endif()
+endfunction()
+
+# Makes what is shipped the same bytes in whatever folder it is built. Debuggers and reports of tests
+# want the real names, so other builds keep them.
+function(ktqtbase_hide_folders target)
+    target_compile_options(${target} PRIVATE
+        $<$<CONFIG:Release>:-ffile-prefix-map=${PROJECT_SOURCE_DIR}=.>
+        $<$<CONFIG:Release>:-ffile-prefix-map=${PROJECT_BINARY_DIR}=./build>)
+    # A name of the build folder would leave its length behind where it is replaced.
+    set_target_properties(${target} PROPERTIES BUILD_RPATH_USE_ORIGIN ON)
 endfunction()

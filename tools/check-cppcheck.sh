@@ -6,7 +6,9 @@
 #     tools/check-cppcheck.sh
 set -euo pipefail
 cd "$(dirname "$0")/.."
-git ls-files 'src/*.cpp' 'osbase/*.cpp' |
+# shellcheck source=tools/files.sh
+. tools/files.sh
+project_files 'src/*.cpp' 'osbase/*.cpp' | tr '\0' '\n' |
     cppcheck --file-list=- --enable=warning,style,performance,portability --std=c++17 \
         --language=c++ --library=posix,qt --suppressions-list=tools/cppcheck.suppressions \
         -DKTQTBASE_BUILDING -I include -I osbase/include -I src \

@@ -48,8 +48,8 @@ several_sources="platform/Platform.h"
 # Folders of tests/ without a counterpart in src/: what is tested there is no folder of src/, or
 # serves all tests.
 tests_alone="audit catalogue consumer debugger docs examples exports faults grid hardening
-    hardening/project headers loading memory osbase pictures porting support threads tools trace
-    trace/hosts version"
+    hardening/project headers loading memory osbase packages pictures porting support threads
+    tools trace trace/hosts version"
 
 # Modules that the tests of src/system load.
 fixtures="system/modules"

@@ -3,6 +3,8 @@
 # Checks house rules that no compiler checks. Prints every line or file that breaks one, then fails.
 set -euo pipefail
 cd "$(dirname "$0")/.."
+# shellcheck source=tools/files.sh
+. tools/files.sh
 failed=0
 
 # Prints a rule and the lines of standard input, which break it.
@@ -16,18 +18,18 @@ report() {
 }
 
 long_sources() {
-    git ls-files -z include src osbase audit | xargs -0 awk 'FNR == 401 { print FILENAME }'
+    project_files include src osbase audit | xargs -0 awk 'FNR == 401 { print FILENAME }'
 }
 
 platform_conditionals() {
-    git grep -nE '^ *# *(if|ifdef|ifndef|elif)\b.*(__APPLE__|__linux__|_WIN32|Q_OS_)' -- \
-        '*.h' '*.cpp' '*.mm' ':!src/platform/' || true
+    project_files '*.h' '*.cpp' '*.mm' ':!src/platform' | xargs -0 \
+        grep -nHE '^ *# *(if|ifdef|ifndef|elif)\b.*(__APPLE__|__linux__|_WIN32|Q_OS_)' || true
 }
 
 # The first line of a script is for the system, so the notice may be on the second one. The brackets
 # keep the pattern from being taken for the notice of this file.
 unlicensed() {
-    git ls-files -z '*.h' '*.cpp' '*.mm' '*.cmake' '*CMakeLists.txt' '*.in' '*.sh' '*.py' \
+    project_files '*.h' '*.cpp' '*.mm' '*.cmake' '*CMakeLists.txt' '*.in' '*.sh' '*.py' \
         '*.mjs' '*.yml' '*.build' '*.pro' run .ci/run |
         xargs -0 awk 'FNR == 1 { seen = 0 } /SPDX-License-Identifier[:] MIT/ { seen = 1 }
             FNR == 2 && !seen { print FILENAME }'
@@ -37,12 +39,12 @@ unlicensed() {
 # matching itself.
 outside_references() {
     local words='\bsp[e]c(ification)?\b|\b[i]nterface\.md\b|\bsha[r]ed/|\b[P]art [0-9]|\b[i]ssue #?[0-9]'
-    git grep -nIiE "$words" -- ':!*.svg' ':!*.json' ':!*.abi' || true
+    project_files ':!*.svg' ':!*.json' ':!*.abi' | xargs -0 grep -nHIiE "$words" || true
 }
 
 untested_headers() {
     local header
-    for header in $(git ls-files 'include/*.h'); do
+    for header in $(project_files 'include/*.h' | tr '\0' '\n'); do
         grep -q "^ *${header#include/KtQtBase/}\\b" tests/headers/CMakeLists.txt || echo "$header"
     done
 }

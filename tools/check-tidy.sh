@@ -8,6 +8,8 @@ set -euo pipefail
 commands=$(cd "$1" && pwd)/compile_commands.json
 shift
 cd "$(dirname "$0")/.."
+# shellcheck source=tools/files.sh
+. tools/files.sh
 scratch=$(mktemp -d)
 trap 'rm -rf "$scratch"' EXIT
 
@@ -16,7 +18,7 @@ sources() {
         printf '%s\0' "$@"
     else
         # These two tests include the headers that no source of the library does.
-        git ls-files -z 'src/*.cpp' tests/porting/GeometryTest.cpp tests/system/stubs/PackingTest.cpp
+        project_files 'src/*.cpp' tests/porting/GeometryTest.cpp tests/system/stubs/PackingTest.cpp
     fi
 }
 

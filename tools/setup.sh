@@ -18,8 +18,8 @@ package_manager() {
     echo none
 }
 
-# The packages of one group (build, test, tools, check, coverage, docs, faults, pictures, bench, fuzz,
-# qt5, qt6, clang, libcxx or arm64) under a package manager's names.
+# The packages of one group (build, test, tools, check, coverage, dist, docs, faults, packages,
+# pictures, bench, fuzz, qt5, qt6, clang, libcxx or arm64) under a package manager's names.
 named_packages() {
     case "$1:$2" in
         # The fonts are those of the examples' pictures.
@@ -73,6 +73,12 @@ named_packages() {
         apt:faults) echo strace ;;
         apt:coverage) echo gcovr ;;
         brew:coverage) echo gcovr ;;
+        apt:dist) echo git xz-utils ;;
+        brew:dist | dnf:dist | pacman:dist | zypper:dist) echo git xz ;;
+        # What makes and reads packages of Debian and of Fedora's kind, and a clean root to try them
+        # in.
+        apt:packages) echo debhelper dpkg-dev git lintian mmdebstrap python3 rpm rpmlint ruby \
+            xz-utils ;;
         # The last one writes the help file of Qt's programs.
         apt:docs) echo doxygen doxygen-awesome-css python3 python3-pil qttools5-dev-tools ;;
         # The terminal and the browser of pictures in docs/.

@@ -552,7 +552,7 @@ expect_installed() {
     expect_end "" "cmake --preset release -B build/install -DKTQTBASE_BUILD_TESTS=OFF\
  -DKTQTBASE_BUILD_EXAMPLES=OFF
 cmake --build build/install --parallel 2
-cmake --install build/install --prefix $1" 0
+cmake -DBUILD=$work/project/build/install -DPREFIX=$1 -P tools/install.cmake" 0
 }
 
 InstallsTheLibraryWithoutTests() {
@@ -571,6 +571,39 @@ InstallsBelowTheCallersFolder() {
 InstallsNothingWithoutAPrefix() {
     lay_out_debian
     play ./run install
+    expect "What was called" "$(cat "$work/calls")" ""
+    expect "The exit status" "$status" 2
+}
+
+UninstallsFromTheCallersFolder() {
+    lay_out_debian
+    mkdir "$work/elsewhere"
+    play bash -c 'cd ../elsewhere && ../project/run uninstall --prefix out'
+    expect_end "" "cmake -DPREFIX=$work/elsewhere/out -P tools/uninstall.cmake" 0
+}
+
+# Packing
+
+MakesTheArchiveWithItsPackages() {
+    lay_out_debian
+    fake id "echo 0"
+    recorded dist.sh
+    mv "$work/bin/dist.sh" "$work/project/tools"
+    lacks xz-utils
+    play ./run dist
+    expect_end "Installing: xz-utils" "apt-get update
+apt-get install -y --no-install-recommends xz-utils
+dist.sh build/dist" 0
+}
+
+MakesPackagesOfAKnownKind() {
+    lay_out_debian
+    mkdir "$work/project/packaging"
+    recorded rpm.sh
+    mv "$work/bin/rpm.sh" "$work/project/packaging"
+    play ./run package rpm
+    expect_end "" "rpm.sh" 0
+    play ./run package exe
     expect "What was called" "$(cat "$work/calls")" ""
     expect "The exit status" "$status" 2
 }
