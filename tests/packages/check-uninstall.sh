@@ -120,7 +120,7 @@ RefusesAnotherLink() {
 RefusesNamesAboveThePrefix() {
     lay_out_installation
     echo outside >"$work/outside"
-    echo "file $(sha256sum "$work/outside" | cut -d' ' -f1) ../outside" >>"$prefix/$manifest"
+    echo "file $("$CMAKE" -E sha256sum "$work/outside" | cut -d' ' -f1) ../outside" >>"$prefix/$manifest"
     expect_refusal "../outside is not below"
     [ -s "$work/outside" ]
 }
