@@ -83,7 +83,7 @@ TEST_F(FileDialogExample, ImportsWhatTheUserSelects)
     dialog.GetOFN().lpstrTitle = L"Import";
     dialog.GetOFN().lpstrFilter = L"Text (*.txt);;All files (*)";
     dialog.GetOFN().nFilterIndex = 1;
-    dialog.GetOFN().lpstrInitialDir = L"C:\\data\\in";
+    dialog.GetOFN().lpstrInitialDir = L"/data/in";
     if (dialog.DoModal() == IDOK) {
         POSITION pos = dialog.GetStartPosition();
         while (pos)
