@@ -25,7 +25,7 @@ break_copy() {
     expected+=("$1:$4")
 }
 
-cp -r "$project"/{CMakeLists.txt,CMakePresets.json,cmake,include,osbase,src} "$work"
+cp -r "$project"/{CMakeLists.txt,CMakePresets.json,cmake,debugger,include,osbase,src} "$work"
 mkdir -p "$work/tools" "$work/tests/exports"
 cp "$project/tools/check-abi.sh" "$work/tools"
 cp "$project"/tests/exports/KtQtBase.abi* "$work/tests/exports"
