@@ -47,6 +47,29 @@ void handleSignals()
     handle(SIGHUP, passOn);
 }
 
+// Holds back the signals that are passed on while nobody knows yet to whom.
+class HeldSignals
+{
+public:
+    HeldSignals()
+    {
+        sigset_t held;
+        sigemptyset(&held);
+        sigaddset(&held, SIGTERM);
+        sigaddset(&held, SIGHUP);
+        sigprocmask(SIG_BLOCK, &held, &m_before);
+    }
+    HeldSignals(const HeldSignals&) = delete;
+    HeldSignals& operator=(const HeldSignals&) = delete;
+    ~HeldSignals() { sigprocmask(SIG_SETMASK, &m_before, nullptr); }
+
+    // What the started program begins with.
+    const sigset_t* before() const { return &m_before; }
+
+private:
+    sigset_t m_before = {};
+};
+
 std::vector<char*> pointersTo(std::vector<std::string>& texts)
 {
     std::vector<char*> pointers(texts.size() + 1);
@@ -90,6 +113,23 @@ pid_t startInto(int output, std::vector<std::string> arguments)
     return error == 0 ? process : -1;
 }
 
+// Starts the program that is running from then on.
+// Result: an error's number, or 0.
+int start(char* const* arguments, std::vector<std::string>& environment)
+{
+    const HeldSignals held;
+    posix_spawnattr_t attributes;
+    posix_spawnattr_init(&attributes);
+    posix_spawnattr_setsigmask(&attributes, held.before());
+    posix_spawnattr_setflags(&attributes, POSIX_SPAWN_SETSIGMASK);
+    pid_t process = 0;
+    const int error = posix_spawnp(&process, arguments[0], nullptr, &attributes, arguments,
+                                   pointersTo(environment).data());
+    posix_spawnattr_destroy(&attributes);
+    running = error == 0 ? process : 0;
+    return error;
+}
+
 } // namespace
 
 trace::Variables trace::ownEnvironment()
@@ -116,15 +156,12 @@ trace::Variables trace::withVariables(const Variables& environment, const Variab
 int trace::runProgram(char* const* arguments, Variables environment)
 {
     handleSignals();
-    pid_t process = 0;
-    const int error = posix_spawnp(&process, arguments[0], nullptr, nullptr, arguments,
-                                   pointersTo(environment).data());
+    const int error = start(arguments, environment);
     if (error != 0) {
         std::fprintf(stderr, "ktqt-trace: cannot run %s: %s\n", arguments[0], std::strerror(error));
         return error == ENOENT ? -127 : -126;
     }
-    running = process;
-    const int status = waitFor(process);
+    const int status = waitFor(running);
     running = 0;
     return status;
 }

@@ -133,7 +133,7 @@ TEST(Audit, ReadsSourcesAndBinariesTogether)
 TEST(Audit, CountsWhatMfcHasOnlyNumbersFor)
 {
     EXPECT_THAT(runAudit({binary("late.exe"), "--only", "not-here"}).out,
-                HasSubstr("MFC by number\n  Look at the sources.\n  mfc140u.dll#256 1 use: "));
+                HasSubstr("MFC by number\n  Look at the sources.\n  mfc140u.dll#256 1 use:"));
 }
 
 TEST(Audit, DoesNotWaitForAPipeInAThinLibrary)

@@ -224,16 +224,34 @@ TEST_P(TraceEnding, IsPassedOnAndLosesNothing)
     EXPECT_EQ(host.calls().at("CloseHandle"), 2);
 }
 
-TEST(Trace, PassesASignalOnAndTellsWhatWasCalled)
+// Ends ktqt-trace once the program that it runs has said something.
+void runUntilASignal(ChildProcess& process)
 {
-    ChildProcess process;
     ASSERT_TRUE(process.start(KTQT_TRACE, {TRACE_CALLS, "close", "2", "wait"}));
     while (!process->canReadLine() && process->waitForReadyRead(ChildProcess::kPatience)) {
     }
     kill(static_cast<pid_t>(process->processId()), SIGTERM);
     ASSERT_TRUE(process->waitForFinished(ChildProcess::kPatience));
+}
+
+TEST(Trace, PassesASignalOnAndTellsWhatWasCalled)
+{
+    ChildProcess process;
+    runUntilASignal(process);
     EXPECT_EQ(process->exitCode(), 128 + SIGTERM);
     EXPECT_THAT(process->readAllStandardError().toStdString(), HasSubstr("CloseHandle"));
+}
+
+TEST(Trace, PassesASignalOnThatComesBeforeItKnowsTheProgram)
+{
+    ChildProcess process;
+    QProcessEnvironment environment = QProcessEnvironment::systemEnvironment();
+    environment.insert("LD_PRELOAD", SLOW_SPAWN);
+    environment.insert("LD_LIBRARY_PATH", SLOW_SPAWN_FOLDER);
+    environment.insert("ASAN_OPTIONS", "verify_asan_link_order=0:detect_leaks=0");
+    process->setProcessEnvironment(environment);
+    runUntilASignal(process);
+    EXPECT_EQ(process->exitCode(), 128 + SIGTERM);
 }
 
 TEST(Trace, LeavesNoFileWhereNobodyReadsTheTable)
