@@ -7,15 +7,10 @@
 # DEBFULLNAME and DEBEMAIL name the maintainer, as they do for Debian's own tools.
 set -euo pipefail
 cd "$(dirname "$0")/.."
-# shellcheck source=tools/setup.sh
-. tools/setup.sh
-# shellcheck source=tools/files.sh
-. tools/files.sh
-setup build docs packages
-setup tools
+# shellcheck source=packaging/begin.sh
+. packaging/begin.sh
+prepare_build
 build=build/packages
-SOURCE_DATE_EPOCH=$(project_time)
-export SOURCE_DATE_EPOCH
 
 # What dpkg reads of the runtime package: who needs it at which version, and that the loader's cache
 # is made anew.

@@ -7,15 +7,10 @@
 # They need what the machine that builds them has; for Fedora they are built on Fedora.
 set -euo pipefail
 cd "$(dirname "$0")/.."
-# shellcheck source=tools/setup.sh
-. tools/setup.sh
-# shellcheck source=tools/files.sh
-. tools/files.sh
-setup build docs packages
-setup tools
+# shellcheck source=packaging/begin.sh
+. packaging/begin.sh
+prepare_build
 build=build/rpm
-SOURCE_DATE_EPOCH=$(project_time)
-export SOURCE_DATE_EPOCH
 
 # Fedora's libraries can be executed, which its tools look for.
 cmake --preset packages -B "$build" -DCMAKE_INSTALL_LIBDIR=lib64 \

@@ -7,16 +7,11 @@
 # DEBFULLNAME and DEBEMAIL name the maintainer, as they do for Debian's own tools.
 set -euo pipefail
 cd "$(dirname "$0")/.."
-# shellcheck source=tools/setup.sh
-. tools/setup.sh
-# shellcheck source=tools/files.sh
-. tools/files.sh
-setup packages
+# shellcheck source=packaging/begin.sh
+. packaging/begin.sh
 version=$(project_version)
 out=$PWD/build/source
 sources=$out/ktqtbase-$version
-SOURCE_DATE_EPOCH=$(project_time)
-export SOURCE_DATE_EPOCH
 
 rm -rf "$out"
 archive=$(tools/dist.sh build/dist)

@@ -60,6 +60,5 @@ execute_process(COMMAND ${COMPILER} -std=c++17 ${host_source}/program/main.cpp
 execute_process(COMMAND ${WORK_DIR}/plain COMMAND_ERROR_IS_FATAL ANY)
 
 if(QMAKE)
-    build_by_qmake(${host_source}/program/host.pro ${WORK_DIR}/qmake ${prefix} "${BUILDERS_FLAGS}")
-    execute_process(COMMAND ${WORK_DIR}/qmake/host COMMAND_ERROR_IS_FATAL ANY)
+    run_by_qmake(${host_source}/program/main.cpp ${WORK_DIR}/qmake ${prefix} "${BUILDERS_FLAGS}")
 endif()

@@ -9,8 +9,6 @@
 
 #include <algorithm>
 
-#include <sys/resource.h>
-
 using testing::ContainsRegex;
 using testing::EndsWith;
 using testing::HasSubstr;
@@ -21,15 +19,6 @@ namespace {
 
 constexpr int kLongestLine = 65535;
 
-// The most memory that any program of this test took so far, in the unit of the system. What the
-// test itself took counts, too.
-long mostMemory()
-{
-    rusage usage = {};
-    getrusage(RUSAGE_CHILDREN, &usage);
-    return usage.ru_maxrss;
-}
-
 // A sanitizer keeps memory that was given back for a while, and the calls that led to each piece,
 // which would look like a growing need. Without those calls it cannot tell which leaks to let pass.
 const char* const kGiveMemoryBack =
@@ -37,10 +26,29 @@ const char* const kGiveMemoryBack =
     "ASAN_OPTIONS=\"$ASAN_OPTIONS:quarantine_size_mb=1:thread_local_quarantine_size_kb=64:"
     "malloc_context_size=1:detect_leaks=0\"; ";
 
-void runWithLittleMemory(const QString& line, const QStringList& arguments)
+struct MeasuredRun
 {
-    const ProgramResult result = runInShell(kGiveMemoryBack + line + " >/dev/null", arguments);
-    EXPECT_EQ(result.status, 0) << result.err;
+    ProgramResult program;
+    long memory; // the most that the program took, in the unit of the system
+};
+
+// Runs a line of the shell, in which "measured" is the program and "$1" and so on are the arguments.
+MeasuredRun runMeasured(const QString& line, const QStringList& arguments)
+{
+    const QTemporaryDir folder;
+    QFile told(folder.filePath("told"));
+    const QString measured = "program=$0; measured() { '" MOST_MEMORY "' '" + told.fileName() +
+                             "' \"$program\" \"$@\"; }; ";
+    const ProgramResult result = runInShell(kGiveMemoryBack + measured + line, arguments);
+    EXPECT_TRUE(told.open(QFile::ReadOnly)) << result.err;
+    return {result, told.readAll().toLong()};
+}
+
+long memoryOf(const QString& line, const QStringList& arguments)
+{
+    const MeasuredRun run = runMeasured(line + " >/dev/null", arguments);
+    EXPECT_EQ(run.program.status, 0) << run.program.err;
+    return run.memory;
 }
 
 QByteArray names(int count)
@@ -221,25 +229,22 @@ TEST(Nameinfo, SaysInItsHelpHowLongALineMayBe)
 TEST(Nameinfo, NeedsNoMoreMemoryForMoreNames)
 {
     const QTemporaryDir folder;
-    runWithLittleMemory("\"$0\" --list \"$1\"", {writeList(folder, names(500))});
-    const long few = mostMemory();
+    const long few = memoryOf("measured --list \"$1\"", {writeList(folder, names(500))});
     const QString many = writeList(folder, names(20000));
     for (const char* const form : {"--columns=name", "--wide", "--json", "--csv"}) {
         SCOPED_TRACE(form);
-        runWithLittleMemory("\"$0\" \"$1\" --list \"$2\"", {form, many});
-        runWithLittleMemory("cat \"$2\" | \"$0\" \"$1\" --list -", {form, many});
-        EXPECT_LT(mostMemory(), few + few / 4);
+        EXPECT_LT(memoryOf("measured \"$1\" --list \"$2\"", {form, many}), few + few / 4);
+        EXPECT_LT(memoryOf("cat \"$2\" | measured \"$1\" --list -", {form, many}), few + few / 4);
     }
 }
 
 TEST(Nameinfo, NeedsNoMemoryForALineThatIsTooLong)
 {
     const QTemporaryDir folder;
-    runWithLittleMemory("\"$0\" --list \"$1\"", {writeList(folder, names(500))});
-    const long few = mostMemory();
-    const ProgramResult result = runInShell("head -c 50000000 /dev/zero | tr '\\0' a >\"$1\"; " +
-                                                QString(kGiveMemoryBack) + "\"$0\" --list \"$1\"",
-                                            {folder.filePath("list.txt")});
-    EXPECT_THAT(result.err, EndsWith(":1: longer than 65535 bytes\n"));
-    EXPECT_LT(mostMemory(), few + few / 4);
+    const long few = memoryOf("measured --list \"$1\"", {writeList(folder, names(500))});
+    const MeasuredRun run =
+        runMeasured("head -c 50000000 /dev/zero | tr '\\0' a >\"$1\"; measured --list \"$1\"",
+                    {folder.filePath("list.txt")});
+    EXPECT_THAT(run.program.err, EndsWith(":1: longer than 65535 bytes\n"));
+    EXPECT_LT(run.memory, few + few / 4);
 }
