@@ -8,7 +8,7 @@
 function(run_by_qmake source build prefix flags)
     file(MAKE_DIRECTORY ${build})
     execute_process(COMMAND ${QMAKE} ${CMAKE_CURRENT_FUNCTION_LIST_DIR}/consumer.pro
-        SOURCES=${source}
+        SOURCE=${source}
         KTQTBASE_PRI=${prefix}/${LIBDIR}/KtQtBase/KtQtBase.pri
         QMAKE_CXX=${COMPILER}
         QMAKE_LINK=${COMPILER}
