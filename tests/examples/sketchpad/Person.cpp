@@ -21,6 +21,13 @@ QString xdotool(const QStringList& arguments)
     return QString::fromStdString(said).trimmed();
 }
 
+// Empty while no window takes the keys: the window manager says a little earlier which is active.
+QString activeWindow()
+{
+    const QString window = xdotool({"getactivewindow"});
+    return window == xdotool({"getwindowfocus"}) ? window : QString();
+}
+
 QStringList place(const QPoint& point)
 {
     return {QString::number(point.x()), QString::number(point.y())};
@@ -41,7 +48,7 @@ Person::Person(const Host& host, const QStringList& arguments, const QString& ti
     host.prepare(*m_program, arguments);
     m_program->setProcessChannelMode(QProcess::ForwardedErrorChannel);
     if (m_program.start() && waitForTitle(title))
-        m_window = xdotool({"getactivewindow"});
+        m_window = activeWindow();
 }
 
 bool Person::waitFor(const std::function<bool()>& condition)
@@ -58,12 +65,16 @@ bool Person::waitFor(const std::function<bool()>& condition)
 
 QString Person::activeTitle()
 {
-    return xdotool({"getactivewindow", "getwindowname"});
+    const QString window = activeWindow();
+    return window.isEmpty() ? QString() : xdotool({"getwindowname", window});
 }
 
 bool Person::waitForTitle(const QString& end) const
 {
-    return waitFor([&end] { return activeTitle().endsWith(end); });
+    return waitFor([&end] {
+        const QString title = activeTitle();
+        return !title.isEmpty() && title.endsWith(end);
+    });
 }
 
 bool Person::waitForEnd(int status)
@@ -73,12 +84,15 @@ bool Person::waitForEnd(int status)
 
 bool Person::waitForBox() const
 {
-    return waitFor([this] { return xdotool({"getactivewindow"}) != m_window; });
+    return waitFor([this] {
+        const QString window = activeWindow();
+        return !window.isEmpty() && window != m_window;
+    });
 }
 
 bool Person::waitForNoBox() const
 {
-    return waitFor([this] { return xdotool({"getactivewindow"}) == m_window; });
+    return waitFor([this] { return activeWindow() == m_window; });
 }
 
 void Person::turnWheelWithCtrl(const QPoint& point, int steps) const
@@ -119,7 +133,7 @@ bool Person::answerDialog(const QString& title, const QString& name) const
     return waitFor([this, &title] {
         press("Return");
         QThread::msleep(100);
-        return activeTitle() != title;
+        return waitForTitle("") && activeTitle() != title;
     });
 }
 

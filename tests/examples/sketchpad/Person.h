@@ -42,7 +42,7 @@ public:
     QPoint windowPlace() const; // of its corner inside the frame, on the screen
     QPixmap picture() const;    // with its frame
 
-    static QString activeTitle();
+    static QString activeTitle(); // empty while no window takes the keys
 
 private:
     ChildProcess m_program; // killed at the end if it still runs

@@ -57,6 +57,7 @@ TEST(SketchpadWindow, AsksBeforeItDiscardsAndReopensThroughTheDialog)
     EXPECT_TRUE(person.waitForTitle("mine.sketch* - Sketchpad"));
     person.press("ctrl+o");
     EXPECT_TRUE(person.answerDialog("Open a drawing", "mine.sketch"));
+    EXPECT_TRUE(person.waitForBox());
     person.press("alt+d");
     EXPECT_TRUE(person.waitForTitle("mine.sketch - Sketchpad"));
     person.press("ctrl+shift+s");
