@@ -82,6 +82,18 @@ TEST(VerifyExtension, FindsTheExtensionInAList)
     }
 }
 
+TEST(VerifyExtension, ComparesWhatPrecedesATerminatorInTheExtension)
+{
+    const HandMadePath name(PC_ROOTED, std::wstring(L"/d/a.abc\0d", 10));
+    EXPECT_TRUE(name.VerifyExtension(L"abc"));
+    EXPECT_TRUE(name.VerifyExtension(L"xyz;abc"));
+    EXPECT_FALSE(name.VerifyExtension(L"abcd"));
+    const HandMadePath nothingBefore(PC_ROOTED, std::wstring(L"/d/a.\0d", 7));
+    EXPECT_FALSE(nothingBefore.VerifyExtension(L""));
+    EXPECT_FALSE(nothingBefore.VerifyExtension(L"abc"));
+    EXPECT_TRUE(nothingBefore.VerifyExtension(L"abc;"));
+}
+
 TEST(VerifyExtension, TakesAnUnparsedNameForOneWithoutExtension)
 {
     const HandMadePath name(PC_ROOTED, L"/d/a.abc", PT_NONE);

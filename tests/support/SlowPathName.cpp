@@ -291,6 +291,8 @@ bool slow::hasExtensionOf(const Name& name, const std::wstring& list)
     const std::wstring extension = lowered(extensionOf(name).value_or(L""));
     if (list.empty() || extension.empty())
         return list.empty() && extension.empty();
+    // An item ends at a terminator, and a terminator in the extension agrees with that.
+    const std::wstring compared = extension.c_str();
     std::vector<std::wstring> items(1);
     for (wchar_t ch : list) {
         if (ch == L';')
@@ -299,7 +301,7 @@ bool slow::hasExtensionOf(const Name& name, const std::wstring& list)
             items.back() += lower(ch);
     }
     for (const std::wstring& item : items) {
-        if (item == extension)
+        if (item == compared)
             return true;
     }
     return false;

@@ -219,8 +219,9 @@ public:
     // work sets m_type to PT_NOT_FOUND, even if the work string stays the same; an IfNoMatch that
     // matches changes nothing.
 
-    // Whether the extension is in a list, letters A to Z in any case. True if both the list and the
-    // extension are empty, false if only one of them is.
+    // Whether the extension is in a list, letters A to Z in any case; of one that a host gave a NUL
+    // inside, what precedes it is compared. True if both the list and the extension are empty,
+    // false if only one of them is.
     //   /d/a.ABC, L"abc;xyz" => true     /d/a.abc, L"*.abc" => false     /d/a, L"" => true
     bool VerifyExtension(const wchar_t* list) const;
 
