@@ -10,7 +10,8 @@ home=$(mktemp -d)
 trap 'rm -rf "$home"' EXIT
 
 for program in string/widestring-test string/textconversion-test pathname/pathname-tests \
-    pathname/path-edit-test volume/volumedescriptor-test system/system-tests; do
+    pathname/path-edit-test volume/volumedescriptor-test system/system-tests \
+    system/profile/ProfileTest system/registry/RegistryKeyTest; do
     echo "$program"
     HOME=$home XDG_CONFIG_HOME=$home/config XDG_RUNTIME_DIR=$home QT_QPA_PLATFORM=offscreen \
         LC_ALL=C.UTF-8 valgrind --quiet --error-exitcode=9 --leak-check=no \
