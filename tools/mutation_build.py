@@ -20,6 +20,7 @@ PLACE = ROOT / "build" / "mutate"
 BASE = PLACE / "build"
 SOURCES = ROOT / "src"
 LIBRARY = "src/libKtQtBase.so"
+LIBRARY_IT_NEEDS = BASE / "osbase"  # which it seeks in a folder beside its own
 COMPILE_SECONDS = 300
 LONGEST = 600
 MEMORY = 8 << 30
@@ -260,7 +261,8 @@ class Worker:
         base_home, home = str(BASE / "tests" / "home"), str(self.place / "home")
         variables = [variable.replace(base_home, home) for variable in program.environment]
         library = pathlib.Path(self.own(self.base.library)).parent
-        return [*variables, f"TMPDIR={self.place}/tmp", f"LD_LIBRARY_PATH={library}"]
+        return [*variables, f"TMPDIR={self.place}/tmp",
+                f"LD_LIBRARY_PATH={library}:{LIBRARY_IT_NEEDS}"]
 
     def measure(self, program):
         """Notes how long a test program takes with the library as it is, if it passes."""
