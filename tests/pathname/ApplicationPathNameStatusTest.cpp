@@ -186,6 +186,25 @@ TEST(ProcessPathStatus, AnswersByFileAndByNothing)
     EXPECT_EQ(ProcessPathStatus(unparsed, &unparsed.m_pWork), 0);
 }
 
+TEST(Status, IsZeroForTextWithoutAType)
+{
+    const ScratchFolder scratch;
+    scratch.addFolder("dir", 0700);
+    CRnUiPathname name;
+    ASSERT_EQ(name.Parse(scratch.widePath("dir/a").c_str(), false), 0);
+    EXPECT_EQ(name.Status(), 8);
+    name.m_type = PT_NONE;
+    EXPECT_EQ(name.Status(), 0);
+}
+
+TEST(ProcessPathStatus, IsZeroForAnUnparsedNameWhateverTheText)
+{
+    CRnUiPathname folder;
+    ASSERT_EQ(folder.Parse(L"/tmp", false), 0);
+    CRnUiPathname unparsed;
+    EXPECT_EQ(ProcessPathStatus(unparsed, &folder.m_pWork), 0);
+}
+
 TEST(ProcessParentStatus, AddsNothingForAMissingFolder)
 {
     CRnUiPathname name;

@@ -206,6 +206,7 @@ const TailRow kTailRows[] = {
     {"ShareFromTheStart", PC_UNC, L"//a", 0, L"//a"},
     {"ShareFromBeforeTheStart", PC_UNC, L"//a", -1, L"//a"},
     {"EmptyShare", PC_UNC, L"", 0, L"!"},
+    {"EmptyShareFromBeforeTheStart", PC_UNC, L"", -1, L"!"},
     {"Drive", PC_DRIVE, L"C:", 2, L"C:"},
     {"DriveWithATail", PC_DRIVE, L"C:/x", 2, L"C:/x"},
     {"Rooted", PC_ROOTED, L"/", 1, L"/"},
