@@ -140,6 +140,18 @@ TEST_F(Path, RecordsTheFirstPointWhateverTheCount)
     }
 }
 
+TEST_F(Path, RecordsNoLineToWhereTheFigureAlreadyIs)
+{
+    static const POINT standing[] = {{5, 5}, {5, 5}, {9, 5}, {9, 5}};
+    painter.beginPath();
+    painter.drawPolyline(standing, 4);
+    QPainterPath expected;
+    expected.moveTo(5, 5);
+    expected.lineTo(9, 5);
+    expected.closeSubpath();
+    EXPECT_EQ(*painter.getPainterPath(), expected);
+}
+
 TEST_F(Path, IsLeftAloneByAPolygonThatPaintsAtOnce)
 {
     EXPECT_TRUE(drawsLike(

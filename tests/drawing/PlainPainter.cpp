@@ -155,7 +155,14 @@ void PlainPainter::drawPolyline(const POINT* pts, int n)
         m_painter.drawPolyline(polygon(pts, n));
         return;
     }
-    m_path->addPolygon(polygon(pts, n));
+    // Not addPolygon, which adds a line to a point where the path already is.
+    for (int i = 0; i < n; ++i) {
+        const QPointF point(pts[i].x, pts[i].y);
+        if (i == 0)
+            m_path->moveTo(point);
+        else
+            m_path->lineTo(point);
+    }
     m_path->closeSubpath();
 }
 
