@@ -112,9 +112,7 @@ KtQtFileDialog::KtQtFileDialog(bool bOpenFileDialog, const wchar_t* lpszDefExt,
 
 KtQtFileDialog::~KtQtFileDialog()
 {
-    QFileDialog* const dialog = m_pDialog;
-    stopWatching(dialog);
-    delete dialog;
+    delete m_pDialog;
 }
 
 OPENFILENAMEW& KtQtFileDialog::GetOFN()
