@@ -65,6 +65,17 @@ TEST(Status, IsZeroForAnUnparsedName)
     EXPECT_EQ(CRnUiPathname().Status(), 0);
 }
 
+TEST(Status, IsZeroForTextWithoutAType)
+{
+    const ScratchFolder scratch;
+    scratch.addFolder("dir", 0700);
+    CRnUiPathname name;
+    ASSERT_EQ(name.Parse(scratch.widePath("dir/a").c_str(), false), 0);
+    EXPECT_EQ(name.Status(), 8);
+    name.m_type = PT_NONE;
+    EXPECT_EQ(name.Status(), 0);
+}
+
 TEST(Status, TakesAClosingSeparatorOff)
 {
     const ScratchFolder scratch;
@@ -184,17 +195,6 @@ TEST(ProcessPathStatus, AnswersByFileAndByNothing)
     }
     CRnUiPathname unparsed;
     EXPECT_EQ(ProcessPathStatus(unparsed, &unparsed.m_pWork), 0);
-}
-
-TEST(Status, IsZeroForTextWithoutAType)
-{
-    const ScratchFolder scratch;
-    scratch.addFolder("dir", 0700);
-    CRnUiPathname name;
-    ASSERT_EQ(name.Parse(scratch.widePath("dir/a").c_str(), false), 0);
-    EXPECT_EQ(name.Status(), 8);
-    name.m_type = PT_NONE;
-    EXPECT_EQ(name.Status(), 0);
 }
 
 TEST(ProcessPathStatus, IsZeroForAnUnparsedNameWhateverTheText)
