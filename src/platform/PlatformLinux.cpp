@@ -10,15 +10,47 @@
 
 namespace {
 
-// The kernel has one page for this path, of at most 64 KiB. What is not read of the room takes no
-// memory.
-struct ExecutablePath
-{
-    ExecutablePath() : length(readlink("/proc/self/exe", text, sizeof text)) {}
+// The kernel has one page for this path.
+constexpr std::size_t kLongestPath = 64 * 1024;
 
-    const ssize_t length;
-    char text[64 * 1024];
+// Reads the executable's path, without a terminator. Result: its length, or 0 where it is not known.
+std::size_t readExecutablePath(char* text, std::size_t size)
+{
+    const ssize_t length = readlink("/proc/self/exe", text, size);
+    return length > 0 ? static_cast<std::size_t>(length) : 0;
+}
+
+// The executable's path, unless it is longer than usual. Nothing of it is on the heap, so that it can
+// be read until the process ends and stays nowhere when the library is unloaded. With room for every
+// path the loader would have to map memory besides that of the library's file.
+struct UsualPath
+{
+    UsualPath() : length(readExecutablePath(text, sizeof text)) {}
+
+    bool isWhole() const { return length < sizeof text; }
+
+    const std::size_t length;
+    char text[1024];
 };
+
+// Gives a path to a caller of executablePath.
+int give(const char* path, std::size_t length, char* buffer, std::uint32_t* size)
+{
+    const std::size_t needed = length > 0 ? length + 1 : 0;
+    if (needed == 0 || needed > *size) {
+        *size = static_cast<std::uint32_t>(needed);
+        return -1;
+    }
+    std::memcpy(buffer, path, length);
+    buffer[length] = '\0';
+    return 0;
+}
+
+int giveLongPath(char* buffer, std::uint32_t* size)
+{
+    char path[kLongestPath];
+    return give(path, readExecutablePath(path, sizeof path), buffer, size);
+}
 
 QRect mainScreenFrame()
 {
@@ -32,17 +64,9 @@ namespace ktqtbase::platform {
 
 int executablePath(char* buffer, std::uint32_t* size)
 {
-    // Read once, since the path does not change. Nothing of it is on the heap, so that it can be read
-    // until the process ends and stays nowhere when the library is unloaded.
-    static const ExecutablePath path;
-    const auto needed = static_cast<std::uint32_t>(path.length > 0 ? path.length + 1 : 0);
-    if (needed == 0 || needed > *size) {
-        *size = needed;
-        return -1;
-    }
-    std::memcpy(buffer, path.text, needed - 1);
-    buffer[needed - 1] = '\0';
-    return 0;
+    // Read once, since the path does not change.
+    static const UsualPath path;
+    return path.isWhole() ? give(path.text, path.length, buffer, size) : giveLongPath(buffer, size);
 }
 
 const char* sharedLibrarySuffix()

@@ -29,7 +29,7 @@ bool mayBeginAmong(const char* places, std::size_t count, std::string_view key)
 // The next place at which a key stands with a byte after it that may follow it, or npos.
 std::size_t findKey(std::string_view text, std::string_view key, std::size_t from)
 {
-    constexpr std::size_t kPlacesAtOnce = 128;
+    constexpr std::size_t kPlacesAtOnce = 512;
     const std::size_t end = text.size() > key.size() ? text.size() - key.size() : 0;
     for (std::size_t count = 0; from < end; from += count) {
         count = std::min(kPlacesAtOnce, end - from);
@@ -47,12 +47,19 @@ std::size_t findKey(std::string_view text, std::string_view key, std::size_t fro
 
 bool ktqtbase::findSection(ProfileLines& lines, std::string_view section)
 {
+    const std::string_view text = lines.text();
+    std::size_t from = lines.position();
     for (;;) {
-        const std::size_t bracket = lines.text().find('[', lines.position());
-        if (bracket == std::string_view::npos)
+        const std::size_t bracket = text.find('[', from);
+        if (bracket == text.npos)
             return false;
+        from = bracket + 1;
+        // Most brackets open another section, whose line need not be taken.
+        if (text.compare(from, section.size(), section) != 0)
+            continue;
         if (sectionOf(lines.takeAt(bracket)) == section)
             return true;
+        from = lines.position();
     }
 }
 
