@@ -14,6 +14,7 @@
 #include <unistd.h>
 
 // macOS has it and does not declare it.
+// NOLINTNEXTLINE(readability-redundant-declaration)
 extern char** environ;
 
 namespace {

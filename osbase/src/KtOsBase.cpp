@@ -28,6 +28,7 @@ constexpr std::size_t kLargestPrint = std::size_t{1} << 22;
 
 wchar_t* _wcsinc(const wchar_t* text)
 {
+    // NOLINTNEXTLINE(cppcoreguidelines-pro-type-const-cast): the result's type is Windows'.
     return const_cast<wchar_t*>(text + 1);
 }
 

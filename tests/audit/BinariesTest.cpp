@@ -7,11 +7,9 @@
 #include <sys/stat.h>
 
 using namespace ktqtbase::test;
-using testing::Contains;
 using testing::Each;
 using testing::ElementsAre;
 using testing::HasSubstr;
-using testing::IsEmpty;
 using testing::IsSupersetOf;
 using testing::Not;
 

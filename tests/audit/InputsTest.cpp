@@ -76,7 +76,7 @@ TEST(Audit, ReadsTheSourcesOfCompileCommands)
 TEST(Audit, TellsOfCompileCommandsThatAreNone)
 {
     const TemporaryFolder folder;
-    for (const char* const content : {"{}", "[1]", "[{\"directory\": \"/\"}]"}) {
+    for (const char* const content : {"{}", "[1]", R"([{"directory": "/"}])"}) {
         writeFile(folder / "list.json", content);
         const AuditRun run({text(folder / "list.json")});
         EXPECT_EQ(run.status(), 2);

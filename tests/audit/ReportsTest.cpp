@@ -7,7 +7,6 @@
 #include <QtCore/QJsonDocument>
 
 using namespace ktqtbase::test;
-using testing::ElementsAre;
 using testing::HasSubstr;
 using testing::Not;
 
@@ -124,7 +123,7 @@ TEST(Audit, TellsAProgramAll)
 TEST(Audit, WritesATableWithARowForEachPlace)
 {
     const Audited audited({"--csv", "--only", "inert"}, "a,\"b\".cpp");
-    const std::string file = "\"" + audited.path("a,\"\"b\"\".cpp").toStdString() + "\",,";
+    const std::string file = "\"" + audited.path(R"(a,""b"".cpp)").toStdString() + "\",,";
     const std::string advice =
         ",Here: no file is opened. On Windows: opens a file. Instead: QFile::open.\r\n";
     EXPECT_THAT(audited.text(),
@@ -158,7 +157,7 @@ TEST(Audit, TellsCodeHostsOnlyOfTheGroupsThatAreAskedFor)
 TEST(Audit, ShowsAPageThatNeedsNothingElse)
 {
     const Audited page({"--html"}, "x</script>.cpp");
-    const std::string start = "<script type=\"application/json\" id=\"data\">";
+    const std::string start = R"(<script type="application/json" id="data">)";
     const std::size_t begin = page.text().find(start) + start.size();
     const std::string data = page.text().substr(begin, page.text().find('\n', begin) - begin);
     const std::string json = data.substr(0, data.find("</script>"));

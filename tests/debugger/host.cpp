@@ -142,6 +142,8 @@ template<class T>
 union Bytes
 {
     explicit Bytes(int byte) { std::memset(bytes, byte, sizeof bytes); }
+    // Not defaulted, which would leave it out where the value has one.
+    // NOLINTNEXTLINE(modernize-use-equals-default)
     ~Bytes() {}
 
     unsigned char bytes[sizeof(T)];

@@ -160,7 +160,7 @@ TEST_F(FileDialogBlock, KeepsTheFoldersOfOtherNames)
         KtQtFileDialog dialog(false);
         fill(dialog);
         std::wstring name = row.name;
-        dialog.GetOFN().lpstrFile = &name[0];
+        dialog.GetOFN().lpstrFile = name.data();
         look(dialog, [&row](QFileDialog& shown) {
             EXPECT_EQ(nameEdit(shown)->text(), QString::fromLatin1(row.shown));
         });

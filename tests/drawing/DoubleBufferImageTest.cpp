@@ -301,7 +301,7 @@ TEST_F(DoubleBuffer, ShowsPixelsThatTheCallerWrote)
 {
     buffer.createImages(100, 50, 4);
     const unsigned int translucent = 0x80402010;
-    std::memcpy(buffer.memBits() + 400 * 7 + 4 * 3, &translucent, sizeof translucent);
+    std::memcpy(buffer.memBits() + 400l * 7 + 4l * 3, &translucent, sizeof translucent);
     buffer.repairFrontBuffer();
     QImage expected = transparent(100, 50);
     expected.setPixelColor(3, 7, QColor::fromRgba(qUnpremultiply(translucent)));

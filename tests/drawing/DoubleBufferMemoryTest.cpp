@@ -81,7 +81,10 @@ TEST_F(DoubleBufferMemory, OfFormerImagesIsGivenBackByCreateImages)
 // Only the two wrappers leave something behind, as they do by themselves.
 TEST_F(DoubleBufferMemory, IsGivenBackByTheDestructor)
 {
-    const long byWrappers = leftBy([] { KtQtPainterWrapper mem, front; });
+    const long byWrappers = leftBy([] {
+        KtQtPainterWrapper mem;
+        KtQtPainterWrapper front;
+    });
     EXPECT_EQ(leftBy([this] { KtGrQtDoubleBufferImage buffer(&widget); }), byWrappers);
     EXPECT_EQ(leftBy([this] {
                   KtGrQtDoubleBufferImage buffer(&widget);

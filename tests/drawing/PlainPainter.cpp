@@ -36,7 +36,8 @@ bool PlainPainter::endDraw()
 
 QColor PlainPainter::rgb(unsigned color)
 {
-    return QColor(color % 256, color / 256 % 256, color / 65536 % 256);
+    const auto part = [color](unsigned divisor) { return static_cast<int>(color / divisor % 256); };
+    return QColor(part(1), part(256), part(65536));
 }
 
 QPolygon PlainPainter::polygon(const POINT* pts, int n)

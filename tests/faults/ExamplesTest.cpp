@@ -17,9 +17,7 @@ namespace fs = std::filesystem;
 
 using faults::inChild;
 using ktqtbase::test::readFile;
-using ktqtbase::test::setMode;
 using ktqtbase::test::TemporaryFolder;
-using ktqtbase::test::writeFile;
 using testing::HasSubstr;
 
 std::vector<std::string> namesIn(const fs::path& folder)

@@ -110,8 +110,8 @@ protected:
         SCOPED_TRACE(testing::Message() << call << ' ' << n);
         const fs::path mark = m_log / "mark";
         fs::remove(mark);
-        QStringList arguments{"LD_PRELOAD=" FAULT_CALLS,
-                              "LD_LIBRARY_PATH=" FAULT_CALLS_FOLDER,
+        QStringList arguments{QString("LD_PRELOAD=%1").arg(FAULT_CALLS),
+                              QString("LD_LIBRARY_PATH=%1").arg(FAULT_CALLS_FOLDER),
                               "ASAN_OPTIONS=verify_asan_link_order=0:detect_leaks=0",
                               QString("KTFAULT_CALL=%1").arg(call),
                               QString("KTFAULT_AT=%1").arg(n),

@@ -84,7 +84,7 @@ void release(void* block)
 void support::refuseOwnAllocation(int n)
 {
     // Its first call loads a library.
-    void* frame;
+    void* frame = nullptr;
     backtrace(&frame, 1);
     refused = refused && n == 0;
     countdown = n;

@@ -153,7 +153,7 @@ void expectNotHere(int signal)
 
 void watchTheEnd()
 {
-    void* frame;
+    void* frame = nullptr;
     backtrace(&frame, 1);
     for (int signal : {SIGABRT, SIGBUS, SIGFPE, SIGILL, SIGSEGV})
         std::signal(signal, expectNotHere);

@@ -2,6 +2,7 @@
 #include "SystemCalls.h"
 
 #include <cerrno>
+#include <climits>
 #include <cstdarg>
 #include <cstdio>
 #include <cstdlib>
@@ -9,7 +10,6 @@
 
 #include <dlfcn.h>
 #include <fcntl.h>
-#include <limits.h>
 #include <sys/stat.h>
 #include <sys/uio.h>
 #include <unistd.h>
@@ -115,6 +115,8 @@ bool faults::done()
 
 #define KTFAULT_FUNCTION extern "C" __attribute__((visibility("default")))
 
+// NOLINTBEGIN(bugprone-macro-parentheses): names and types.
+
 // A function and its arguments, which fails where its place says so.
 #define KTFAULT_PLAIN(result, failure, call, name, place, parameters, arguments)                   \
     KTFAULT_FUNCTION result name parameters                                                        \
@@ -133,6 +135,8 @@ bool faults::done()
         va_end(arguments);                                                                         \
         return fails("open", path) ? -1 : next(path, flags, mode);                                 \
     }
+
+// NOLINTEND(bugprone-macro-parentheses)
 
 KTFAULT_OPEN(open)
 KTFAULT_OPEN(open64)

@@ -4,6 +4,7 @@
 #if __has_include(<objc/objc.h>)
 #include <objc/objc.h>
 #else
+// NOLINTNEXTLINE(modernize-use-using): as hosts have it.
 typedef unsigned char BOOL;
 #define __objc_INCLUDE_GNU
 #endif

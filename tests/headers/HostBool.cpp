@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 //
 // A host with a BOOL of its own: the same type, and later a macro.
+// NOLINTNEXTLINE(modernize-use-using): as hosts have it.
 typedef int BOOL;
 
 #include <KtQtBase/KtQtBase.h>

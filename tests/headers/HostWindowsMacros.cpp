@@ -41,4 +41,5 @@
 #include <KtQtBase/KtQtBase.h>
 #include <KtQtBase/Porting.h>
 
-static_assert(TRUE == 1 && FALSE == 0 && ERROR == 0, "the host's macros are lost");
+static_assert(TRUE == 1 && FALSE == 0, "the host's macros are lost");
+static_assert(ERROR == 0, "the host's macros are lost");

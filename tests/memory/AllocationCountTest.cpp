@@ -222,8 +222,8 @@ TEST(RepairFrontBuffer, AllocatesWhatQtDoes)
 
 // ---- Profiles -----------------------------------------------------------------------------------
 
-constexpr long kFileSize = 256 * 1024;
-constexpr long kSmallBuffers = 16 * 1024;
+constexpr long kFileSize = 256l * 1024;
+constexpr long kSmallBuffers = 16l * 1024;
 
 class ProfileMemory : public ::testing::Test
 {

@@ -67,7 +67,7 @@ TEST(swprintf, WritesTextsOfEveryLength)
     for (std::size_t length : {1022u, 1023u, 1024u, 1025u, 4095u, 4096u, 100000u}) {
         const std::wstring text(length, L'\u00e9');
         std::wstring buffer(length + 4, kPoison);
-        EXPECT_EQ(swprintf(&buffer[0], L"%ls", text.c_str()), static_cast<int>(length));
+        EXPECT_EQ(swprintf(buffer.data(), L"%ls", text.c_str()), static_cast<int>(length));
         EXPECT_EQ(buffer, text + L'\0' + std::wstring(3, kPoison)) << length;
     }
 }
@@ -94,7 +94,7 @@ protected:
     void SetUp() override
     {
         std::string name = (fs::temp_directory_path() / "osbase-XXXXXX").string();
-        ASSERT_NE(mkdtemp(&name[0]), nullptr);
+        ASSERT_NE(mkdtemp(name.data()), nullptr);
         m_folder = name;
     }
     void TearDown() override { fs::remove_all(m_folder); }
@@ -175,7 +175,7 @@ TEST_F(Rename, NeverCutsAName)
     const std::wstring old = makeFile("old");
     const std::wstring odd(40, wchar_t{0x7FFFFFFF});
     std::string narrow(255, '\0');
-    const std::size_t bytes = std::wcstombs(&narrow[0], odd.c_str(), narrow.size());
+    const std::size_t bytes = std::wcstombs(narrow.data(), odd.c_str(), narrow.size());
     const bool converts = bytes != static_cast<std::size_t>(-1);
     EXPECT_EQ(_wrename(old.c_str(), path(odd).c_str()), converts ? 0 : -1);
     EXPECT_EQ(names(), Names{converts ? narrow.substr(0, bytes) : "old"});

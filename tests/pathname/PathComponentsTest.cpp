@@ -212,7 +212,7 @@ TEST(GetFullPath, FillsABufferOfAnyLength)
     const std::wstring work(5000, L'a');
     const Built name(work.c_str(), L"/p");
     std::wstring out(work.size() + 4, L'#');
-    EXPECT_TRUE(name.GetFullPath(&out[0]));
+    EXPECT_TRUE(name.GetFullPath(out.data()));
     EXPECT_EQ(out, L"/p/" + work + L'\0');
 }
 

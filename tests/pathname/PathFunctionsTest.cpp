@@ -37,7 +37,9 @@ class GetWorkStringRows : public testing::TestWithParam<WorkStringRow>
 TEST_P(GetWorkStringRows, ReplaceBackslashesAndReadCharacters)
 {
     Text text(GetParam().text);
-    wchar_t last = L'#', first = L'#', second = L'#';
+    wchar_t last = L'#';
+    wchar_t first = L'#';
+    wchar_t second = L'#';
     GetWorkString(&text, GetParam().separator, last, first, second);
     EXPECT_STREQ(text.c_str(), GetParam().result);
     EXPECT_EQ(last, GetParam().last);
@@ -60,7 +62,9 @@ INSTANTIATE_TEST_SUITE_P(Table, GetWorkStringRows, testing::ValuesIn(kWorkString
 TEST(GetWorkString, WalksPastTerminators)
 {
     Text text(L"a\0\\b", 4);
-    wchar_t last = 0, first = 0, second = L'#';
+    wchar_t last = 0;
+    wchar_t first = 0;
+    wchar_t second = L'#';
     GetWorkString(&text, L'/', last, first, second);
     EXPECT_EQ(text, Text(L"a\0/b", 4));
     EXPECT_EQ(last, L'b');

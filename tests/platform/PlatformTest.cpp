@@ -37,7 +37,7 @@ TEST(executablePath, FillsABufferOfTheExactSize)
 {
     std::uint32_t size = sizeNeeded();
     std::string buffer(size + 8u, kPoison);
-    EXPECT_EQ(platform::executablePath(&buffer[0], &size), 0);
+    EXPECT_EQ(platform::executablePath(buffer.data(), &size), 0);
     EXPECT_EQ(size, sizeNeeded());
     EXPECT_EQ(buffer, ownPath() + '\0' + std::string(8, kPoison));
 }
@@ -46,7 +46,7 @@ TEST(executablePath, LeavesTheSizeOfALargerBuffer)
 {
     std::uint32_t size = sizeNeeded() + 100;
     std::string buffer(size, kPoison);
-    EXPECT_EQ(platform::executablePath(&buffer[0], &size), 0);
+    EXPECT_EQ(platform::executablePath(buffer.data(), &size), 0);
     EXPECT_EQ(size, sizeNeeded() + 100);
     EXPECT_EQ(buffer, ownPath() + '\0' + std::string(100, kPoison));
 }
@@ -56,7 +56,7 @@ TEST(executablePath, TellsTheSizeWhereTheBufferIsTooSmall)
     for (std::uint32_t given : {0u, 1u, sizeNeeded() - 1}) {
         std::uint32_t size = given;
         std::string buffer(sizeNeeded(), kPoison);
-        EXPECT_EQ(platform::executablePath(&buffer[0], &size), -1) << given;
+        EXPECT_EQ(platform::executablePath(buffer.data(), &size), -1) << given;
         EXPECT_EQ(size, sizeNeeded()) << given;
         EXPECT_EQ(buffer, std::string(sizeNeeded(), kPoison)) << given;
     }

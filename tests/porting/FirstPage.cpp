@@ -4,6 +4,8 @@
 // <windows.h> and <tchar.h>.
 #include <KtQtBase/Porting.h>
 
+// NOLINTBEGIN(modernize-*): as Windows sources are written.
+
 #define IDI_PANEL 101
 #define IDS_CAPTION 102
 
@@ -113,3 +115,5 @@ int APIENTRY WinMain(HINSTANCE hInstance, HINSTANCE hPrevInstance, LPSTR lpCmdLi
     const BOOL bDone = hPrevInstance == NULL && lpfnEntry == NULL && IS_INTRESOURCE(lpszIcon);
     return bDone && lpfnDialog && lpCmdLine && ullCount == 0 ? nCmdShow + logFont.lfItalic : FALSE;
 }
+
+// NOLINTEND(modernize-*)

@@ -153,7 +153,7 @@ TEST(PortingMemory, IsFilledAndCopied)
     CopyMemory(text, "12", 2);
     EXPECT_STREQ(text, "12cd");
     MoveMemory(text + 1, text, 3);
-    EXPECT_EQ(std::string(text, 7), std::string("112c\0f", 7));
+    EXPECT_EQ(std::string(text, 7), std::string("112c\0f\0", 7));
 }
 
 TEST(PortingArrays, KnowTheirLength)

@@ -12,10 +12,12 @@ struct NameRow
     const void* library;
 };
 
+// NOLINTBEGIN(bugprone-macro-parentheses): names of functions.
 #define ROW(name, other)                                                                           \
     {                                                                                              \
 #name, reinterpret_cast < const void*>(&name), reinterpret_cast < const void*>(&other)     \
     }
+// NOLINTEND(bugprone-macro-parentheses)
 
 static const NameRow kNames[] = {
     ROW(CharNextW, ::CharNext),

@@ -44,7 +44,7 @@ TEST(NarrowAscii, TakesAsciiOfEveryLengthAndWritesNoMore)
             expected += static_cast<char>(0x7F - i);
         }
         std::string narrow(length + 1, '-');
-        EXPECT_TRUE(narrowAscii(wide.data(), length, &narrow[0]));
+        EXPECT_TRUE(narrowAscii(wide.data(), length, narrow.data()));
         EXPECT_EQ(narrow, expected + '-');
     }
 }

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "support/SlowPathName.h"
 
+#include <algorithm>
 #include <cwctype>
 #include <locale>
 #include <vector>
@@ -292,7 +293,7 @@ bool slow::hasExtensionOf(const Name& name, const std::wstring& list)
     if (list.empty() || extension.empty())
         return list.empty() && extension.empty();
     // An item ends at a terminator, and a terminator in the extension agrees with that.
-    const std::wstring compared = extension.c_str();
+    const std::wstring compared = extension.substr(0, extension.find(L'\0'));
     std::vector<std::wstring> items(1);
     for (wchar_t ch : list) {
         if (ch == L';')
@@ -300,11 +301,7 @@ bool slow::hasExtensionOf(const Name& name, const std::wstring& list)
         else
             items.back() += lower(ch);
     }
-    for (const std::wstring& item : items) {
-        if (item == compared)
-            return true;
-    }
-    return false;
+    return std::find(items.begin(), items.end(), compared) != items.end();
 }
 
 std::wstring slow::displayName(const Name& name, int width)
@@ -356,11 +353,8 @@ bool slow::isValidFilename(const std::wstring& name, bool allowWildcards)
             return false;
     }
     const std::wstring forbidden = allowWildcards ? L"<>|/\"" : L"*<>?|/\"";
-    for (wchar_t ch : name) {
-        if (firstIndex(forbidden, ch) != -1)
-            return false;
-    }
-    return true;
+    return std::none_of(name.begin(), name.end(),
+                        [&](wchar_t ch) { return firstIndex(forbidden, ch) != -1; });
 }
 
 slow::Parse slow::parse(const std::wstring& text, const std::optional<std::wstring>& base,

@@ -122,7 +122,7 @@ void readLine(const std::string& line, const ProfileQuestion& question, Findings
 Findings readLines(const std::string& bytes, const ProfileQuestion& question)
 {
     Findings findings;
-    const std::string text = bytes.c_str();
+    const std::string text = bytes.substr(0, bytes.find('\0'));
     for (const std::string& line : linesOf(text)) {
         readLine(line, question, findings);
         if (findings.value)

@@ -32,7 +32,7 @@ struct Name
 Name nameOf(HINSTANCE module, std::size_t size, Function function = GetModuleFileName)
 {
     Name name{0, std::wstring(size + 1, L'#')};
-    name.result = function(module, &name.buffer[0], static_cast<unsigned int>(size));
+    name.result = function(module, name.buffer.data(), static_cast<unsigned int>(size));
     return name;
 }
 

@@ -186,7 +186,7 @@ TEST(GetProcAddress, FindsNoOrdinals)
 {
     const LoadedModule module(kModules / "ktplain.dll");
     for (const std::uintptr_t ordinal : {0u, 1u, 5u, 0xFFFFu}) {
-        const auto name = reinterpret_cast<const char*>(ordinal);
+        const auto* const name = reinterpret_cast<const char*>(ordinal);
         EXPECT_EQ(GetProcAddress(module.handle(), name), nullptr) << ordinal;
         EXPECT_EQ(GetProcAddress(nullptr, name), nullptr) << ordinal;
     }
@@ -216,7 +216,7 @@ TEST(GetProcAddress, FindsNothingInHandlesThatNameNoModule)
 TEST(GetProcAddress, LooksInWhatIsLoadedAfterThisLibraryForMinusOne)
 {
     constexpr const char* kOwnFunction = "_Z12GetTickCountv";
-    const auto next = reinterpret_cast<HINSTANCE>(std::intptr_t{-1});
+    auto* const next = reinterpret_cast<HINSTANCE>(std::intptr_t{-1});
     ASSERT_NE(dlsym(RTLD_NEXT, kOwnFunction), nullptr);
     for (const auto find : {::GetProcAddress, KtKernel32::GetProcAddress}) {
         EXPECT_EQ(find(next, kOwnFunction), nullptr);

@@ -72,7 +72,7 @@ TEST_P(NameConstructor, KeepsTheHighestFlagOnlyAndSetsTheLowest)
 
 TEST_P(NameConstructor, LeavesTheFileSystemUnset)
 {
-    int before;
+    int before = 0;
     std::memset(&before, GetParam(), sizeof(before));
     EXPECT_EQ(m_memory.at<int>(offsetIn(*m_volume, &m_volume->m_fsType)), before);
 }

@@ -135,7 +135,7 @@ TEST(GetDriveTypeByVol, ClassifiesTheNameByItsExactCase)
     for (const DriveTypeRow& row : kDriveTypeRows) {
         std::wstring name = row.name;
         FS_TYPE type = kNoFileSystem;
-        GetDriveTypeByVol(&name[0], type, row.maxComponentLen);
+        GetDriveTypeByVol(name.data(), type, row.maxComponentLen);
         EXPECT_EQ(type, row.type) << row.name << ' ' << row.maxComponentLen;
         EXPECT_EQ(name, row.name);
     }

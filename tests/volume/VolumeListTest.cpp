@@ -37,7 +37,8 @@ TEST_F(VolumeList, IsEmptyAtLoad)
 
 TEST_F(VolumeList, FindsAVolumeByItsExactName)
 {
-    PlainVolume c(L"C:"), d(L"D:");
+    PlainVolume c(L"C:");
+    PlainVolume d(L"D:");
     volumeList << &c << &d;
     EXPECT_EQ(find(L"C:"), &c);
     EXPECT_EQ(find(L"D:"), &d);
@@ -57,14 +58,17 @@ TEST_F(VolumeList, ComparesTheWholeLengthOfNames)
 
 TEST_F(VolumeList, GivesTheFirstOfTwoVolumesOfOneName)
 {
-    PlainVolume other(L"D:"), first(L"C:"), second(L"C:");
+    PlainVolume other(L"D:");
+    PlainVolume first(L"C:");
+    PlainVolume second(L"C:");
     volumeList << &other << &first << &second;
     EXPECT_EQ(find(L"C:"), &first);
 }
 
 TEST_F(VolumeList, IsSearchedPastNullEntriesAndVolumesWithoutAName)
 {
-    PlainVolume nameless(L"X:"), c(L"C:");
+    PlainVolume nameless(L"X:");
+    PlainVolume c(L"C:");
     ReleaseStringPtr(&nameless.m_pLocalName);
     volumeList << nullptr << &nameless << &c << nullptr;
     EXPECT_EQ(find(L"C:"), &c);

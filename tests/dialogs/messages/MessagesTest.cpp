@@ -237,7 +237,7 @@ TEST(SendMessage, IsDeliveredBeforeItReturns)
 TEST(SendMessage, ReachesAChildByItsOwnHandle)
 {
     QWidget window;
-    Receiver* const child = new Receiver;
+    auto* const child = new Receiver;
     child->setParent(&window);
     child->winId();
     EXPECT_EQ(QKtMessageCenter::sendMessage(child->handle(), WM_APP, 1, 0), 0);

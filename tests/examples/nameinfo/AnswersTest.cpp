@@ -37,7 +37,7 @@ void expectAnswers(const std::vector<AnswerRow>& rows)
 
 TEST(Nameinfo, AnswersForADriveName)
 {
-    const QJsonObject answer = answersFor({"\"c:\\dir\\f.tar.gz\""}).at(0).toObject();
+    const QJsonObject answer = answersFor({R"("c:\dir\f.tar.gz")"}).at(0).toObject();
     EXPECT_EQ(answer["category"], "drive");
     EXPECT_EQ(answer["type"], "not found");
     EXPECT_EQ(answer["volume"], "C:");
@@ -111,10 +111,10 @@ TEST(Nameinfo, ShowsANameWithAnExtensionOfTheList)
 TEST(Nameinfo, CutsANameForDisplay)
 {
     expectAnswers({
-        {{"--width", "12", "aa\\bb\\cc\\dd\\file"}, "display", ".../dd/file"},
-        {{"--width", "14", "d:\\aa\\bb\\cc\\dd\\file"}, "display", "D:\\.../dd/file"},
-        {{"--width", "all", "aa\\bb\\cc\\dd\\file"}, "display", "aa/bb/cc/dd/file"},
-        {{"--width=0", "aa\\bb\\cc\\dd\\file"}, "display", ".../dd/file"},
+        {{"--width", "12", R"(aa\bb\cc\dd\file)"}, "display", ".../dd/file"},
+        {{"--width", "14", R"(d:\aa\bb\cc\dd\file)"}, "display", "D:\\.../dd/file"},
+        {{"--width", "all", R"(aa\bb\cc\dd\file)"}, "display", "aa/bb/cc/dd/file"},
+        {{"--width=0", R"(aa\bb\cc\dd\file)"}, "display", ".../dd/file"},
         {{"--width", "12", "//"}, "display", "none"},
     });
 }
@@ -155,10 +155,10 @@ TEST(Nameinfo, ShowsTheStatus)
 TEST(Nameinfo, ShowsWhetherTheVolumeTakesTheName)
 {
     expectAnswers({
-        {{"--validate", " \"C:\\dir\\f.txt\" "}, "valid", "yes"},
+        {{"--validate", R"( "C:\dir\f.txt" )"}, "valid", "yes"},
         {{"--validate", "C:\\dir\\*.txt"}, "valid", "yes"},
         {{"--validate", "C:\\dir?\\f.txt"}, "valid", "no"},
-        {{"--validate", "C:\\dir\\\\f.txt"}, "valid", "no"},
+        {{"--validate", R"(C:\dir\\f.txt)"}, "valid", "no"},
         {{"--validate", "C:/dir/f.txt"}, "valid", "no"},
         {{"--validate", "report.txt"}, "valid", "yes"},
         {{"--validate", "a:b:c"}, "valid", "no"},

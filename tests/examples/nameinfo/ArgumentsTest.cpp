@@ -7,7 +7,6 @@
 
 using testing::AllOf;
 using testing::ContainsRegex;
-using testing::EndsWith;
 using testing::HasSubstr;
 using testing::SizeIs;
 using testing::StartsWith;

@@ -38,7 +38,7 @@ MeasuredRun runMeasured(const QString& line, const QStringList& arguments)
     const QTemporaryDir folder;
     QFile told(folder.filePath("told"));
     const QString measured = "program=$0; measured() { '" MOST_MEMORY "' '" + told.fileName() +
-                             "' \"$program\" \"$@\"; }; ";
+                             R"(' "$program" "$@"; }; )";
     const ProgramResult result = runInShell(kGiveMemoryBack + measured + line, arguments);
     EXPECT_TRUE(told.open(QFile::ReadOnly)) << result.err;
     return {result, told.readAll().toLong()};
@@ -101,7 +101,7 @@ TEST(Nameinfo, ReadsAFileAsStandardInputOnce)
     for (const char* const input : {"-", "/dev/stdin"}) {
         SCOPED_TRACE(input);
         const ProgramResult result =
-            runInShell("{ \"$0\" --columns name,type --list \"$2\"; cat; } <\"$1\"", {list, input});
+            runInShell(R"({ "$0" --columns name,type --list "$2"; cat; } <"$1")", {list, input});
         EXPECT_THAT(result.out, StartsWith("name                      type\n"
                                            "/tmp                      directory\n"
                                            "C:\\dir\\a longer name.txt  not found\n"));
@@ -150,7 +150,7 @@ TEST(Nameinfo, TakesAClosedInputForAnError)
 {
     for (const char* const form : {"--columns=name", "--wide", "--json", "--csv"}) {
         SCOPED_TRACE(form);
-        const ProgramResult result = runInShell("\"$0\" \"$1\" --list - <&-", {form});
+        const ProgramResult result = runInShell(R"("$0" "$1" --list - <&-)", {form});
         EXPECT_EQ(result.status, 2);
         EXPECT_EQ(result.err, "nameinfo: standard input: Bad file descriptor\n");
     }
@@ -243,7 +243,7 @@ TEST(Nameinfo, NeedsNoMemoryForALineThatIsTooLong)
     const QTemporaryDir folder;
     const long few = memoryOf("measured --list \"$1\"", {writeList(folder, names(500))});
     const MeasuredRun run =
-        runMeasured("head -c 50000000 /dev/zero | tr '\\0' a >\"$1\"; measured --list \"$1\"",
+        runMeasured(R"(head -c 50000000 /dev/zero | tr '\0' a >"$1"; measured --list "$1")",
                     {folder.filePath("list.txt")});
     EXPECT_THAT(run.program.err, EndsWith(":1: longer than 65535 bytes\n"));
     EXPECT_LT(run.memory, few + few / 4);

@@ -36,14 +36,14 @@ QString writeManyNames(const QTemporaryDir& folder)
 TEST(Nameinfo, NamesAnOutputThatIsFull)
 {
     if (QFile::exists("/dev/full"))
-        expectUnwritten("\"$0\" \"$1\" /tmp >/dev/full", {}, "No space left on device");
+        expectUnwritten(R"("$0" "$1" /tmp >/dev/full)", {}, "No space left on device");
 }
 
 // A limit of the system stands for the full disk where there is no device for one.
 TEST(Nameinfo, NamesAnOutputThatMayNotGrow)
 {
     const QTemporaryDir folder;
-    expectUnwritten("trap '' XFSZ; ulimit -f 0; \"$0\" \"$1\" /tmp >\"$2\"",
+    expectUnwritten(R"(trap '' XFSZ; ulimit -f 0; "$0" "$1" /tmp >"$2")",
                     {folder.filePath("out.txt")}, "File too large");
 }
 
@@ -51,7 +51,7 @@ TEST(Nameinfo, StopsAtAFullOutputBeforeTheEnd)
 {
     const QTemporaryDir folder;
     const QString list = writeManyNames(folder);
-    expectUnwritten("trap '' XFSZ; ulimit -f 1; \"$0\" \"$1\" --list \"$2\" >\"$3\"",
+    expectUnwritten(R"(trap '' XFSZ; ulimit -f 1; "$0" "$1" --list "$2" >"$3")",
                     {list, folder.filePath("out.txt")}, "File too large", kForms);
 }
 
@@ -59,13 +59,13 @@ TEST(Nameinfo, NamesAnOutputThatIsClosed)
 {
     const QTemporaryDir folder;
     const QString list = writeList(folder, "/tmp\n");
-    expectUnwritten("\"$0\" \"$1\" /tmp >&-", {}, "Bad file descriptor");
-    expectUnwritten("\"$0\" \"$1\" --list \"$2\" >&-", {list}, "Bad file descriptor");
+    expectUnwritten(R"("$0" "$1" /tmp >&-)", {}, "Bad file descriptor");
+    expectUnwritten(R"("$0" "$1" --list "$2" >&-)", {list}, "Bad file descriptor");
 }
 
 TEST(Nameinfo, NamesAClosedOutputBeforeItReadsAList)
 {
-    expectUnwritten("\"$0\" \"$1\" --list /no/such/list.txt >&-", {}, "Bad file descriptor");
+    expectUnwritten(R"("$0" "$1" --list /no/such/list.txt >&-)", {}, "Bad file descriptor");
 }
 
 TEST(Nameinfo, EndsQuietlyWhenNobodyReadsOn)
@@ -75,7 +75,7 @@ TEST(Nameinfo, EndsQuietlyWhenNobodyReadsOn)
     for (const QString& form : kForms) {
         SCOPED_TRACE(form.toStdString());
         const QStringList arguments = {form, list};
-        const QString line = "{ \"$0\" \"$1\" --list \"$2\"; echo $? >&2; } | head -n 1";
+        const QString line = R"({ "$0" "$1" --list "$2"; echo $? >&2; } | head -n 1)";
         EXPECT_EQ(runInShell(line, arguments).err, "141\n"); // killed by SIGPIPE
         EXPECT_EQ(runInShell("trap '' PIPE; " + line, arguments).err, "1\n");
     }

@@ -9,8 +9,6 @@
 using testing::AllOf;
 using testing::ContainsRegex;
 using testing::Each;
-using testing::ElementsAre;
-using testing::Ge;
 using testing::HasSubstr;
 using testing::Le;
 using testing::Not;
@@ -90,7 +88,7 @@ TEST(Nameinfo, AsksTheTerminalBeforeTheEnvironment)
 TEST(Nameinfo, FitsItsTableInto80ColumnsWithoutATerminal)
 {
     const ProgramResult result =
-        runInShell("unset COLUMNS; exec \"$0\" --list \"$1\"", {NAMES_LIST});
+        runInShell(R"(unset COLUMNS; exec "$0" --list "$1")", {NAMES_LIST});
     EXPECT_THAT(widthsOf(result.out), Each(Le(80)));
     for (const int columns : {0, -5}) {
         EXPECT_EQ(printedIn(columns, {"--list", NAMES_LIST}), result.out);

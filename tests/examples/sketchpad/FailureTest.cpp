@@ -5,7 +5,6 @@
 
 #include <gmock/gmock.h>
 
-using ktqtbase::test::readFile;
 using testing::HasSubstr;
 
 namespace fs = std::filesystem;

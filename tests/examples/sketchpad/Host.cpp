@@ -83,7 +83,7 @@ SessionResult Host::playWithLimit(int kibibytes, const std::string& script)
     writeFile("script", script);
     ChildProcess process;
     prepare(*process, {"--script", "script"});
-    const QString limit = QString("trap '' XFSZ; ulimit -f %1; exec \"$0\" \"$@\"").arg(kibibytes);
+    const QString limit = QString(R"(trap '' XFSZ; ulimit -f %1; exec "$0" "$@")").arg(kibibytes);
     process->setArguments(QStringList{"-c", limit, process->program()} + process->arguments());
     process->setProgram("bash");
     return run(process);

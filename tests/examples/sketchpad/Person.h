@@ -32,13 +32,13 @@ public:
     void drag(const QPoint& from, const QPoint& to) const;
 
     // Away from the user, so many steps.
-    void turnWheelWithCtrl(const QPoint& place, int steps) const;
+    void turnWheelWithCtrl(const QPoint& point, int steps) const;
 
     // Types a name into the dialog of this title and waits until the dialog is gone. Without a
     // name, takes the one that it proposes.
     bool answerDialog(const QString& title, const QString& name) const;
 
-    void moveWindow(const QPoint& place) const;
+    void moveWindow(const QPoint& point) const;
     QPoint windowPlace() const; // of its corner inside the frame, on the screen
     QPixmap picture() const;    // with its frame
 

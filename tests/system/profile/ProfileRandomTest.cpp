@@ -11,7 +11,7 @@
 
 namespace {
 
-using std::string_literals::operator""s;
+using std::string_literals::operator""s; // NOLINT(misc-unused-using-decls): it is used below.
 
 constexpr int kQuestionsPerFile = 50;
 
@@ -90,7 +90,7 @@ std::string ProfileMaker::value()
                                                     "5",
                                                     "12abc",
                                                     "\"a b\"",
-                                                    "\"\"\"",
+                                                    R"(""")",
                                                     "\"a",
                                                     "a\"",
                                                     "a=b",

@@ -11,7 +11,7 @@
 
 namespace {
 
-using std::string_literals::operator""s;
+using std::string_literals::operator""s; // NOLINT(misc-unused-using-decls): it is used below.
 
 struct ValueRow
 {

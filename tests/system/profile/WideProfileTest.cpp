@@ -162,7 +162,7 @@ TEST(GetPrivateProfileString, FindsNothingUnderANameOf1024Bytes)
 TEST(GetPrivateProfileString, FindsNoFileUnderANameOf1024Bytes)
 {
     ScratchProfile profile("[S]\nk=5\n");
-    const std::string folder = profile.folder();
+    const std::string& folder = profile.folder();
     const std::wstring start(folder.begin(), folder.end());
     const std::wstring end = L"app.ini";
     for (const std::size_t length : {1023u, 1024u, 1025u}) {

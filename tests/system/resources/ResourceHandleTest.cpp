@@ -50,7 +50,7 @@ TEST(AfxGetResourceHandle, IsNullUntilItIsSet)
 
 TEST(AfxGetResourceHandle, GivesWhatTheHostStoredUnchecked)
 {
-    const auto handle = reinterpret_cast<HINSTANCE>(0x1234);
+    auto* const handle = reinterpret_cast<HINSTANCE>(0x1234);
     AfxSetResourceHandle(handle);
     EXPECT_EQ(AfxGetResourceHandle(), handle);
     EXPECT_EQ(m_hCurrentResourceHandle, handle);

@@ -22,7 +22,7 @@ using namespace std::string_literals;
 struct Loaded
 {
     Loaded(HINSTANCE module, unsigned int id, int size, wchar_t filling = L'#')
-        : buffer(10, filling), length(LoadString(module, id, &buffer[0], size))
+        : buffer(10, filling), length(LoadString(module, id, buffer.data(), size))
     {}
     std::wstring buffer;
     int length;

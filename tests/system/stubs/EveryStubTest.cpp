@@ -194,7 +194,7 @@ private:
     static Stub ofMethod(Method method)
     {
         return [=](Pass pass, int error) {
-            Object object = newObject<Object>();
+            auto object = newObject<Object>();
             const auto before = bytesOf(object);
             const auto function = [&](auto&&... each) -> decltype(auto) {
                 return (object.*method)(std::forward<decltype(each)>(each)...);
