@@ -54,7 +54,7 @@ TEST(DrawRawImage, ShowsPaddedRowsAtThePlaceThatIsTheSize)
 
 TEST(DrawRawImage, LiesAtItsSize)
 {
-    std::vector<unsigned char> bits(64u * 32 * 4, 0xFF);
+    std::vector<unsigned char> bits(std::size_t{64} * 32 * 4, 0xFF);
     QImage image(160, 80, drawing::kScreen);
     image.fill(Qt::black);
     QImage expected = image;

@@ -121,7 +121,7 @@ void addTextAndImages(std::vector<Operation>& all)
         p.drawText(x, y, L"Quay \u00E9t\u00E9", lot.between(-1, 8));
     }));
     all.push_back(operation("drawImage(raw)", when, [](auto& p, Lot& lot) {
-        std::vector<unsigned char> bits(40u * 40 * 4);
+        std::vector<unsigned char> bits(std::size_t{40} * 40 * 4);
         for (unsigned char& byte : bits)
             byte = static_cast<unsigned char>(lot.below(256) | 0xC0);
         const int x = lot.between(1, 40);

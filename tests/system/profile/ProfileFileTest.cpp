@@ -115,7 +115,7 @@ TEST(ProfileFile, IsReadWholeAbove4MiB)
 {
     const std::string line = "a=" + std::string(98, 'v') + "\n";
     std::string bytes = "[S]\n";
-    while (bytes.size() < 5u * 1024 * 1024)
+    while (bytes.size() < std::size_t{5} * 1024 * 1024)
         bytes += line;
     ScratchProfile profile(bytes + "k=5\n");
     EXPECT_EQ(profile.read({"S", "k", kQuoted, 64}).text, "5");
