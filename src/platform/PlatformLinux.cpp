@@ -10,7 +10,7 @@
 
 namespace {
 
-// The kernel has one page for this path.
+// The kernel has one page for this path, of at most 64 KiB.
 constexpr std::size_t kLongestPath = 64 * 1024;
 
 // Reads the executable's path, without a terminator. Result: its length, or 0 where it is not known.
