@@ -12,7 +12,7 @@ else()
     target_link_libraries(KtQtBase PRIVATE ${CMAKE_DL_LIBS})
     # Calls of the library's own functions go straight to them, as on macOS, which spares the loader a
     # fifth of its work. It still looks for objects, which a program may hold copies of, and for the
-    # functions that a host may have its own in place of.
+    # functions that a host may have its own of.
     set(replaceable ${CMAKE_CURRENT_SOURCE_DIR}/platform/replaceable-functions.txt)
     set(own_calls -Wl,-Bsymbolic-functions -Wl,--dynamic-list-data)
     check_linker_flag(CXX "${own_calls}" KTQTBASE_LINKER_BINDS_OWN_CALLS)

@@ -18,8 +18,8 @@ nm --dynamic --defined-only "$library" | awk -v kinds="$([ "$1" = GoStraight ] &
 comm -12 "$work/looked-for" "$work/own" >"$work/left"
 
 GoStraight() {
-    sed -n 's/.*extern "C++" { "\(.*\)".*/\1/p' src/platform/replaceable-functions.txt >"$work/replaceable"
-    c++filt <"$work/left" | diff "$work/replaceable" -
+    sed -n 's/^ *"\(.*\)";$/\1/p' src/platform/replaceable-functions.txt >"$work/replaceable"
+    c++filt <"$work/left" | sort | diff "$work/replaceable" -
 }
 
 # A program may hold the one copy of an object that both of them use.

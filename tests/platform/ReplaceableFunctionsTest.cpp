@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 //
-// A program with a function of its own in place of one that the library calls.
+// A program with a function of its own in place of one that the library calls. The tests of path objects
+// replace the others.
 #include <KtQtBase/PathName.h>
 #include <KtQtBase/windows/Constants.h>
 #include <KtQtBase/windows/Files.h>
