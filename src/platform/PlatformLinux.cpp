@@ -49,7 +49,8 @@ int give(const char* path, std::size_t length, char* buffer, std::uint32_t* size
 int giveLongPath(char* buffer, std::uint32_t* size)
 {
     char path[kLongestPath];
-    return give(path, readExecutablePath(path, sizeof path), buffer, size);
+    const std::size_t length = readExecutablePath(path, sizeof path);
+    return give(path, length, buffer, size);
 }
 
 QRect mainScreenFrame()
