@@ -11,7 +11,7 @@
 namespace {
 
 // The kernel has one page for this path, of at most 64 KiB.
-constexpr std::size_t kLongestPath = 64 * 1024;
+constexpr std::size_t kLongestPath = std::size_t{64} * 1024;
 
 // Reads the executable's path, without a terminator. Result: its length, or 0 where it is not known.
 std::size_t readExecutablePath(char* text, std::size_t size)
