@@ -57,11 +57,4 @@ TEST(OwnGetFileAttributes, IsAskedByExists)
     EXPECT_EQ(g_asked, std::vector<std::wstring>(2, L"C:/name"));
 }
 
-TEST(OwnGetFileAttributes, AnswersForItsOtherNames)
-{
-    g_answer = 0x123;
-    EXPECT_EQ(KtKernel32::GetFileAttributes(L"x"), 0x123u);
-    EXPECT_EQ(KtKernel32::GetFileAttributesW(L"x"), 0x123u);
-}
-
 } // namespace
