@@ -10,7 +10,7 @@ import pathlib
 import sys
 from xml.sax.saxutils import escape
 
-WIDTH, HEIGHT, MARGIN, TITLE, LEGEND = 400, 250, 65, 30, 36
+WIDTH, HEIGHT, MARGIN, TITLE, LEGEND = 400, 250, 80, 30, 36
 COLUMNS = 2
 COLOURS = {True: "#1f5fbf", False: "#c2571a"}
 
