@@ -120,6 +120,8 @@ TEST(ProfileSection, NameIsWhatStandsBetweenTheBrackets)
     expectValues({
         {"text behind it", "[S] x\nk=5\n", "S", "k", {1, "5"}},
         {"second bracket", "[S]]\nk=5\n", "S", "k", {1, "5"}},
+        {"second bracket of a line that opens another", "[T [S]\nk=5\n", "S", "k", kDefault},
+        {"second bracket of a line that begins alike", "[S x[S]\nk=5\n", "S", "k", kDefault},
         {"bracket inside", "[[S]\nk=5\n", "[S", "k", {1, "5"}},
         {"blanks inside count", "[ S ]\nk=5\n", "S", "k", kDefault},
         {"argument is trimmed", "[S]\nk=5\n", " \t\r\n\v\fS\f ", "k", {1, "5"}},
