@@ -142,7 +142,7 @@ template<class T>
 union Bytes
 {
     explicit Bytes(int byte) { std::memset(bytes, byte, sizeof bytes); }
-    // Not defaulted, which would leave it out where the value has one.
+    // A defaulted one would be deleted where the value has a destructor.
     // NOLINTNEXTLINE(modernize-use-equals-default)
     ~Bytes() {}
 
