@@ -14,7 +14,8 @@ namespace ktqtbase::platform {
 //   buffer    out: the path and its terminator
 //   size      in/out: the buffer's size in bytes
 // Result: 0 done, *size stays; -1 the path does not fit, *size is the size that it needs and the
-// buffer stays. If the path is not known, -1 and a size of 0.
+// buffer stays. If the path is not known, -1 and a size of 0. Callers have room for 1,024 bytes, so that
+// a platform need not give a longer path.
 int executablePath(char* buffer, std::uint32_t* size);
 
 // The suffix of a shared library's file name, with its dot.

@@ -4,54 +4,35 @@
 #include <QtGui/QGuiApplication>
 #include <QtGui/QScreen>
 
+#include <algorithm>
 #include <cstring>
 
 #include <unistd.h>
 
 namespace {
 
-// The kernel has one page for this path, of at most 64 KiB.
-constexpr std::size_t kLongestPath = std::size_t{64} * 1024;
-
-// Reads the executable's path, without a terminator. Result: its length, or 0 where it is not known.
-std::size_t readExecutablePath(char* text, std::size_t size)
+// The size of the executable's path with its terminator, 0 where it is not known, and the path where
+// callers have room for it. Nothing of it is on the heap, so that it can be read until the process
+// ends and stays nowhere when the library is unloaded. With room for every path the loader would have
+// to map memory besides that of the library's file.
+struct ExecutablePath
 {
-    const ssize_t length = readlink("/proc/self/exe", text, size);
-    return length > 0 ? static_cast<std::size_t>(length) : 0;
-}
+    ExecutablePath()
+    {
+        // The kernel has one page for this path, of at most 64 KiB.
+        char whole[64 * 1024 + 1];
+        const ssize_t length = readlink("/proc/self/exe", whole, sizeof whole - 1);
+        if (length <= 0)
+            return;
+        whole[length] = '\0';
+        size = static_cast<std::size_t>(length) + 1;
+        if (size <= sizeof text)
+            std::memcpy(text, whole, size);
+    }
 
-// The executable's path, unless it is longer than usual. Nothing of it is on the heap, so that it can
-// be read until the process ends and stays nowhere when the library is unloaded. With room for every
-// path the loader would have to map memory besides that of the library's file.
-struct UsualPath
-{
-    UsualPath() : length(readExecutablePath(text, sizeof text)) {}
-
-    bool isWhole() const { return length < sizeof text; }
-
-    const std::size_t length;
+    std::size_t size = 0;
     char text[1024];
 };
-
-// Gives a path to a caller of executablePath.
-int give(const char* path, std::size_t length, char* buffer, std::uint32_t* size)
-{
-    const std::size_t needed = length > 0 ? length + 1 : 0;
-    if (needed == 0 || needed > *size) {
-        *size = static_cast<std::uint32_t>(needed);
-        return -1;
-    }
-    std::memcpy(buffer, path, length);
-    buffer[length] = '\0';
-    return 0;
-}
-
-int giveLongPath(char* buffer, std::uint32_t* size)
-{
-    char path[kLongestPath];
-    const std::size_t length = readExecutablePath(path, sizeof path);
-    return give(path, length, buffer, size);
-}
 
 QRect mainScreenFrame()
 {
@@ -66,8 +47,13 @@ namespace ktqtbase::platform {
 int executablePath(char* buffer, std::uint32_t* size)
 {
     // Read once, since the path does not change.
-    static const UsualPath path;
-    return path.isWhole() ? give(path.text, path.length, buffer, size) : giveLongPath(buffer, size);
+    static const ExecutablePath path;
+    if (path.size == 0 || path.size > std::min<std::size_t>(*size, sizeof path.text)) {
+        *size = static_cast<std::uint32_t>(path.size);
+        return -1;
+    }
+    std::memcpy(buffer, path.text, path.size);
+    return 0;
 }
 
 const char* sharedLibrarySuffix()
